@@ -1,0 +1,3 @@
+#include "app/UserApp.h"
+
+int main(int argc, char** argv) { return UserApp::Run(argc, argv); }

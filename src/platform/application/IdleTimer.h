@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QTimer>
+
+class SystemDesktop;
+
+/// Tells once when the user has not touched keyboard, mouse or screen for a while. GUI thread.
+class IdleTimer : public QObject {
+    Q_OBJECT
+
+public:
+    explicit IdleTimer(QObject* parent = nullptr);
+    IdleTimer(const SystemDesktop& desktop, QObject* parent);
+
+    /// Starts, or starts again: Timeout comes after `seconds` without user input, counted from now at
+    /// the earliest.
+    void Start(int seconds);
+    void Stop();
+    bool IsActive() const { return m_check.isActive(); }
+
+signals:
+    void Timeout();
+
+private:
+    void Check();
+    qint64 IdleMilliseconds() const;
+
+    const SystemDesktop& m_desktop;
+    QTimer m_check{this};
+    QElapsedTimer m_running;
+    qint64 m_limit = 0;
+};

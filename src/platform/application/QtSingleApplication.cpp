@@ -1,0 +1,87 @@
+#include "platform/application/QtSingleApplication.h"
+
+#include "platform/system/SystemPipe.h"
+#include "platform/system/SystemSession.h"
+
+#include <QDataStream>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QLocalSocket>
+#include <QWidget>
+#include <glog/logging.h>
+
+namespace {
+
+constexpr char Acknowledgement = '\x06';
+constexpr int MaxMessageBytes = 1024 * 1024;
+
+} // namespace
+
+QtSingleApplication::QtSingleApplication(const QString& id, int& argc, char** argv) : QApplication(argc, argv) {
+    // Account and session in the name: instances of other users and sessions do not meet.
+    m_serverName = QStringLiteral("%1-%2-%3")
+                       .arg(id)
+                       .arg(qHash(SystemPipe::Native().CurrentAccount()), 0, 16)
+                       .arg(SystemSession::Native().SessionId());
+    m_lock = std::make_unique<QLockFile>(QDir::temp().filePath(m_serverName + QStringLiteral(".lock")));
+    m_lock->setStaleLockTime(0); // held as long as its process lives, however long
+    if (!m_lock->tryLock())
+        return;
+
+    QLocalServer::removeServer(m_serverName); // what a crashed instance left
+    m_server = std::make_unique<QLocalServer>();
+    m_server->setSocketOptions(QLocalServer::UserAccessOption);
+    connect(m_server.get(), &QLocalServer::newConnection, this, &QtSingleApplication::Accept);
+    if (!m_server->listen(m_serverName))
+        LOG(WARNING) << "QtSingleApplication cannot listen: " << m_server->errorString().toStdString();
+}
+
+QtSingleApplication::~QtSingleApplication() = default;
+
+bool QtSingleApplication::sendMessage(const QString& message, int timeoutMs) {
+    if (!isRunning())
+        return false;
+    const QDeadlineTimer deadline(timeoutMs);
+    const auto left = [&deadline] { return static_cast<int>(deadline.remainingTime()); };
+
+    QLocalSocket socket;
+    socket.connectToServer(m_serverName);
+    if (!socket.waitForConnected(left()))
+        return false;
+    QDataStream(&socket) << message.toUtf8();
+    while (socket.bytesAvailable() == 0)
+        if (!socket.waitForReadyRead(left()))
+            return false;
+    char answer = 0;
+    return socket.getChar(&answer) && answer == Acknowledgement;
+}
+
+void QtSingleApplication::setActivationWindow(QWidget* window, bool activateOnMessage) {
+    m_window = window;
+    m_activateOnMessage = activateOnMessage;
+}
+
+void QtSingleApplication::Accept() {
+    QLocalSocket* socket = m_server->nextPendingConnection();
+    connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
+    connect(socket, &QLocalSocket::readyRead, this, [this, socket] {
+        if (socket->bytesAvailable() > MaxMessageBytes) {
+            LOG(WARNING) << "QtSingleApplication drops a message of more than " << MaxMessageBytes << " bytes";
+            return socket->abort();
+        }
+        QDataStream stream(socket);
+        QByteArray message;
+        stream.startTransaction();
+        stream >> message;
+        if (!stream.commitTransaction())
+            return;
+        socket->putChar(Acknowledgement);
+        socket->flush();
+        emit messageReceived(QString::fromUtf8(message));
+        if (m_activateOnMessage && m_window && m_window->isVisible()) {
+            m_window->setWindowState(m_window->windowState() & ~Qt::WindowMinimized);
+            m_window->raise();
+            m_window->activateWindow();
+        }
+    });
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QApplication>
+#include <QLocalServer>
+#include <QLockFile>
+#include <QPointer>
+#include <memory>
+
+class QWidget;
+
+/// An application of which one instance runs per user session; later ones can send it a text and end.
+/// The first to be constructed is the one that listens. GUI thread.
+class QtSingleApplication : public QApplication {
+    Q_OBJECT
+
+public:
+    QtSingleApplication(const QString& id, int& argc, char** argv);
+    ~QtSingleApplication() override;
+
+    /// True when another process of this session is the running instance.
+    bool isRunning() const { return !m_server; }
+
+    /// Sends `message` to the running instance; false when it did not take it within `timeoutMs`.
+    bool sendMessage(const QString& message, int timeoutMs);
+
+    /// The window that stands for the application; with `activateOnMessage` it comes to the front, if it
+    /// is on screen, whenever a message arrives.
+    void setActivationWindow(QWidget* window, bool activateOnMessage);
+    QWidget* activationWindow() const { return m_window; }
+
+signals:
+    void messageReceived(const QString& message);
+
+private:
+    void Accept();
+
+    QString m_serverName;
+    std::unique_ptr<QLockFile> m_lock;
+    std::unique_ptr<QLocalServer> m_server;
+    QPointer<QWidget> m_window;
+    bool m_activateOnMessage = false;
+};

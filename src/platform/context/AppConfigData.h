@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+
+/// The agent platform's configuration: one JSON file, in the system-wide place or where the environment
+/// variable VELMORA_RYX_CONFIG says. Keys bear the names of the fields below; docs/configuration.md
+/// lists them. GUI thread.
+class AppConfigData {
+public:
+    /// The process's configuration; read from the file at the first call.
+    static AppConfigData* Instance();
+
+    /// Reads the file. A missing or broken file, or a value of the wrong type, leaves the defaults and
+    /// says so in the log.
+    void Load(const std::string& path);
+
+    /// Path of the file that Instance reads.
+    static std::string DefaultPath();
+
+    const std::string& GetSentryDSN() const { return sentryDsn; }
+
+    std::string sentryDsn;
+    std::string language;     ///< such as "en" or "zh_CN"; empty: the system's
+    std::string theme;        ///< "light" or "dark"; empty: light
+    std::string pipeName;     ///< empty: the product's own
+    std::string agentAccount; ///< account that may serve the pipe beside the local system account
+    std::string logFolder;    ///< empty: the system-wide place
+    std::string organisation; ///< display name of the managing organisation
+    std::string deviceName;   ///< empty: the host name
+    bool enrolled = false;    ///< the device was enrolled when the service last wrote the file
+};

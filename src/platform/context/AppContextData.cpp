@@ -1,0 +1,6 @@
+#include "platform/context/AppContextData.h"
+
+AppContextData* AppContextData::Instance() {
+    static AppContextData data;
+    return &data;
+}

@@ -1,0 +1,72 @@
+#include "platform/context/Logging.h"
+
+#include <QDir>
+#include <QFile>
+#include <glog/logging.h>
+#include <memory>
+
+namespace {
+
+/// Writes through glog's own log files and removes the oldest ones each time a new one was begun.
+class PrunedLogFiles : public google::base::Logger {
+public:
+    PrunedLogFiles(google::base::Logger* files, const QString& dir, const QString& name, int keep)
+        : m_files(files), m_dir(dir), m_pattern(name + QStringLiteral(".*")), m_keep(keep) {}
+
+    google::base::Logger* Files() const { return m_files; }
+
+    void Write(bool forceFlush, time_t timestamp, const char* message, int length) override {
+        const auto before = m_files->LogSize();
+        m_files->Write(forceFlush, timestamp, message, length);
+        if (before == 0 || m_files->LogSize() <= before)
+            Prune();
+    }
+    void Flush() override { m_files->Flush(); }
+    google::uint32 LogSize() override { return m_files->LogSize(); }
+
+private:
+    void Prune() const {
+        // The time in the names makes the order of names the order of age.
+        const QStringList names = m_dir.entryList({m_pattern}, QDir::Files | QDir::NoSymLinks, QDir::Name | QDir::Reversed);
+        for (int i = m_keep; i < names.size(); ++i)
+            QFile::remove(m_dir.filePath(names[i]));
+    }
+
+    google::base::Logger* m_files;
+    QDir m_dir;
+    QString m_pattern;
+    int m_keep;
+};
+
+PrunedLogFiles* activeFiles = nullptr;
+
+} // namespace
+
+void InitLogger(const std::string& name, const std::string& dir, const unsigned& maxFileMegabytes,
+                const unsigned& maxFiles) {
+    ReleaseLogger();
+    static std::string programName; // glog keeps the pointer
+    programName = name;
+    google::InitGoogleLogging(programName.c_str());
+    FLAGS_max_log_size = static_cast<google::uint32>(maxFileMegabytes);
+    FLAGS_logbufsecs = 0;
+    FLAGS_stop_logging_if_full_disk = true;
+    for (int severity = google::GLOG_WARNING; severity < google::NUM_SEVERITIES; ++severity)
+        google::SetLogDestination(severity, ""); // one file holds all severities
+    google::SetLogSymlink(google::GLOG_INFO, "");
+    google::SetLogDestination(google::GLOG_INFO, (dir + '/' + name + '.').c_str());
+
+    activeFiles = new PrunedLogFiles(google::base::GetLogger(google::GLOG_INFO), QString::fromLocal8Bit(dir.c_str()),
+                                     QString::fromStdString(name), static_cast<int>(maxFiles));
+    google::base::SetLogger(google::GLOG_INFO, activeFiles);
+}
+
+void ReleaseLogger() {
+    if (!activeFiles)
+        return;
+    google::FlushLogFiles(google::GLOG_INFO);
+    // glog owns the logger that it is given, and destroys it when another takes its place.
+    google::base::SetLogger(google::GLOG_INFO, activeFiles->Files());
+    activeFiles = nullptr;
+    google::ShutdownGoogleLogging();
+}

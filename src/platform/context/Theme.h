@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QColor>
+#include <QHash>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+class QWidget;
+
+/// The look in use: named tokens (colours, sizes, radii, type) and the style sheet made of them.
+///
+/// The tokens stand in :/res/qss/tokens.json (the same in every theme) and :/res/<theme>/tokens.json; the
+/// style sheet is every :/res/qss/*.qss in name order, with each @token@ replaced by its value. GUI thread.
+class Theme : public QObject {
+    Q_OBJECT
+
+public:
+    static Theme* Instance();
+
+    /// Names of the themes, which are also the names of their resource folders.
+    static QStringList Names();
+
+    /// Applies a theme to the whole application; an empty or unknown name means "light".
+    void Apply(const QString& name);
+
+    QString Name() const { return m_name; }
+    bool IsDark() const { return m_name == QLatin1String("dark"); }
+
+    /// Colour of a token; an unknown name or one that is no colour gives an invalid colour.
+    QColor Color(const QString& token) const { return QColor(m_tokens.value(token)); }
+
+    /// Length of a token such as "48px", in device-independent pixels; 0 when it is no length.
+    int Length(const QString& token) const;
+
+    /// Font families of the language in use, in order of preference.
+    QStringList FontFamilies(const QString& language) const;
+
+    /// A style sheet with its @token@s replaced; the names of unknown tokens are added to `unknown`.
+    QString Resolve(const QString& sheet, QStringList* unknown = nullptr) const;
+
+    /// Sets a dynamic property that style sheet rules select by, and restyles the widget at once.
+    static void SetProperty(QWidget* widget, const char* name, const QVariant& value);
+
+signals:
+    /// Another theme is in use; colours taken before are stale.
+    void Changed();
+
+private:
+    Theme() = default;
+    void ApplyPalette() const;
+    void ApplyFont() const;
+
+    QString m_name;
+    QHash<QString, QString> m_tokens;
+};

@@ -1,0 +1,140 @@
+#include "platform/link/PipeConnection.h"
+
+#include "platform/system/SystemPipe.h"
+
+#include <array>
+#include <glog/logging.h>
+#include <utility>
+
+namespace {
+
+constexpr qint64 ReadBufferSize = 1024 * 1024;
+constexpr int CloseTimeoutMs = 200;
+
+} // namespace
+
+bool PipeServer::Accepts(const PipePeer& peer) const {
+    return peer.isSystem || (!account.isEmpty() && peer.account.compare(account, Qt::CaseInsensitive) == 0);
+}
+
+PipeConnection::PipeConnection(PipeExchange& exchange, PipeServer server, const SystemPipe& system)
+    : m_exchange(exchange), m_server(std::move(server)), m_system(system) {
+    // With a bounded buffer the socket itself stops reading while the GUI thread is behind.
+    m_socket.setReadBufferSize(ReadBufferSize);
+    m_retry.setSingleShot(true);
+    connect(&m_retry, &QTimer::timeout, this, &PipeConnection::Open);
+    connect(&m_socket, &QLocalSocket::connected, this, &PipeConnection::OnConnected);
+    connect(&m_socket, &QLocalSocket::readyRead, this, &PipeConnection::ReadFrames);
+    connect(&m_socket, &QLocalSocket::bytesWritten, this,
+            [this] { m_exchange.SetUnwritten(static_cast<std::size_t>(m_socket.bytesToWrite())); });
+    connect(&m_socket, &QLocalSocket::stateChanged, this, [this](QLocalSocket::LocalSocketState state) {
+        if (state == QLocalSocket::UnconnectedState)
+            OnDropped();
+    });
+}
+
+void PipeConnection::Open() {
+    m_socket.connectToServer(m_system.LocalName(m_server.name));
+    if (m_socket.state() == QLocalSocket::UnconnectedState)
+        Retry();
+}
+
+void PipeConnection::Close() {
+    m_retry.stop();
+    m_socket.disconnect(this);
+    WritePackets();
+    m_exchange.SetUp(false);
+    m_up = false;
+    if (m_socket.bytesToWrite() > 0)
+        m_socket.waitForBytesWritten(CloseTimeoutMs);
+    m_socket.abort();
+}
+
+void PipeConnection::OnConnected() {
+    const PipePeer peer = m_system.Server(m_socket.socketDescriptor());
+    if (!m_server.Accepts(peer)) {
+        const QString account = peer.account.isEmpty() ? QStringLiteral("an unknown account") : peer.account;
+        if (std::exchange(m_refused, account) != account)
+            LOG(WARNING) << "PipeConnection::OnConnected refused " << m_server.name.toStdString()
+                         << ": it is served by " << account.toStdString();
+        m_socket.abort();
+        return;
+    }
+    m_refused.clear();
+    m_backoff.Reset();
+    m_decoder.Reset();
+    m_up = true;
+    m_exchange.SetUp(true);
+    Push(PipeExchange::Event::Kind::Connected);
+}
+
+void PipeConnection::OnDropped() {
+    if (std::exchange(m_up, false)) {
+        if (m_decoder.PendingSize() > 0)
+            LOG(WARNING) << "PipeConnection::OnDropped inside a frame: " << m_decoder.PendingSize()
+                         << " bytes of it had arrived";
+        m_decoder.Reset();
+        if (const std::size_t unsent = m_exchange.SetUp(false))
+            LOG(WARNING) << "PipeConnection::OnDropped with " << unsent << " bytes unsent";
+        Push(PipeExchange::Event::Kind::Dropped);
+    }
+    Retry();
+}
+
+void PipeConnection::Retry() {
+    if (!m_retry.isActive())
+        m_retry.start(m_backoff.Next());
+}
+
+void PipeConnection::ReadFrames() {
+    if (!m_up)
+        return;
+    std::array<char, 64 * 1024> bytes;
+    while (m_socket.bytesAvailable() > 0) {
+        if (m_exchange.PauseReading()) {
+            if (!std::exchange(m_waiting, true))
+                LOG(WARNING) << "PipeConnection::ReadFrames waits: the service sends faster than "
+                                         "messages are handled";
+            return;
+        }
+        m_waiting = false;
+        const qint64 count = m_socket.read(bytes.data(), static_cast<qint64>(bytes.size()));
+        if (count <= 0)
+            return;
+        m_decoder.Append(bytes.data(), static_cast<std::size_t>(count));
+
+        std::vector<PipeExchange::Event> events;
+        PipeExchange::Event event;
+        FrameDecoder::Result result;
+        while ((result = m_decoder.Next(event.frame)) == FrameDecoder::Result::Frame)
+            events.push_back(std::move(event));
+        Push(std::move(events));
+        if (result == FrameDecoder::Result::TooLong) {
+            LOG(ERROR) << "PipeConnection::ReadFrames ends the connection: a frame claims "
+                       << m_decoder.ClaimedBodySize() << " bytes, the limit is " << RyxPackage::MaxBodySize;
+            m_decoder.Reset();
+            m_socket.abort();
+            return;
+        }
+    }
+}
+
+void PipeConnection::WritePackets() {
+    const std::string packets = m_exchange.TakePackets();
+    if (!m_up || packets.empty())
+        return;
+    m_socket.write(packets.data(), static_cast<qint64>(packets.size()));
+    m_socket.flush();
+    m_exchange.SetUnwritten(static_cast<std::size_t>(m_socket.bytesToWrite()));
+}
+
+void PipeConnection::Push(PipeExchange::Event::Kind kind) {
+    std::vector<PipeExchange::Event> events(1);
+    events.front().kind = kind;
+    Push(std::move(events));
+}
+
+void PipeConnection::Push(std::vector<PipeExchange::Event>&& events) {
+    if (m_exchange.PushEvents(std::move(events)))
+        emit EventsReady();
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QString>
+#include <stdexcept>
+#include <string>
+
+/// A failed system call's HRESULT with its description.
+class HResultError : public std::runtime_error {
+public:
+    HResultError(const std::string& operation, std::int32_t result);
+    std::int32_t Result() const { return m_result; }
+
+private:
+    std::int32_t m_result;
+};
+
+/// The user session this process runs in, and the places the system gives it. Any thread.
+class SystemSession {
+public:
+    virtual ~SystemSession() = default;
+
+    /// Number of the user session; 0 where the system has no such number.
+    virtual quint32 SessionId() const = 0;
+
+    /// Makes the calling thread ready for COM. Throws HResultError; does nothing where there is no COM.
+    virtual void InitializeCom() const = 0;
+
+    /// The native key of a shared-memory segment with the product's `name`.
+    virtual QString SharedMemoryKey(const QString& name) const = 0;
+
+    /// Frees a segment that a crashed process left behind, where the system does not do so by itself.
+    virtual void ReleaseOrphanedSharedMemory(const QString& nativeKey) const = 0;
+
+    /// Folder of the agent platform's configuration, shared by all users.
+    virtual QString ConfigurationFolder() const = 0;
+
+    /// Folder of the log files.
+    virtual QString LogFolder() const = 0;
+
+    /// `text` in the code page that the C library's file functions expect.
+    virtual std::string ToAnsi(const std::wstring& text) const = 0;
+
+    static const SystemSession& Native();
+
+protected:
+    /// The system's own words for `result`; empty when it has none.
+    friend class HResultError;
+    virtual std::string DescribeResult(std::int32_t result) const = 0;
+};

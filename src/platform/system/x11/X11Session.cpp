@@ -1,0 +1,49 @@
+#include "platform/system/SystemSession.h"
+
+#include <QDir>
+#include <QSharedMemory>
+#include <QStandardPaths>
+#include <unistd.h>
+
+namespace {
+
+class X11Session final : public SystemSession {
+public:
+    quint32 SessionId() const override { return qEnvironmentVariable("XDG_SESSION_ID").toUInt(); }
+
+    void InitializeCom() const override {}
+
+    /// Shared memory is keyed by a file here; the user's number keeps users apart.
+    QString SharedMemoryKey(const QString& name) const override {
+        return QDir::temp().filePath(QStringLiteral("%1-%2").arg(name).arg(::getuid()));
+    }
+
+    /// A segment outlives a process that was killed; the last one to detach takes it away.
+    void ReleaseOrphanedSharedMemory(const QString& nativeKey) const override {
+        QSharedMemory probe;
+        probe.setNativeKey(nativeKey);
+        if (probe.attach(QSharedMemory::ReadOnly))
+            probe.detach();
+    }
+
+    QString ConfigurationFolder() const override { return QStringLiteral("/etc/velmora-ryx"); }
+
+    QString LogFolder() const override {
+        return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+               QStringLiteral("/velmora-ryx/log");
+    }
+
+    std::string ToAnsi(const std::wstring& text) const override {
+        return QString::fromStdWString(text).toLocal8Bit().toStdString();
+    }
+
+private:
+    std::string DescribeResult(std::int32_t) const override { return {}; }
+};
+
+} // namespace
+
+const SystemSession& SystemSession::Native() {
+    static const X11Session session;
+    return session;
+}
