@@ -1,0 +1,105 @@
+#include "entity/EntityKeys.h"
+
+#include "entity/RyxEntity.h"
+
+#include <charconv>
+#include <stdexcept>
+
+namespace entity {
+namespace {
+
+/// std::stod would read the decimal sign of the user's locale; the wire has a point.
+template <class Number>
+Number FromText(const std::string& text, const std::string& name) {
+    std::size_t start = text.find_first_not_of(" \t\n\v\f\r");
+    if (start == std::string::npos)
+        start = text.size();
+    if (text.compare(start, 1, "+") == 0 && text.compare(start + 1, 1, "-") != 0)
+        ++start;
+
+    Number number{};
+    const std::from_chars_result result =
+        std::from_chars(text.data() + start, text.data() + text.size(), number);
+    if (result.ec == std::errc::invalid_argument)
+        throw std::invalid_argument("invalid " + name + " argument");
+    if (result.ec == std::errc::result_out_of_range)
+        throw std::out_of_range(name + " argument out of range");
+    return number;
+}
+
+/// jsoncpp lets the first number past the end through, and casting it is undefined.
+void CheckBelow(const Json::Value& value, double limit, const char* message) {
+    if (value.type() == Json::realValue && value.asDouble() >= limit)
+        Json::throwLogicError(message);
+}
+
+} // namespace
+
+void ReadValue(const Json::Value& value, std::string& field) {
+    field = value.asString();
+}
+void ReadValue(const Json::Value& value, std::int32_t& field) {
+    field = value.asInt();
+}
+void ReadValue(const Json::Value& value, std::int64_t& field) {
+    CheckBelow(value, 9223372036854775808.0, "double out of Int64 range");
+    field = value.asInt64();
+}
+void ReadValue(const Json::Value& value, std::uint64_t& field) {
+    CheckBelow(value, 18446744073709551616.0, "double out of UInt64 range");
+    field = value.asUInt64();
+}
+void ReadValue(const Json::Value& value, bool& field) {
+    field = value.asBool();
+}
+void ReadValue(const Json::Value& value, double& field) {
+    field = value.asDouble();
+}
+void ReadValue(const Json::Value& value, RyxEntity& field) {
+    field.ReadFromJson(value);
+}
+
+Json::Value WriteValue(const std::string& field) {
+    return Json::Value(field);
+}
+Json::Value WriteValue(std::int32_t field) {
+    return Json::Value(field);
+}
+Json::Value WriteValue(std::int64_t field) {
+    return Json::Value(Json::Int64(field));
+}
+Json::Value WriteValue(std::uint64_t field) {
+    return Json::Value(Json::UInt64(field));
+}
+Json::Value WriteValue(bool field) {
+    return Json::Value(field);
+}
+Json::Value WriteValue(double field) {
+    return Json::Value(field);
+}
+Json::Value WriteValue(const RyxEntity& field) {
+    Json::Value out;
+    field.WriteToJson(out);
+    return out;
+}
+
+void ReadRequiredText(const Json::Value& value, std::string& field) {
+    field = value.asCString();
+}
+
+void ReadIfObject(const Json::Value& value, RyxEntity& field) {
+    if (!value.isNull() && value.isObject())
+        field.ReadFromJson(value);
+}
+
+void ReadIntText(const Json::Value& value, std::int32_t& field) {
+    field = FromText<std::int32_t>(value.asString(), "stoi");
+}
+
+void ReadDoubleTextUnlessEmpty(const Json::Value& value, double& field) {
+    const std::string text = value.asString();
+    if (!text.empty())
+        field = FromText<double>(text, "stod");
+}
+
+} // namespace entity
