@@ -1,0 +1,48 @@
+# Shared by the scripts: where things are, and what has to be installed first. Sourced, not run.
+
+set -euo pipefail
+ROOT=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+
+say() { printf '== %s\n' "$*"; }
+fail() {
+    printf '%s\n' "$*" >&2
+    exit 1
+}
+
+# as_root COMMAND...: runs it as root, directly or through sudo.
+as_root() {
+    if [ "$(id -u)" = 0 ]; then
+        "$@"
+    elif command -v sudo >/dev/null; then
+        sudo "$@"
+    else
+        fail "This needs root or sudo: $*"
+    fi
+}
+
+# need_packages PKG...: installs the Debian packages that are missing, saying so.
+need_packages() {
+    local missing=() package
+    for package in "$@"; do
+        dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
+    done
+    [ ${#missing[@]} = 0 ] && return
+    say "installing: ${missing[*]}"
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get -qq -o DPkg::Lock::Timeout=300 update
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get -qq -o DPkg::Lock::Timeout=300 \
+        install -y --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+BUILD_PACKAGES=(g++ cmake ninja-build ccache pkg-config qtbase5-dev libqt5svg5-dev qttools5-dev-tools
+    libjsoncpp-dev libgoogle-glog-dev libxcb1-dev libxcb-screensaver0-dev)
+TEST_PACKAGES=(libgtest-dev libgmock-dev libbenchmark-dev libx11-dev libxtst-dev)
+DESKTOP_PACKAGES=(xvfb openbox fonts-noto-core fonts-noto-cjk)
+
+# build PRESET [TARGET...]: configures and builds a preset, both cores busy.
+build() {
+    local preset=$1
+    shift
+    (cd "$ROOT" && cmake --preset "$preset" >"$ROOT/build/$preset.configure.log" 2>&1) ||
+        { mkdir -p "$ROOT/build"; cat "$ROOT/build/$preset.configure.log" >&2; fail "configuring $preset failed"; }
+    cmake --build "$ROOT/build/$preset" ${1:+--target "$@"}
+}
