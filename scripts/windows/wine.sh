@@ -1,0 +1,96 @@
+# Sourced by the scripts that run Windows programs under Wine: a virtual screen and a Wine prefix of their own,
+# and a way to end everything that was started in them.
+#
+#   start_wine FOLDER   makes both; the prefix stands in a new folder below FOLDER
+#   stop_wine           ends every process of the run, whatever state it is in, and removes the prefix;
+#                       also called when the script ends for whatever reason
+#   run_limited SECONDS COMMAND...   runs a command that must end within the time
+#
+# With RYX_KEEP_WINE=1 the prefix stays for a look at it.
+
+# Every process of a run carries this variable from its start on, so each can be found again, also one that
+# wine has detached from the script's process group.
+wine_processes() {
+    local environ
+    for environ in /proc/[0-9]*/environ; do
+        if grep --quiet --null-data --line-regexp --fixed-strings "RYX_WINE_RUN=$RYX_WINE_RUN" "$environ" 2> /dev/null; then
+            environ=${environ#/proc/}
+            echo "${environ%/environ}"
+        fi
+    done
+}
+
+stop_wine() {
+    trap - EXIT
+    local round pids
+    for round in 1 2 3 4 5; do
+        pids=$(wine_processes)
+        [ -n "$pids" ] || break
+        # shellcheck disable=SC2086  # one word for each process
+        kill -KILL $pids 2> /dev/null || true
+        sleep 0.2
+    done
+    [ -z "${pids:-}" ] || echo "windows/wine: processes that would not end: $pids (round $round)" >&2
+    [ -n "${RYX_KEEP_WINE:-}" ] || rm -rf "$wine_dir"
+}
+
+start_wine() {
+    mkdir -p "$1"
+    wine_dir=$(mktemp -d "$1/wine.XXXXXX")
+    RYX_WINE_RUN=$(basename "$wine_dir")-$$
+    export RYX_WINE_RUN
+    trap stop_wine EXIT
+    trap 'exit 129' HUP
+    trap 'exit 130' INT
+    trap 'exit 143' TERM
+
+    # A home of its own: a prefix links its user folders into the home, and fonts and menus are registered there.
+    mkdir "$wine_dir/home"
+    export HOME="$wine_dir/home"
+    unset XDG_CACHE_HOME XDG_CONFIG_HOME XDG_DATA_HOME XDG_RUNTIME_DIR WAYLAND_DISPLAY XAUTHORITY
+
+    mkfifo "$wine_dir/display"
+    Xvfb -displayfd 3 -screen 0 1920x1080x24 -nolisten tcp -noreset 3> "$wine_dir/display" \
+        > "$wine_dir/xvfb.log" 2>&1 &
+    disown
+    local number
+    if ! read -r -t 30 number < "$wine_dir/display"; then
+        cat "$wine_dir/xvfb.log" >&2
+        echo "windows/wine: the virtual screen did not start" >&2
+        return 1
+    fi
+    export DISPLAY=":$number"
+    # Wine leaves the stacking of windows to the window manager; without one, nothing stays on top.
+    openbox --sm-disable > "$wine_dir/openbox.log" 2>&1 &
+    disown
+
+    # No .NET and no HTML engine, so that Wine does not offer to download them; no entries in the desktop's menu.
+    export WINEPREFIX="$wine_dir/prefix" WINEARCH=win64 WINEDEBUG="${WINEDEBUG:--all}"
+    export WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe=d"
+    run_limited 120 wineboot --init > "$wine_dir/wineboot.log" 2>&1 || {
+        cat "$wine_dir/wineboot.log" >&2
+        echo "windows/wine: the Wine prefix could not be made" >&2
+        return 1
+    }
+}
+
+# The command runs in the background, because a shell handles a signal only between foreground commands.
+run_limited() {
+    local seconds=$1
+    shift
+    timeout --kill-after=5 "$seconds" "$@" <&0 &
+    wait $!
+}
+
+# A path as Windows programs see it under Wine.
+windows_path() {
+    local path="Z:$1"
+    echo "${path//\//\\}"
+}
+
+# Lets programs that are not installed find the SDK's libraries and plug-ins.
+use_sdk() {
+    WINEPATH=$(windows_path "$1/bin")
+    QT_PLUGIN_PATH="Z:$1/plugins"
+    export WINEPATH QT_PLUGIN_PATH
+}
