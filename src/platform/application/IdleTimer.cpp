@@ -18,7 +18,9 @@ void IdleTimer::Start(int seconds) {
     m_check.start(static_cast<int>(m_limit));
 }
 
-void IdleTimer::Stop() { m_check.stop(); }
+void IdleTimer::Stop() {
+    m_check.stop();
+}
 
 void IdleTimer::Check() {
     const qint64 rest = m_limit - IdleMilliseconds();

@@ -17,7 +17,8 @@ constexpr int MaxMessageBytes = 1024 * 1024;
 
 } // namespace
 
-QtSingleApplication::QtSingleApplication(const QString& id, int& argc, char** argv) : QApplication(argc, argv) {
+QtSingleApplication::QtSingleApplication(const QString& id, int& argc, char** argv)
+    : QApplication(argc, argv) {
     // Account and session in the name: instances of other users and sessions do not meet.
     m_serverName = QStringLiteral("%1-%2-%3")
                        .arg(id)
@@ -48,7 +49,8 @@ bool QtSingleApplication::sendMessage(const QString& message, int timeoutMs) {
     socket.connectToServer(m_serverName);
     if (!socket.waitForConnected(left()))
         return false;
-    QDataStream(&socket) << message.toUtf8();
+    QDataStream stream(&socket);
+    stream << message.toUtf8();
     while (socket.bytesAvailable() == 0)
         if (!socket.waitForReadyRead(left()))
             return false;
@@ -66,7 +68,8 @@ void QtSingleApplication::Accept() {
     connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
     connect(socket, &QLocalSocket::readyRead, this, [this, socket] {
         if (socket->bytesAvailable() > MaxMessageBytes) {
-            LOG(WARNING) << "QtSingleApplication drops a message of more than " << MaxMessageBytes << " bytes";
+            LOG(WARNING) << "QtSingleApplication drops a message of more than " << MaxMessageBytes
+                         << " bytes";
             return socket->abort();
         }
         QDataStream stream(socket);

@@ -10,7 +10,9 @@
 
 namespace {
 
-int Level(const QPointer<QWidget>& window) { return window ? window->property("TopLevel").toInt() : 0; }
+int Level(const QPointer<QWidget>& window) {
+    return window ? window->property("TopLevel").toInt() : 0;
+}
 
 } // namespace
 

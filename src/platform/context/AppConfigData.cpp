@@ -19,15 +19,17 @@ AppConfigData* AppConfigData::Instance() {
 
 std::string AppConfigData::DefaultPath() {
     const QString chosen = qEnvironmentVariable("VELMORA_RYX_CONFIG");
-    const QString path =
-        chosen.isEmpty() ? SystemSession::Native().ConfigurationFolder() + QStringLiteral("/ryx.json") : chosen;
+    const QString path = chosen.isEmpty()
+                             ? SystemSession::Native().ConfigurationFolder() + QStringLiteral("/ryx.json")
+                             : chosen;
     return path.toStdString();
 }
 
 void AppConfigData::Load(const std::string& path) {
     QFile file(QString::fromStdString(path));
     if (!file.open(QIODevice::ReadOnly)) {
-        LOG(INFO) << "AppConfigData::Load uses the defaults: " << path << ": " << file.errorString().toStdString();
+        LOG(INFO) << "AppConfigData::Load uses the defaults: " << path << ": "
+                  << file.errorString().toStdString();
         return;
     }
     const QByteArray text = file.readAll();

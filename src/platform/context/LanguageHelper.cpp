@@ -25,7 +25,9 @@ bool LoadInto(QTranslator& translator, const QString& code) {
 /// One installed translator for all of them: changing the language is then one event and not several.
 class KeyTranslator : public QTranslator {
 public:
-    explicit KeyTranslator(QObject* parent) : QTranslator(parent) { LoadInto(m_english, QStringLiteral("en")); }
+    explicit KeyTranslator(QObject* parent) : QTranslator(parent) {
+        LoadInto(m_english, QStringLiteral("en"));
+    }
 
     void SetLanguage(const QString& code) {
         LoadInto(m_chosen, code);
@@ -38,14 +40,13 @@ public:
 
     bool isEmpty() const override { return false; }
 
-    QString translate(const char* context, const char* key, const char* disambiguation, int n) const override {
+    QString translate(const char* context, const char* key, const char* disambiguation,
+                      int n) const override {
         QString text = m_chosen.translate(Context, key, disambiguation, n);
-        if (text.isNull()) {
+        if (text.isNull())
             text = m_english.translate(Context, key, disambiguation, n);
-        }
-        if (text.isNull()) {
+        if (text.isNull())
             text = m_qt.translate(context, key, disambiguation, n);
-        }
         return text;
     }
 
@@ -82,9 +83,8 @@ QString LanguageHelper::SystemLanguage() {
         const auto match = std::find_if(shipped.begin(), shipped.end(), [&](const Entry& entry) {
             return QLocale(entry.code).language() == language;
         });
-        if (match != shipped.end()) {
+        if (match != shipped.end())
             return match->code;
-        }
     }
     return shipped.constFirst().code;
 }
@@ -96,9 +96,8 @@ void LanguageHelper::SetLanguage(const QString& code) {
     m_language = known ? code : SystemLanguage();
 
     const bool first = !m_translator;
-    if (first) {
+    if (first)
         m_translator = new KeyTranslator(qApp);
-    }
     m_translator->SetLanguage(m_language);
     QApplication::setLayoutDirection(Locale().textDirection());
     if (first) {

@@ -15,7 +15,7 @@ public:
 
     google::base::Logger* Files() const { return m_files; }
 
-    void Write(bool forceFlush, time_t timestamp, const char* message, int length) override {
+    void Write(bool forceFlush, time_t timestamp, const char* message, size_t length) override {
         const auto before = m_files->LogSize();
         m_files->Write(forceFlush, timestamp, message, length);
         if (before == 0 || m_files->LogSize() <= before)
@@ -27,7 +27,8 @@ public:
 private:
     void Prune() const {
         // The time in the names makes the order of names the order of age.
-        const QStringList names = m_dir.entryList({m_pattern}, QDir::Files | QDir::NoSymLinks, QDir::Name | QDir::Reversed);
+        const QStringList names =
+            m_dir.entryList({m_pattern}, QDir::Files | QDir::NoSymLinks, QDir::Name | QDir::Reversed);
         for (int i = m_keep; i < names.size(); ++i)
             QFile::remove(m_dir.filePath(names[i]));
     }
@@ -56,8 +57,9 @@ void InitLogger(const std::string& name, const std::string& dir, const unsigned&
     google::SetLogSymlink(google::GLOG_INFO, "");
     google::SetLogDestination(google::GLOG_INFO, (dir + '/' + name + '.').c_str());
 
-    activeFiles = new PrunedLogFiles(google::base::GetLogger(google::GLOG_INFO), QString::fromLocal8Bit(dir.c_str()),
-                                     QString::fromStdString(name), static_cast<int>(maxFiles));
+    activeFiles =
+        new PrunedLogFiles(google::base::GetLogger(google::GLOG_INFO), QString::fromLocal8Bit(dir.c_str()),
+                           QString::fromStdString(name), static_cast<int>(maxFiles));
     google::base::SetLogger(google::GLOG_INFO, activeFiles);
 }
 

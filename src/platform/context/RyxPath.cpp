@@ -7,7 +7,8 @@
 
 std::wstring RyxPath::GetRyxLogDir() {
     const std::string& chosen = AppConfigData::Instance()->logFolder;
-    const QString folder = chosen.empty() ? SystemSession::Native().LogFolder() : QString::fromStdString(chosen);
+    const QString folder =
+        chosen.empty() ? SystemSession::Native().LogFolder() : QString::fromStdString(chosen);
     QDir().mkpath(folder);
     return QDir::toNativeSeparators(folder).toStdWString();
 }

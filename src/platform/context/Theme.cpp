@@ -18,17 +18,15 @@ namespace {
 
 QByteArray ReadResource(const QString& path) {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
+    if (!file.open(QIODevice::ReadOnly))
         LOG(ERROR) << "There is no resource " << path.toStdString();
-    }
     return file.readAll();
 }
 
 void ReadTokens(const QString& path, QHash<QString, QString>& tokens) {
     const QJsonObject table = QJsonDocument::fromJson(ReadResource(path)).object();
-    for (auto token = table.begin(); token != table.end(); ++token) {
+    for (auto token = table.begin(); token != table.end(); ++token)
         tokens.insert(token.key(), token.value().toString());
-    }
 }
 
 QString ReadStyleSheets() {
@@ -58,9 +56,8 @@ void Theme::Apply(const QString& name) {
     ReadTokens(QStringLiteral(":/res/%1/tokens.json").arg(m_name), m_tokens);
 
     // One base style on every system, so that the style sheet has the same ground to stand on.
-    if (QApplication::style()->objectName() != QLatin1String("fusion")) {
+    if (QApplication::style()->objectName() != QLatin1String("fusion"))
         QApplication::setStyle(QStringLiteral("Fusion"));
-    }
     ApplyPalette();
     ApplyFont();
     connect(LanguageHelper::Instance(), &LanguageHelper::LanguageChanged, this, &Theme::ApplyFont,
@@ -68,9 +65,8 @@ void Theme::Apply(const QString& name) {
 
     QStringList unknown;
     const QString sheet = Resolve(ReadStyleSheets(), &unknown);
-    for (const QString& token : unknown) {
+    for (const QString& token : unknown)
         LOG(ERROR) << "The style sheet uses the unknown token " << token.toStdString();
-    }
     qApp->setStyleSheet(sheet);
     emit Changed();
 }
@@ -106,9 +102,8 @@ QString Theme::Resolve(const QString& sheet, QStringList* unknown) const {
 }
 
 void Theme::SetProperty(QWidget* widget, const char* name, const QVariant& value) {
-    if (widget->property(name) == value) {
+    if (widget->property(name) == value)
         return;
-    }
     widget->setProperty(name, value);
     widget->style()->unpolish(widget);
     widget->style()->polish(widget);

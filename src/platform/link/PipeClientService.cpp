@@ -25,7 +25,9 @@ PipeClientService::PipeClientService() {
     m_thread.setObjectName(QStringLiteral("PipeLink"));
 }
 
-PipeClientService::~PipeClientService() { Stop(); }
+PipeClientService::~PipeClientService() {
+    Stop();
+}
 
 PipeClientService* PipeClientService::Instance() {
     static PipeClientService service;
@@ -55,9 +57,13 @@ void PipeClientService::Stop() {
     m_connection = nullptr;
 }
 
-bool PipeClientService::Send(PipeKey key) { return Send(key, std::string()); }
+bool PipeClientService::Send(PipeKey key) {
+    return Send(key, std::string());
+}
 
-bool PipeClientService::Send(PipeKey key, const RyxEntity& entity) { return Send(key, entity.WriteToString()); }
+bool PipeClientService::Send(PipeKey key, const RyxEntity& entity) {
+    return Send(key, entity.WriteToString());
+}
 
 bool PipeClientService::Send(PipeKey key, const std::string& body) {
     return Send(RyxPackage::PackageData(key, body));
@@ -74,10 +80,13 @@ bool PipeClientService::Send(const std::string& packet) {
     return queued != PipeExchange::Queued::Refused;
 }
 
-void PipeClientService::AddController(ControllerBase* controller) { m_controllers.push_back(controller); }
+void PipeClientService::AddController(ControllerBase* controller) {
+    m_controllers.push_back(controller);
+}
 
 void PipeClientService::RemoveController(ControllerBase* controller) {
-    m_controllers.erase(std::remove(m_controllers.begin(), m_controllers.end(), controller), m_controllers.end());
+    m_controllers.erase(std::remove(m_controllers.begin(), m_controllers.end(), controller),
+                        m_controllers.end());
 }
 
 bool PipeClientService::event(QEvent* event) {

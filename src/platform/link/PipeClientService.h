@@ -56,9 +56,10 @@ public:
     /// Connects DataReceived to a member of `receiver`; what the member throws stays with it.
     template <class Receiver>
     void Subscribe(Receiver* receiver, void (Receiver::*slot)(PipeKey, const std::string&)) {
-        connect(this, &PipeClientService::DataReceived, receiver, [receiver, slot](PipeKey key, const std::string& body) {
-            Guard(key, receiver->metaObject()->className(), [&] { (receiver->*slot)(key, body); });
-        });
+        connect(this, &PipeClientService::DataReceived, receiver,
+                [receiver, slot](PipeKey key, const std::string& body) {
+                    Guard(key, receiver->metaObject()->className(), [&] { (receiver->*slot)(key, body); });
+                });
     }
 
     /// Delivers one message to every receiver, as if it had just arrived.

@@ -94,7 +94,7 @@ void PipeConnection::ReadFrames() {
         if (m_exchange.PauseReading()) {
             if (!std::exchange(m_waiting, true))
                 LOG(WARNING) << "PipeConnection::ReadFrames waits: the service sends faster than "
-                                         "messages are handled";
+                                "messages are handled";
             return;
         }
         m_waiting = false;

@@ -12,8 +12,8 @@ struct PipePeer;
 
 /// Where the link connects to, and whom it accepts there.
 struct PipeServer {
-    QString name;        ///< pipe name in the product's form
-    QString account;     ///< account that may serve the pipe beside the local system account; may be empty
+    QString name;    ///< pipe name in the product's form
+    QString account; ///< account that may serve the pipe beside the local system account; may be empty
 
     bool Accepts(const PipePeer& peer) const;
 };

@@ -6,7 +6,8 @@
 #include <QCoreApplication>
 #include <utility>
 
-PipeEventWatcher::PipeEventWatcher(QObject* parent, Handler handler) : QObject(parent), m_handler(std::move(handler)) {
+PipeEventWatcher::PipeEventWatcher(QObject* parent, Handler handler)
+    : QObject(parent), m_handler(std::move(handler)) {
     QCoreApplication::instance()->installEventFilter(this);
 }
 

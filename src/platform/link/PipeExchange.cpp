@@ -11,7 +11,8 @@ bool PipeExchange::PushEvents(std::vector<Event>&& events) {
     std::lock_guard<std::mutex> lock(m_mutex);
     const bool wasEmpty = m_events.empty();
     m_eventBytes += bytes;
-    m_events.insert(m_events.end(), std::make_move_iterator(events.begin()), std::make_move_iterator(events.end()));
+    m_events.insert(m_events.end(), std::make_move_iterator(events.begin()),
+                    std::make_move_iterator(events.end()));
     return wasEmpty && !m_events.empty();
 }
 

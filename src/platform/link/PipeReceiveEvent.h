@@ -10,7 +10,8 @@
 /// filters see it.
 class PipeReceiveEvent : public QEvent {
 public:
-    PipeReceiveEvent(PipeKey key, std::string data) : QEvent(eventType()), m_key(key), m_data(std::move(data)) {}
+    PipeReceiveEvent(PipeKey key, std::string data)
+        : QEvent(eventType()), m_key(key), m_data(std::move(data)) {}
 
     PipeKey Key() const { return m_key; }
     const std::string& Data() const { return m_data; }

@@ -11,9 +11,13 @@
 
 namespace {
 
-template <class T> using Reply = std::unique_ptr<T, decltype(&std::free)>;
+template <class T>
+using Reply = std::unique_ptr<T, decltype(&std::free)>;
 
-template <class T> Reply<T> Own(T* reply) { return Reply<T>(reply, &std::free); }
+template <class T>
+Reply<T> Own(T* reply) {
+    return Reply<T>(reply, &std::free);
+}
 
 class X11Desktop final : public SystemDesktop {
 public:
@@ -26,7 +30,8 @@ public:
         if (!Connect())
             return;
         const std::uint32_t above = XCB_STACK_MODE_ABOVE;
-        xcb_configure_window(m_connection, static_cast<xcb_window_t>(window), XCB_CONFIG_WINDOW_STACK_MODE, &above);
+        xcb_configure_window(m_connection, static_cast<xcb_window_t>(window), XCB_CONFIG_WINDOW_STACK_MODE,
+                             &above);
         xcb_flush(m_connection);
     }
 
@@ -70,28 +75,29 @@ private:
 
     xcb_atom_t Atom(const char* name) const {
         const auto atom = Own(xcb_intern_atom_reply(
-            m_connection, xcb_intern_atom(m_connection, 0, static_cast<std::uint16_t>(std::strlen(name)), name),
-            nullptr));
+            m_connection,
+            xcb_intern_atom(m_connection, 0, static_cast<std::uint16_t>(std::strlen(name)), name), nullptr));
         return atom ? atom->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
     }
     xcb_atom_t SkipTaskbar() const { return Atom("_NET_WM_STATE_SKIP_TASKBAR"); }
 
     std::vector<xcb_atom_t> States(WId window) const {
-        const auto property = Own(xcb_get_property_reply(
-            m_connection,
-            xcb_get_property(m_connection, 0, static_cast<xcb_window_t>(window), Atom("_NET_WM_STATE"), XCB_ATOM_ATOM,
-                             0, 64),
-            nullptr));
+        const auto property =
+            Own(xcb_get_property_reply(m_connection,
+                                       xcb_get_property(m_connection, 0, static_cast<xcb_window_t>(window),
+                                                        Atom("_NET_WM_STATE"), XCB_ATOM_ATOM, 0, 64),
+                                       nullptr));
         if (!property)
             return {};
         const auto* atoms = static_cast<const xcb_atom_t*>(xcb_get_property_value(property.get()));
-        return {atoms, atoms + static_cast<std::size_t>(xcb_get_property_value_length(property.get())) / sizeof *atoms};
+        return {atoms, atoms + static_cast<std::size_t>(xcb_get_property_value_length(property.get())) /
+                                   sizeof *atoms};
     }
 
     void SetStates(WId window, const std::vector<xcb_atom_t>& states) const {
         xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, static_cast<xcb_window_t>(window),
-                            Atom("_NET_WM_STATE"), XCB_ATOM_ATOM, 32, static_cast<std::uint32_t>(states.size()),
-                            states.data());
+                            Atom("_NET_WM_STATE"), XCB_ATOM_ATOM, 32,
+                            static_cast<std::uint32_t>(states.size()), states.data());
         xcb_flush(m_connection);
     }
 

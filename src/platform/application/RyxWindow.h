@@ -1,0 +1,59 @@
+#pragma once
+
+#include "platform/application/IotStatus.h"
+
+#include <QWidget>
+
+class ControllerBase;
+
+/// The main window as the pages and dialogs in it know it: what they may ask of it, and what it tells
+/// them. A page finds it with RyxWindow::Of and needs no header of the application shell. GUI thread.
+class RyxWindow : public QWidget {
+    Q_OBJECT
+
+public:
+    /// What a page does with the service's key 3; the numbers are the service's own.
+    enum class BindAction { Bind = 1, Unbind = 3 };
+    Q_ENUM(BindAction)
+
+    explicit RyxWindow(QWidget* parent = nullptr);
+
+    /// The main window that `widget` belongs to, also through parents that are windows of their own such
+    /// as dialogs; null when there is none.
+    static RyxWindow* Of(const QWidget* widget);
+
+    /// Told by the main window whenever the service reports the state of its link.
+    void IotStatusChanged(IotStatus status);
+
+    /// The state last reported; NotEnrolled at start.
+    IotStatus LinkStatus() const { return m_linkStatus; }
+
+    /// The controller to send through; null when the application has none.
+    ControllerBase* MainController() const;
+
+    /// Tells the user how something ended. `result` is a translation key such as "usb_bind_success";
+    /// the window knows which of them are failures.
+    virtual void ShowResult(const QString& result) = 0;
+
+    /// A request to bind or unbind goes out: the window shows that it is busy, until EndBinding.
+    void BeginBinding(BindAction action);
+    /// The request was answered or given up. Harmless without BeginBinding.
+    void EndBinding();
+    bool IsBinding() const { return m_binding; }
+
+    /// Brings the network page to the front.
+    virtual void OpenNetworkPage() = 0;
+
+    /// The device's name, organisation or enrolment in AppContextData changed: shows it.
+    void UpdateDeviceInfo();
+
+signals:
+    void LinkStatusChanged(IotStatus status);
+    void BindingBegan(RyxWindow::BindAction action);
+    void BindingEnded();
+    void DeviceInfoChanged();
+
+private:
+    IotStatus m_linkStatus = IotStatus::NotEnrolled;
+    bool m_binding = false;
+};

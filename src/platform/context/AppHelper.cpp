@@ -1,0 +1,26 @@
+#include "platform/context/AppHelper.h"
+
+#include "platform/context/AppConfigData.h"
+#include "platform/context/AppContextData.h"
+#include "platform/context/LanguageHelper.h"
+#include "platform/context/ProductConstants.h"
+#include "platform/context/Theme.h"
+#include "platform/link/PipeClientService.h"
+
+void AppHelper::InitQss() {
+    Theme::Instance()->Apply(QString::fromStdString(AppConfigData::Instance()->theme));
+}
+
+void AppHelper::InitLanguage() {
+    LanguageHelper::Instance()->SetLanguage(QString::fromStdString(AppConfigData::Instance()->language));
+}
+
+void AppHelper::LoadConfig() {
+    const AppConfigData& config = *AppConfigData::Instance();
+    AppContextData& context = *AppContextData::Instance();
+    context.enrolled = config.enrolled;
+    context.deviceName = config.deviceName;
+    const std::string pipe = config.pipeName.empty() ? Product::ServicePipe : config.pipeName;
+    PipeClientService::Instance()->SetServer(
+        {QString::fromStdString(pipe), QString::fromStdString(config.agentAccount)});
+}

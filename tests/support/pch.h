@@ -1,0 +1,7 @@
+#pragma once
+
+#include "platform/pch.h"
+
+#include <QSignalSpy>
+#include <QtTest>
+#include <gtest/gtest.h>
