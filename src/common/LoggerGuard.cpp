@@ -10,4 +10,6 @@ LoggerGuard::LoggerGuard(bool sessionPrefix, const std::string& name) {
     InitLogger(prefix + name, session.ToAnsi(RyxPath::GetRyxLogDir()), 10, 10);
 }
 
-LoggerGuard::~LoggerGuard() { ReleaseLogger(); }
+LoggerGuard::~LoggerGuard() {
+    ReleaseLogger();
+}

@@ -50,4 +50,6 @@ void SentryGuard::Close() {}
 
 #endif
 
-SentryGuard::~SentryGuard() { Close(); }
+SentryGuard::~SentryGuard() {
+    Close();
+}

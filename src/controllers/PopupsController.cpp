@@ -4,7 +4,9 @@
 
 #include <QCoreApplication>
 
-PopupsController::PopupsController() { QCoreApplication::instance()->installEventFilter(this); }
+PopupsController::PopupsController() {
+    QCoreApplication::instance()->installEventFilter(this);
+}
 
 bool PopupsController::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == PipeSendEvent::eventType()) {

@@ -1,3 +1,5 @@
 #include "app/UserApp.h"
 
-int main(int argc, char** argv) { return UserApp::Run(argc, argv); }
+int main(int argc, char** argv) {
+    return UserApp::Run(argc, argv);
+}
