@@ -3,6 +3,7 @@
 #include "entity/RyxEntity.h"
 
 #include <charconv>
+#include <cmath>
 #include <stdexcept>
 
 namespace entity {
@@ -75,7 +76,8 @@ Json::Value WriteValue(bool field) {
     return Json::Value(field);
 }
 Json::Value WriteValue(double field) {
-    return Json::Value(field);
+    // jsoncpp writes an infinity as a number that no parser takes back, which would cost the whole body.
+    return std::isfinite(field) ? Json::Value(field) : Json::Value();
 }
 Json::Value WriteValue(const RyxEntity& field) {
     Json::Value out;

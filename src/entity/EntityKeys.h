@@ -46,7 +46,7 @@ Json::Value WriteValue(std::int32_t field);
 Json::Value WriteValue(std::int64_t field);
 Json::Value WriteValue(std::uint64_t field);
 Json::Value WriteValue(bool field);
-Json::Value WriteValue(double field);
+Json::Value WriteValue(double field); ///< Infinity and NaN become null.
 Json::Value WriteValue(const RyxEntity& field);
 
 /// An empty list becomes null and not [], because the service expects it so.
