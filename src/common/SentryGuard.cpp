@@ -21,7 +21,7 @@ void SetDatabasePath(sentry_options_t* options, const std::wstring& path) {
 
 } // namespace
 
-SentryGuard::SentryGuard(const std::string& release, const std::wstring& databasePath) : m_open(true) {
+SentryGuard::SentryGuard(const std::string& release, const std::wstring& databasePath) {
     sentry_options_t* options = sentry_options_new();
     sentry_options_set_dsn(options, AppConfigData::Instance()->GetSentryDSN().c_str());
     sentry_options_set_release(options, release.c_str());
@@ -35,10 +35,7 @@ SentryGuard::SentryGuard(const std::string& release, const std::wstring& databas
         LOG(INFO) << "SentryGuard::SentryGuard sentry_init success";
 }
 
-void SentryGuard::Close() {
-    if (std::exchange(m_open, false))
-        sentry_close();
-}
+SentryGuard::~SentryGuard() { sentry_close(); }
 
 #else
 

@@ -2,16 +2,14 @@
 
 #include "platform/system/SystemSession.h"
 
-#include <QDir>
 #include <QFile>
-#include <glog/logging.h>
 #include <json/json.h>
 #include <memory>
 
 AppConfigData* AppConfigData::Instance() {
     static const std::unique_ptr<AppConfigData> data = [] {
         auto loaded = std::make_unique<AppConfigData>();
-        loaded->Load(DefaultPath());
+        loaded->loadNotes = loaded->Load(DefaultPath());
         return loaded;
     }();
     return data.get();
@@ -25,36 +23,34 @@ std::string AppConfigData::DefaultPath() {
     return path.toStdString();
 }
 
-void AppConfigData::Load(const std::string& path) {
+std::vector<std::string> AppConfigData::Load(const std::string& path) {
+    const auto defaults = [&path](const std::string& why) {
+        return std::vector<std::string>{"uses the defaults: " + path + ": " + why};
+    };
     QFile file(QString::fromStdString(path));
-    if (!file.open(QIODevice::ReadOnly)) {
-        LOG(INFO) << "AppConfigData::Load uses the defaults: " << path << ": "
-                  << file.errorString().toStdString();
-        return;
-    }
+    if (!file.open(QIODevice::ReadOnly))
+        return defaults(file.errorString().toStdString());
     const QByteArray text = file.readAll();
     Json::Value root;
     std::string errors;
     const std::unique_ptr<Json::CharReader> reader(Json::CharReaderBuilder().newCharReader());
     try {
-        if (!reader->parse(text.begin(), text.end(), &root, &errors) || !root.isObject())
-            errors = errors.empty() ? "no JSON object" : errors;
+        if (!reader->parse(text.begin(), text.end(), &root, &errors))
+            return defaults(errors);
     } catch (const Json::Exception& error) { // nesting beyond the parser's limit
-        errors = error.what();
+        return defaults(error.what());
     }
-    if (!errors.empty()) {
-        LOG(WARNING) << "AppConfigData::Load uses the defaults: " << path << ": " << errors;
-        return;
-    }
+    if (!root.isObject())
+        return defaults("no JSON object");
 
+    std::vector<std::string> notes;
     const auto read = [&](const char* key, auto& field) {
+        using Type = std::decay_t<decltype(field)>;
         const Json::Value& value = root[key];
-        if (value.isNull())
-            return;
-        if (!value.is<std::decay_t<decltype(field)>>())
-            LOG(WARNING) << "AppConfigData::Load ignores \"" << key << "\" in " << path << ": wrong type";
-        else
-            field = value.as<std::decay_t<decltype(field)>>();
+        if (value.is<Type>())
+            field = value.as<Type>();
+        else if (!value.isNull())
+            notes.push_back("ignores \"" + std::string(key) + "\" in " + path + ": wrong type");
     };
     read("sentryDsn", sentryDsn);
     read("language", language);
@@ -65,4 +61,5 @@ void AppConfigData::Load(const std::string& path) {
     read("organisation", organisation);
     read("deviceName", deviceName);
     read("enrolled", enrolled);
+    return notes;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 /// The agent platform's configuration: one JSON file, in the system-wide place or where the environment
 /// variable VELMORA_RYX_CONFIG says. Keys bear the names of the fields below; docs/configuration.md
@@ -10,9 +11,9 @@ public:
     /// The process's configuration; read from the file at the first call.
     static AppConfigData* Instance();
 
-    /// Reads the file. A missing or broken file, or a value of the wrong type, leaves the defaults and
-    /// says so in the log.
-    void Load(const std::string& path);
+    /// Reads the file. A missing or broken file, or a value of the wrong type, leaves the defaults;
+    /// returns a line on each such thing, for the log, which may not be open yet.
+    std::vector<std::string> Load(const std::string& path);
 
     /// Path of the file that Instance reads.
     static std::string DefaultPath();
@@ -28,4 +29,6 @@ public:
     std::string organisation; ///< display name of the managing organisation
     std::string deviceName;   ///< empty: the host name
     bool enrolled = false;    ///< the device was enrolled when the service last wrote the file
+
+    std::vector<std::string> loadNotes; ///< what Instance's Load returned
 };

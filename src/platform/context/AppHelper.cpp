@@ -7,6 +7,8 @@
 #include "platform/context/Theme.h"
 #include "platform/link/PipeClientService.h"
 
+#include <glog/logging.h>
+
 void AppHelper::InitQss() {
     Theme::Instance()->Apply(QString::fromStdString(AppConfigData::Instance()->theme));
 }
@@ -17,6 +19,8 @@ void AppHelper::InitLanguage() {
 
 void AppHelper::LoadConfig() {
     const AppConfigData& config = *AppConfigData::Instance();
+    for (const std::string& note : config.loadNotes)
+        LOG(WARNING) << "AppHelper::LoadConfig " << note;
     AppContextData& context = *AppContextData::Instance();
     context.enrolled = config.enrolled;
     context.deviceName = config.deviceName;

@@ -5,6 +5,6 @@
 /// Facts about this machine.
 class MachineHelper {
 public:
-    /// The name the device goes by: the enrolled one, the configured one, or the host name. UTF-8.
+    /// The name the device goes by: the one it is managed under, or else the host name. UTF-8.
     static std::string GetDeviceName();
 };

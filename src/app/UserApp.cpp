@@ -1,0 +1,130 @@
+#include "app/UserApp.h"
+
+#include "app/MainWindow.h"
+#include "common/LoggerGuard.h"
+#include "common/SentryGuard.h"
+#include "controllers/MainController.h"
+#include "controllers/MessageController.h"
+#include "controllers/PopupsController.h"
+#include "controllers/SettingsLockController.h"
+#include "lock/UDeviceScreenLock.h"
+#include "platform/application/QtSingleApplication.h"
+#include "platform/context/AppHelper.h"
+#include "platform/context/ProductConstants.h"
+#include "platform/link/PipeClientService.h"
+#include "platform/system/SystemDesktop.h"
+#include "platform/system/SystemSession.h"
+
+#include <QDir>
+#include <QMap>
+#include <QSharedMemory>
+#include <cstring>
+#include <glog/logging.h>
+#include <set>
+
+namespace {
+
+const QString ArgumentSeparator = QStringLiteral("<velmora_ryx>");
+constexpr int ForwardTimeoutMs = 5000;
+
+QString ForwardedArguments(const QStringList& arguments) {
+    return arguments.mid(1).join(ArgumentSeparator);
+}
+
+/// Takes the session's marker for this process; false when another process holds it.
+bool TakeSessionMarker(QSharedMemory& marker) {
+    const QString key = SystemSession::Native().SharedMemoryKey(QString::fromLatin1(Product::ShellMarker));
+    SystemSession::Native().ReleaseOrphanedSharedMemory(key);
+    marker.setNativeKey(key);
+    if (marker.attach(QSharedMemory::ReadWrite))
+        return false;
+
+    const auto processId = static_cast<quint32>(QCoreApplication::applicationPid());
+    marker.create(sizeof processId, QSharedMemory::ReadWrite);
+    marker.lock();
+    if (marker.data())
+        std::memcpy(marker.data(), &processId, sizeof processId);
+    marker.unlock();
+    return true;
+}
+
+std::wstring CrashDatabasePath() {
+    return (QDir(QDir::tempPath()).absolutePath() + QStringLiteral("/sentry-ryx-user")).toStdWString();
+}
+
+/// The link runs while this lives.
+struct PipeLinkGuard {
+    PipeLinkGuard() { PipeClientService::Instance()->Start(); }
+    ~PipeLinkGuard() { PipeClientService::Instance()->Stop(); }
+    Q_DISABLE_COPY(PipeLinkGuard)
+};
+
+/// Makes the native window without it ever showing on screen or task bar.
+void CreateHidden(QWidget& window) {
+    const SystemDesktop& desktop = SystemDesktop::Native();
+    const quintptr style = desktop.HideFromTaskbar(window.winId());
+    window.showMinimized();
+    window.hide();
+    desktop.RestoreTaskbarStyle(window.winId(), style);
+}
+
+} // namespace
+
+int UserApp::Run(int argc, char** argv) {
+    SystemSession::Native().InitializeCom();
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QtSingleApplication application(QStringLiteral("velmora_ryx_windows_shell"), argc, argv);
+    if (application.isRunning()) {
+        application.sendMessage(ForwardedArguments(application.arguments()), ForwardTimeoutMs);
+        return 0;
+    }
+    application.setProperty("IsUser", true);
+
+    const LoggerGuard logger(true, "User");
+    QSharedMemory marker;
+    if (!TakeSessionMarker(marker)) {
+        LOG(INFO) << "UserApp::Run application is already running!";
+        return 0;
+    }
+    const SentryGuard sentry(std::string("VelmoraRYX@User@") + Product::Version, CrashDatabasePath());
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+
+    UserApp app;
+    connect(&application, &QtSingleApplication::messageReceived, &app,
+            &UserApp::OnOtherInstanceMessageReceived);
+
+    AppHelper::InitQss();
+    AppHelper::InitLanguage();
+    AppHelper::LoadConfig();
+
+    PopupsController popups;
+    MainController main;
+    SettingsLockController settings;
+    MessageController message;
+    const QMap<QString, ControllerBase*> controllers{{QStringLiteral("popups"), &popups},
+                                                     {QStringLiteral("ryx"), &main},
+                                                     {QStringLiteral("settings"), &settings},
+                                                     {QStringLiteral("message"), &message}};
+    application.setProperty("controllers", QVariant::fromValue(controllers));
+    for (ControllerBase* controller : std::set<ControllerBase*>(controllers.begin(), controllers.end()))
+        controller->SetService(PipeClientService::Instance());
+    const PipeLinkGuard link;
+
+    MainWindow window;
+    const UDeviceScreenLock screenLock;
+    application.setActivationWindow(&window, true);
+    if (application.arguments().contains(QStringLiteral("-hide")))
+        CreateHidden(window);
+    else
+        window.show();
+    return QApplication::exec();
+}
+
+void UserApp::OnOtherInstanceMessageReceived(const QString& message) {
+    if (message.isEmpty())
+        if (QWidget* window = static_cast<QtSingleApplication*>(qApp)->activationWindow())
+            window->show();
+    LOG(INFO) << "UserApp::OnOtherInstanceMessageReceived Other instance commandline: "
+              << QString(message).replace(ArgumentSeparator, QStringLiteral(" ")).toStdString();
+}

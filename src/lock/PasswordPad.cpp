@@ -1,0 +1,198 @@
+#include "lock/PasswordPad.h"
+
+#include "platform/security/PasswordHelper.h"
+
+#include <QCheckBox>
+#include <QEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPropertyAnimation>
+#include <QPushButton>
+#include <QVariant>
+
+namespace {
+
+constexpr char IndexProperty[] = "PasswordIndex";
+constexpr int ShakeMs = 100;
+constexpr int ShakeLoops = 2;
+constexpr int ShakeWidth = 14;
+
+bool IsDigit(const QString& text) {
+    return text.size() == 1 && text[0] >= QLatin1Char('0') && text[0] <= QLatin1Char('9');
+}
+
+} // namespace
+
+PasswordPad::PasswordPad(QWidget* parent) : QFrame(parent) {
+    Initialization();
+    LanguageChanges();
+}
+
+void PasswordPad::Initialization() {
+    m_passwordArea = new QFrame(this);
+    m_passwordArea->setObjectName(QStringLiteral("passwordArea"));
+    m_passwordArea->setLayoutDirection(Qt::LeftToRight); // digits read left to right in every language
+    auto* boxes = new QHBoxLayout(m_passwordArea);
+    boxes->setContentsMargins(ShakeWidth, 0, ShakeWidth, 0);
+    boxes->setSpacing(12);
+    for (int i = 0; i < Digits; ++i) {
+        auto* box = new QLineEdit(m_passwordArea);
+        box->setProperty(IndexProperty, i);
+        box->setProperty("passwordBox", true);
+        box->setMaxLength(1);
+        box->setAlignment(Qt::AlignCenter);
+        box->setEchoMode(QLineEdit::Password);
+        box->setContextMenuPolicy(Qt::NoContextMenu);
+        box->setAttribute(Qt::WA_InputMethodEnabled, false);
+        box->installEventFilter(this);
+        boxes->addWidget(box);
+        m_boxes[static_cast<std::size_t>(i)] = box;
+    }
+    setFocusProxy(m_boxes.front());
+
+    m_viewPassword = new QCheckBox(this);
+    m_viewPassword->setObjectName(QStringLiteral("viewPasswordCheckBox"));
+    connect(m_viewPassword, &QCheckBox::toggled, this, &PasswordPad::OnButtonViewPasswordClicked);
+
+    auto* column = new QVBoxLayout(this);
+    column->setSpacing(24);
+    column->addWidget(m_passwordArea, 0, Qt::AlignHCenter);
+    column->addWidget(m_viewPassword, 0, Qt::AlignHCenter);
+    column->addWidget(CreateKeypad(), 0, Qt::AlignHCenter);
+}
+
+QWidget* PasswordPad::CreateKeypad() {
+    auto* keypad = new QWidget(this);
+    keypad->setObjectName(QStringLiteral("keypad"));
+    keypad->setLayoutDirection(Qt::LeftToRight);
+    auto* grid = new QGridLayout(keypad);
+    grid->setSpacing(12);
+    const auto add = [&](const QString& text, int row, int column) {
+        auto* key = new QPushButton(text, keypad);
+        key->setProperty("passwordKey", true);
+        key->setFocusPolicy(Qt::TabFocus); // a press leaves the focus in the boxes
+        grid->addWidget(key, row, column);
+        return key;
+    };
+    for (int digit = 0; digit <= 9; ++digit) {
+        const int place = digit == 0 ? 10 : digit - 1;
+        auto* key = add(QString::number(digit), place / 3, place % 3);
+        connect(key, &QPushButton::clicked, this,
+                [this, digit] { TypeDigit(CurrentBox(), QLatin1Char(static_cast<char>('0' + digit))); });
+    }
+    auto* erase = add(QStringLiteral("\u232b"), 3, 2);
+    connect(erase, &QPushButton::clicked, this, [this] { Erase(CurrentBox()); });
+    m_erase = erase;
+    return keypad;
+}
+
+void PasswordPad::LanguageChanges() {
+    m_viewPassword->setText(tr("lock_show_password"));
+    m_erase->setAccessibleName(tr("lock_erase_digit"));
+    for (int i = 0; i < Digits; ++i)
+        m_boxes[static_cast<std::size_t>(i)]->setAccessibleName(tr("lock_digit_name").arg(i + 1));
+}
+
+void PasswordPad::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange)
+        LanguageChanges();
+    QFrame::changeEvent(event);
+}
+
+QString PasswordPad::GetPassword() const {
+    QString password;
+    for (const QLineEdit* box : m_boxes)
+        password += box->text();
+    return password;
+}
+
+std::string PasswordPad::GetPasswordHash() const {
+    return PasswordHelper::HashVelmoraPassword(GetPassword().toStdString());
+}
+
+void PasswordPad::Clear() {
+    for (QLineEdit* box : m_boxes)
+        box->clear();
+}
+
+void PasswordPad::FocusBox(int index) {
+    m_boxes[static_cast<std::size_t>(index)]->setFocus();
+}
+
+void PasswordPad::FocusFirstEmpty() {
+    for (QLineEdit* box : m_boxes)
+        if (box->text().isEmpty())
+            return box->setFocus();
+}
+
+int PasswordPad::CurrentBox() const {
+    for (int i = 0; i < Digits; ++i)
+        if (m_boxes[static_cast<std::size_t>(i)]->hasFocus())
+            return i;
+    for (int i = 0; i < Digits; ++i)
+        if (m_boxes[static_cast<std::size_t>(i)]->text().isEmpty())
+            return i;
+    return Digits - 1;
+}
+
+void PasswordPad::TypeDigit(int box, QChar digit) {
+    m_boxes[static_cast<std::size_t>(box)]->setText(digit);
+    if (box + 1 < Digits)
+        FocusBox(box + 1);
+    emit Used();
+    if (box + 1 == Digits)
+        emit Completed();
+}
+
+void PasswordPad::Erase(int box) {
+    m_boxes[static_cast<std::size_t>(box)]->clear();
+    if (box > 0)
+        FocusBox(box - 1);
+    emit Used();
+}
+
+void PasswordPad::OnButtonViewPasswordClicked() {
+    for (QLineEdit* box : m_boxes)
+        box->setEchoMode(m_viewPassword->isChecked() ? QLineEdit::Normal : QLineEdit::Password);
+    emit Used();
+}
+
+void PasswordPad::mousePressEvent(QMouseEvent* event) {
+    FocusFirstEmpty();
+    emit Used();
+    QFrame::mousePressEvent(event);
+}
+
+bool PasswordPad::eventFilter(QObject* watched, QEvent* event) {
+    const QVariant index = watched->property(IndexProperty);
+    if (event->type() != QEvent::KeyPress || !index.isValid())
+        return QFrame::eventFilter(watched, event);
+
+    const auto* key = static_cast<QKeyEvent*>(event);
+    if (IsDigit(key->text()))
+        TypeDigit(index.toInt(), key->text()[0]);
+    else if (key->key() == Qt::Key_Backspace)
+        Erase(index.toInt());
+    else if (key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab)
+        return false;
+    return true; // nothing else belongs into a box, pasting included
+}
+
+void PasswordPad::StartInvalidPasswordAnimation() {
+    if (m_shaking)
+        return;
+    m_shaking = true;
+    const QPoint rest = m_passwordArea->pos();
+    auto* shake = new QPropertyAnimation(m_passwordArea, "pos", this);
+    shake->setDuration(ShakeMs);
+    shake->setLoopCount(ShakeLoops);
+    shake->setEasingCurve(QEasingCurve::InOutQuad);
+    shake->setStartValue(rest);
+    shake->setKeyValueAt(0.25, rest - QPoint(ShakeWidth, 0));
+    shake->setKeyValueAt(0.75, rest + QPoint(ShakeWidth, 0));
+    shake->setEndValue(rest);
+    connect(shake, &QPropertyAnimation::finished, this, [this] { m_shaking = false; });
+    shake->start(QAbstractAnimation::DeleteWhenStopped);
+}

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QFrame>
+#include <array>
+
+class QCheckBox;
+class QLineEdit;
+
+/// Six single-character boxes for a password of digits, the choice to show them, and digit keys for
+/// displays without a keyboard. Every dialog that asks for the password holds one. GUI thread.
+class PasswordPad : public QFrame {
+    Q_OBJECT
+
+public:
+    static constexpr int Digits = 6;
+
+    explicit PasswordPad(QWidget* parent = nullptr);
+
+    /// The boxes' texts in order; shorter than six characters while boxes are empty.
+    QString GetPassword() const;
+    /// The hash of GetPassword, as the service knows passwords.
+    std::string GetPasswordHash() const;
+
+    void Clear();
+    void FocusBox(int index);
+    void FocusFirstEmpty();
+
+    /// Shakes the boxes: the password was wrong.
+    void StartInvalidPasswordAnimation();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+signals:
+    /// The user did something here: typed, erased, pressed, showed or hid the password.
+    void Used();
+    /// The last box got its digit.
+    void Completed();
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+
+private:
+    void Initialization();
+    QWidget* CreateKeypad();
+    void OnButtonViewPasswordClicked();
+    void LanguageChanges();
+    void TypeDigit(int box, QChar digit);
+    void Erase(int box);
+    int CurrentBox() const;
+
+    std::array<QLineEdit*, Digits> m_boxes{};
+    QFrame* m_passwordArea = nullptr;
+    QCheckBox* m_viewPassword = nullptr;
+    QWidget* m_erase = nullptr;
+    bool m_shaking = false;
+};

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "lock/ScreenCovers.h"
+#include "platform/application/Clock.h"
+#include "platform/application/IdleTimer.h"
+#include "platform/link/PipeKey.h"
+#include "platform/system/SystemDesktop.h"
+
+#include <QTimer>
+#include <QWidget>
+#include <memory>
+#include <string>
+
+namespace Ui {
+class UDeviceScreenLock;
+}
+
+/// The lock that the service puts over the screen, until it says otherwise or until a time of day.
+/// Six right digits release it. Listens to the pipe by itself. GUI thread.
+class UDeviceScreenLock : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit UDeviceScreenLock(const Clock& clock = Clock::System(),
+                               const SystemDesktop& desktop = SystemDesktop::Native());
+    ~UDeviceScreenLock() override;
+
+signals:
+    void VisibleChanged(bool visible);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void Initialization();
+    void InitConnect();
+    void OnPipeDataReceived(PipeKey key, const std::string& body);
+    void ProcessLock(const std::string& body);
+    void Release();
+
+    void UpdateUI();
+    void UpdateTexts();
+    void CoverScreens();
+    void ShowMessageView();
+    void ShowPasswordView();
+
+    void OnPadUsed();
+    void OnPasswordCompleted();
+    void OnUnlockTimer();
+    void OnIdle();
+    bool IsBeforeEnd() const;
+
+    const Clock& m_clock;
+    const SystemDesktop& m_desktop;
+    std::unique_ptr<Ui::UDeviceScreenLock> m_ui;
+    ScreenCovers m_covers;
+    QTimer m_backTimer;
+    QTimer m_unlockTimer;
+    IdleTimer m_idleTimer;
+    std::string m_endAt; // "HH:mm"; empty: until told otherwise
+};

@@ -1,0 +1,4 @@
+target_sources(ryx_user_objects PRIVATE
+    ${CMAKE_CURRENT_LIST_DIR}/PasswordPad.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/ScreenCovers.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/UDeviceScreenLock.cpp)
