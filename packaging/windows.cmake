@@ -1,0 +1,67 @@
+# What makes the built programs a Windows product: version resource, icon, manifest, installer.
+
+string(REPLACE "." "," RYX_RC_VERSION "${PROJECT_VERSION}")
+set(folder "${CMAKE_CURRENT_LIST_DIR}/windows")
+set(icon "${CMAKE_CURRENT_LIST_DIR}/../src/resources/common/desktop.ico")
+
+# ryx_windows_resources(TARGET "what it is"): version resource; for programs also icon and manifest.
+function(ryx_windows_resources target RYX_RC_DESCRIPTION)
+    get_target_property(type ${target} TYPE)
+    get_target_property(name ${target} OUTPUT_NAME)
+    if(type STREQUAL "EXECUTABLE")
+        set(RYX_RC_NAME "${target}.exe")
+        set(RYX_RC_TYPE VFT_APP)
+        set(RYX_RC_ICON "1 ICON \"${icon}\"")
+        configure_file("${folder}/app.manifest.in" "${CMAKE_BINARY_DIR}/resources/${target}.manifest" @ONLY)
+        if(MSVC) # whose linker takes the manifest itself
+            target_sources(${target} PRIVATE "${CMAKE_BINARY_DIR}/resources/${target}.manifest")
+        else()
+            set(RYX_RC_MANIFEST "1 24 \"${CMAKE_BINARY_DIR}/resources/${target}.manifest\"")
+        endif()
+    else()
+        set(RYX_RC_NAME "RyxUser.dll")
+        set(RYX_RC_TYPE VFT_DLL)
+    endif()
+    configure_file("${folder}/version.rc.in" "${CMAKE_BINARY_DIR}/resources/${target}.rc" @ONLY)
+    target_sources(${target} PRIVATE "${CMAKE_BINARY_DIR}/resources/${target}.rc")
+endfunction()
+
+ryx_windows_resources(velmora-ryx "Velmora RYX")
+ryx_windows_resources(ryx_user "Velmora RYX user session")
+ryx_windows_resources(ryx-agent "Velmora RYX stand-in agent")
+
+# The packages hold the front end and all that it needs; the stand-in agent is no part of the product.
+install(TARGETS velmora-ryx ryx_user RUNTIME DESTINATION .)
+install(FILES "${folder}/qt.conf" DESTINATION .)
+
+if(DEFINED RYX_WINDOWS_SDK)
+    include("${CMAKE_CURRENT_LIST_DIR}/windows-libraries.cmake")
+endif()
+
+set(CPACK_GENERATOR ZIP NSIS)
+set(CPACK_PACKAGE_NAME "velmora-ryx")
+set(CPACK_PACKAGE_VENDOR "Velmora")
+set(CPACK_PACKAGE_VERSION "${PROJECT_VERSION}")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Velmora RYX")
+set(CPACK_PACKAGE_FILE_NAME "velmora-ryx-${PROJECT_VERSION}-windows-x64")
+set(CPACK_PACKAGE_INSTALL_DIRECTORY "Velmora RYX")
+set(CPACK_PACKAGE_INSTALL_REGISTRY_KEY "Velmora RYX")
+set(CPACK_PACKAGE_EXECUTABLES "velmora-ryx;Velmora RYX")
+set(CPACK_RESOURCE_FILE_LICENSE "${CMAKE_SOURCE_DIR}/LICENSE")
+set(CPACK_PACKAGE_CHECKSUM SHA256)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_ARCHIVE_COMPONENT_INSTALL OFF)
+
+set(CPACK_NSIS_PACKAGE_NAME "Velmora RYX")
+set(CPACK_NSIS_DISPLAY_NAME "Velmora RYX")
+set(CPACK_NSIS_INSTALL_ROOT "$PROGRAMFILES64")
+set(CPACK_NSIS_EXECUTABLES_DIRECTORY ".")
+set(CPACK_NSIS_INSTALLED_ICON_NAME "velmora-ryx.exe")
+set(CPACK_NSIS_MUI_ICON "${icon}")
+set(CPACK_NSIS_MUI_UNIICON "${icon}")
+set(CPACK_NSIS_ENABLE_UNINSTALL_BEFORE_INSTALL ON)
+set(CPACK_NSIS_MANIFEST_DPI_AWARE ON)
+set(CPACK_NSIS_COMPRESSOR "/SOLID lzma")
+# An installer that is a 64-bit program itself, as everything in it.
+set(CPACK_NSIS_EXECUTABLE_PRE_ARGUMENTS "-XTarget amd64-unicode")
+include(CPack)
