@@ -43,10 +43,6 @@ SentryGuard::SentryGuard(const std::string&, const std::wstring&) {
     LOG(INFO) << "SentryGuard::SentryGuard crash reporting is not built in";
 }
 
-void SentryGuard::Close() {}
+SentryGuard::~SentryGuard() = default;
 
 #endif
-
-SentryGuard::~SentryGuard() {
-    Close();
-}

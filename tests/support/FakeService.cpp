@@ -35,6 +35,11 @@ void FakeService::Drop() {
         m_socket->disconnectFromServer();
 }
 
+void FakeService::StopReading() {
+    m_socket->setReadBufferSize(1);
+    disconnect(m_socket, &QLocalSocket::readyRead, this, nullptr);
+}
+
 FrameDecoder::Frame FakeService::Receive() {
     FrameDecoder::Frame frame;
     if (!QTest::qWaitFor([&] { return m_decoder.Next(frame) == FrameDecoder::Result::Frame; }))

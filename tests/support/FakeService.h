@@ -3,6 +3,7 @@
 #include "platform/link/PipeConnection.h"
 #include "platform/link/RyxPackage.h"
 
+#include <QDeadlineTimer>
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QPointer>
@@ -26,7 +27,17 @@ public:
 
     void Write(const std::string& bytes);
     void Send(PipeKey key, const std::string& body = {}) { Write(RyxPackage::PackageData(key, body)); }
+    /// Writes on without running the event loop, until `done`; false when nothing comes of it.
+    template <class Condition>
+    bool WriteUntil(Condition done) {
+        const QDeadlineTimer deadline(10000);
+        while (!done() && !deadline.hasExpired())
+            m_socket->waitForBytesWritten(10);
+        return done();
+    }
     void Drop();
+    /// Leaves what arrives from now on in the pipe.
+    void StopReading();
 
     /// The next message of the client; waits for it. Key -1 when none comes.
     FrameDecoder::Frame Receive();

@@ -2,8 +2,6 @@
 
 #include "platform/system/SystemDesktop.h"
 
-#include <algorithm>
-
 IdleTimer::IdleTimer(QObject* parent) : IdleTimer(SystemDesktop::Native(), parent) {}
 
 IdleTimer::IdleTimer(const SystemDesktop& desktop, QObject* parent) : QObject(parent), m_desktop(desktop) {
@@ -13,9 +11,8 @@ IdleTimer::IdleTimer(const SystemDesktop& desktop, QObject* parent) : QObject(pa
 }
 
 void IdleTimer::Start(int seconds) {
-    m_limit = qint64{seconds} * 1000;
-    m_running.start();
-    m_check.start(static_cast<int>(m_limit));
+    m_limitMs = qint64{seconds} * 1000;
+    m_check.start(static_cast<int>(m_limitMs));
 }
 
 void IdleTimer::Stop() {
@@ -23,14 +20,9 @@ void IdleTimer::Stop() {
 }
 
 void IdleTimer::Check() {
-    const qint64 rest = m_limit - IdleMilliseconds();
-    if (rest > 0)
-        m_check.start(static_cast<int>(rest)); // input came in between: the earliest moment it can be now
+    const qint64 idle = m_desktop.MillisecondsSinceInput();
+    if (idle >= 0 && idle < m_limitMs)
+        m_check.start(static_cast<int>(m_limitMs - idle)); // the earliest moment it can be now
     else
         emit Timeout();
-}
-
-qint64 IdleTimer::IdleMilliseconds() const {
-    const qint64 idle = m_desktop.MillisecondsSinceInput();
-    return idle < 0 ? m_running.elapsed() : std::min(idle, m_running.elapsed());
 }

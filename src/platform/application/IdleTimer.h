@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
 
@@ -25,10 +24,8 @@ signals:
 
 private:
     void Check();
-    qint64 IdleMilliseconds() const;
 
     const SystemDesktop& m_desktop;
     QTimer m_check{this};
-    QElapsedTimer m_running;
-    qint64 m_limit = 0;
+    qint64 m_limitMs = 0;
 };

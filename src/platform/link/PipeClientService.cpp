@@ -3,7 +3,6 @@
 #include "entity/RyxEntity.h"
 #include "platform/link/ControllerBase.h"
 #include "platform/link/PipeReceiveEvent.h"
-#include "platform/system/SystemPipe.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -19,7 +18,7 @@ const QEvent::Type WakeEvent = static_cast<QEvent::Type>(QEvent::registerEventTy
 
 } // namespace
 
-PipeClientService::PipeClientService() {
+PipeClientService::PipeClientService(const SystemPipe& system) : m_system(system) {
     qRegisterMetaType<PipeKey>("PipeKey");
     qRegisterMetaType<std::string>("std::string");
     m_thread.setObjectName(QStringLiteral("PipeLink"));
@@ -37,7 +36,7 @@ PipeClientService* PipeClientService::Instance() {
 void PipeClientService::Start() {
     if (m_connection)
         return;
-    m_connection = new PipeConnection(m_exchange, m_server, SystemPipe::Native());
+    m_connection = new PipeConnection(m_exchange, m_server, m_system);
     m_connection->moveToThread(&m_thread);
     connect(&m_thread, &QThread::finished, m_connection, &QObject::deleteLater);
     // Direct: the I/O thread itself posts the wake-up, and only for the first event that waits.

@@ -3,6 +3,7 @@
 #include "platform/link/PipeConnection.h"
 #include "platform/link/PipeExchange.h"
 #include "platform/link/PipeKey.h"
+#include "platform/system/SystemPipe.h"
 
 #include <QObject>
 #include <QThread>
@@ -26,7 +27,7 @@ class PipeClientService : public QObject {
     Q_OBJECT
 
 public:
-    PipeClientService();
+    explicit PipeClientService(const SystemPipe& system = SystemPipe::Native());
     ~PipeClientService() override;
 
     /// The process's one link.
@@ -92,6 +93,7 @@ private:
     void DeliverConnectChange(bool connected);
     static void LogRefused(PipeKey key, const char* receiver, const char* reason);
 
+    const SystemPipe& m_system;
     PipeServer m_server;
     PipeExchange m_exchange;
     QThread m_thread;

@@ -7,8 +7,8 @@ class PasswordHelper {
 public:
     /// The hash of `password` that travels on the pipe, as 64 lower-case hexadecimal digits:
     /// PBKDF2 with HMAC-SHA-256, the salt "velmora-ryx-password-v1", Iterations rounds, 32 bytes.
-    /// Slow on purpose (a few milliseconds), so that trying all passwords against a hash hurts.
+    /// Slow on purpose (about ten milliseconds), so that trying all passwords against a hash hurts.
     static std::string HashVelmoraPassword(const std::string& password);
 
-    static constexpr int Iterations = 4000;
+    static constexpr int Iterations = 10000;
 };

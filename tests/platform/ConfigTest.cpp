@@ -1,0 +1,51 @@
+#include "platform/context/AppConfigData.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Loaded {
+    AppConfigData data;
+    std::vector<std::string> notes;
+};
+
+Loaded Load(const QByteArray& text) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("ryx.json"));
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(text);
+    file.close();
+    Loaded loaded;
+    loaded.notes = loaded.data.Load(path.toStdString());
+    return loaded;
+}
+
+} // namespace
+
+TEST(Config, EveryValueIsRead) {
+    const Loaded loaded = Load(R"({"sentryDsn": "d", "language": "de", "theme": "dark", "pipeName": "p",
+        "agentAccount": "a", "logFolder": "l", "organisation": "Schule Süd", "deviceName": "n", "enrolled": true})");
+    EXPECT_TRUE(loaded.notes.empty());
+    const AppConfigData& data = loaded.data;
+    EXPECT_EQ(data.sentryDsn + data.language + data.theme + data.pipeName + data.agentAccount +
+                  data.logFolder + data.organisation + data.deviceName,
+              "ddedarkpalSchule Südn");
+    EXPECT_TRUE(data.enrolled);
+}
+
+TEST(Config, WhatIsWrongIsSaidAndTheRestCounts) {
+    const Loaded loaded = Load(R"({"language": 5, "enrolled": "yes", "theme": "dark", "pipeName": null})");
+    EXPECT_EQ(loaded.notes.size(), 2u);
+    EXPECT_EQ(loaded.data.language, "");
+    EXPECT_FALSE(loaded.data.enrolled);
+    EXPECT_EQ(loaded.data.theme, "dark");
+
+    for (const QByteArray& broken :
+         {QByteArray("{\"theme\": "), QByteArray("[1]"), QByteArray(), QByteArray(100000, '[')})
+        EXPECT_EQ(Load(broken).notes.size(), 1u) << broken.left(20).constData();
+    AppConfigData data;
+    EXPECT_EQ(data.Load("no/such/file.json").size(), 1u);
+}

@@ -1,0 +1,43 @@
+#include "platform/context/Logging.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <glog/logging.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+QStringList Files(const QTemporaryDir& folder) {
+    return QDir(folder.path()).entryList(QDir::Files, QDir::Name);
+}
+
+void Touch(const QTemporaryDir& folder, const QString& name) {
+    QFile file(folder.filePath(name));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+}
+
+} // namespace
+
+TEST(Logging, KeepsTheNewestFilesAndEndsTwiceInPeace) {
+    const QTemporaryDir folder;
+    for (int day = 10; day < 22; ++day)
+        Touch(folder, QStringLiteral("1-User.202001%1-120000.7").arg(day));
+    Touch(folder, QStringLiteral("1-Other.20200101-120000.7"));
+
+    InitLogger("1-User", folder.path().toStdString(), 10, 10);
+    LOG(INFO) << "first line";
+    LOG(ERROR) << "an error belongs into the same file";
+    ReleaseLogger();
+    ReleaseLogger();
+
+    const QStringList files = Files(folder);
+    ASSERT_EQ(files.size(), 11) << files.join(QLatin1Char(' ')).toStdString();
+    EXPECT_EQ(files.first(), QStringLiteral("1-Other.20200101-120000.7"));
+    EXPECT_EQ(files[1], QStringLiteral("1-User.20200113-120000.7"));
+    QFile newest(folder.filePath(files.last()));
+    ASSERT_TRUE(newest.open(QIODevice::ReadOnly));
+    const QByteArray text = newest.readAll();
+    EXPECT_TRUE(text.contains("first line"));
+    EXPECT_TRUE(text.contains("an error belongs"));
+}

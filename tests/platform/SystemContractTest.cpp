@@ -1,0 +1,74 @@
+// What every operating system's back end must do alike.
+#include "platform/system/SystemDesktop.h"
+#include "platform/system/SystemPipe.h"
+#include "platform/system/SystemSession.h"
+
+#include <QDir>
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <QSharedMemory>
+#include <QWidget>
+#include <QtTest>
+#include <gtest/gtest.h>
+
+TEST(SystemContract, PipeServerIsThisAccount) {
+    const SystemPipe& system = SystemPipe::Native();
+    QLocalServer server;
+    ASSERT_TRUE(server.listen(system.LocalName(QStringLiteral("\\\\.\\pipe\\ryx-contract"))));
+    QLocalSocket client;
+    client.connectToServer(system.LocalName(QStringLiteral("\\\\.\\pipe\\ryx-contract")));
+    ASSERT_TRUE(client.waitForConnected());
+
+    EXPECT_FALSE(system.CurrentAccount().isEmpty());
+    EXPECT_EQ(system.Server(client.socketDescriptor()).account, system.CurrentAccount());
+    EXPECT_TRUE(system.Server(-1).account.isEmpty());
+    EXPECT_FALSE(system.Server(-1).isSystem);
+}
+
+TEST(SystemContract, SharedMemoryKeyIsUsableAndOrphansGo) {
+    const SystemSession& system = SystemSession::Native();
+    const QString key = system.SharedMemoryKey(QStringLiteral("ryx-contract"));
+    QSharedMemory first;
+    first.setNativeKey(key);
+    ASSERT_TRUE(first.create(4)) << first.errorString().toStdString();
+    system.ReleaseOrphanedSharedMemory(key);
+    QSharedMemory second;
+    second.setNativeKey(key);
+    EXPECT_TRUE(second.attach()) << "a segment in use must stay";
+    second.detach();
+    first.detach();
+    EXPECT_FALSE(second.attach());
+}
+
+TEST(SystemContract, FoldersAreAbsoluteAndAnsiKeepsPlainText) {
+    const SystemSession& system = SystemSession::Native();
+    EXPECT_TRUE(QDir::isAbsolutePath(system.ConfigurationFolder()));
+    EXPECT_TRUE(QDir::isAbsolutePath(system.LogFolder()));
+    EXPECT_NE(system.ConfigurationFolder(), system.LogFolder());
+    EXPECT_EQ(system.ToAnsi(L"C:/logs/ryx 1"), "C:/logs/ryx 1");
+    EXPECT_EQ(system.ToAnsi(L""), "");
+}
+
+TEST(SystemContract, HResultErrorTellsCodeAndHasWords) {
+    const HResultError known("CoInitializeEx", static_cast<std::int32_t>(0x80070005)); // access denied
+    EXPECT_EQ(known.Result(), static_cast<std::int32_t>(0x80070005));
+    EXPECT_EQ(std::string(known.what()).rfind("CoInitializeEx failed with 0x80070005: ", 0), 0u)
+        << known.what();
+    const HResultError unknown("X", static_cast<std::int32_t>(0xA5A5A5A5));
+    EXPECT_STREQ(unknown.what(), "X failed with 0xA5A5A5A5: unknown error");
+}
+
+TEST(SystemContract, DesktopActsLeaveGeometryAlone) {
+    const SystemDesktop& system = SystemDesktop::Native();
+    QWidget window;
+    window.setGeometry(40, 50, 300, 200);
+    const quintptr style = system.HideFromTaskbar(window.winId());
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    const QRect before = window.geometry();
+    system.RestoreTaskbarStyle(window.winId(), style);
+    system.RaiseTopmost(window.winId());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window.geometry(), before);
+    EXPECT_GE(system.MillisecondsSinceInput(), -1);
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/system/SystemDesktop.h"
+
+#include <vector>
+
+/// A desktop that does nothing but remember, with a scripted idle time.
+class FakeDesktop : public SystemDesktop {
+public:
+    void RaiseTopmost(WId window) const override { raised.push_back(window); }
+    quintptr HideFromTaskbar(WId) const override { return 0; }
+    void RestoreTaskbarStyle(WId, quintptr) const override {}
+    qint64 MillisecondsSinceInput() const override { return idleMs; }
+
+    mutable std::vector<WId> raised;
+    qint64 idleMs = 0;
+};
