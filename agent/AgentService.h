@@ -1,0 +1,42 @@
+#pragma once
+
+#include "AgentServer.h"
+#include "entity/UpdateEntities.h"
+#include "platform/application/IotStatus.h"
+
+#include <QObject>
+#include <string>
+
+/// What the agent service knows and answers. It greets every front end with the password hashes and the
+/// link's status, and answers the questions for the context and for an update.
+class AgentService : public QObject {
+    Q_OBJECT
+
+public:
+    explicit AgentService(AgentServer& server);
+
+    /// Each is told to the front ends that are connected now and to every later one.
+    void SetStatus(int status);
+    void SetUnlockPassword(const std::string& digits);
+    void SetUnbindPassword(const std::string& digits);
+    /// The version that is offered as an update; an empty text means that there is none.
+    void SetUpdate(const std::string& version);
+
+    /// Answers the next question for the context.
+    void SetContext(const std::string& context) { m_context = context; }
+
+    /// Locks the screens, until a time of day as "HH:mm" or, when it is empty, until they are unlocked.
+    void Lock(const std::string& endTime);
+
+private:
+    void Greet(int client);
+    void Answer(PipeKey key, int client);
+    std::string StatusBody() const;
+
+    AgentServer& m_server;
+    int m_status = static_cast<int>(IotStatus::Connected);
+    std::string m_context = "velmora-ryx-agent";
+    std::string m_unlockHash;
+    std::string m_unbindHash;
+    OtaUpdateVersionInfo m_update;
+};

@@ -1,0 +1,96 @@
+// ryx-agent: stands in for the agent service, for people who try the front end and for its tests.
+#include "CommandInterpreter.h"
+#include "ConsoleInput.h"
+#include "platform/context/ProductConstants.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <fstream>
+#include <iostream>
+
+namespace {
+
+enum ExitCode { AllMet = 0, NotMet = 1, BadUsage = 2, NotServing = 3 };
+
+int Run(QCoreApplication& application) {
+    QCommandLineParser options;
+    const QCommandLineOption pipe(QStringLiteral("pipe"), QStringLiteral("Serve the pipe NAME."),
+                                  QStringLiteral("NAME"), QString::fromLatin1(Product::ServicePipe));
+    const QCommandLineOption scenario(QStringLiteral("scenario"),
+                                      QStringLiteral("Play the commands in FILE; then end, with 0 when every "
+                                                     "expectation was met and 1 when one was not."),
+                                      QStringLiteral("FILE"));
+    const QCommandLineOption console(QStringLiteral("console"),
+                                     QStringLiteral("Take commands from standard input after the scenario."));
+    options.setApplicationDescription(QStringLiteral(
+        "Stand-in for the agent service. Without a scenario it takes commands from standard input."));
+    const QCommandLineOption help = options.addHelpOption();
+    options.addOptions({pipe, scenario, console});
+    EventLog log(std::cout);
+    if (!options.parse(application.arguments()) || !options.positionalArguments().isEmpty()) {
+        log.Line("error: " + options.errorText().toStdString() + " (--help tells the options)");
+        return BadUsage;
+    }
+    if (options.isSet(help)) {
+        log.Line(options.helpText().toStdString());
+        return AllMet;
+    }
+    AgentServer server(log);
+    AgentService service(server);
+    CommandInterpreter interpreter(server, service, log);
+
+    const bool hasScenario = options.isSet(scenario);
+    if (hasScenario) {
+        const std::string path = options.value(scenario).toLocal8Bit().toStdString();
+        std::ifstream file(path);
+        if (!file) {
+            log.Line("error: cannot read " + path);
+            return BadUsage;
+        }
+        if (!interpreter.AddScenario(file, path))
+            return BadUsage;
+    }
+    if (const QString problem = server.Listen(options.value(pipe)); !problem.isEmpty()) {
+        log.Line("error: cannot serve " + options.value(pipe).toStdString() + ": " + problem.toStdString());
+        return NotServing;
+    }
+
+    const auto result = [&interpreter] { return interpreter.AllMet() ? AllMet : NotMet; };
+    const auto quit = [&] { QCoreApplication::exit(result()); };
+    QObject::connect(&interpreter, &CommandInterpreter::Quit, quit);
+
+    ConsoleInput input;
+    QObject::connect(&input, &ConsoleInput::LineRead, &interpreter, &CommandInterpreter::Add);
+    // A command like the others, so that what was given before is carried out first.
+    QObject::connect(&input, &ConsoleInput::Ended, &interpreter, [&] { interpreter.Add("quit"); });
+    const auto openConsole = [&] {
+        log.Line("commands are read from standard input; help lists them");
+        input.Start();
+    };
+
+    if (!hasScenario) {
+        openConsole();
+    } else {
+        const auto afterScenario = std::make_shared<QMetaObject::Connection>();
+        *afterScenario = QObject::connect(&interpreter, &CommandInterpreter::Idle, [&, afterScenario] {
+            QObject::disconnect(*afterScenario);
+            log.Line(interpreter.AllMet() ? "scenario passed" : "scenario failed");
+            if (options.isSet(console))
+                openConsole();
+            else
+                quit();
+        });
+        QMetaObject::invokeMethod(&interpreter, &CommandInterpreter::Play, Qt::QueuedConnection);
+    }
+    return QCoreApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    // The reading thread may still wait for a line when the program ends; without this, it would hold the
+    // lock of the C library's standard input then.
+    std::ios::sync_with_stdio(false);
+    QCoreApplication application(argc, argv);
+    return Run(application);
+}
