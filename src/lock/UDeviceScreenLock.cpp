@@ -26,7 +26,7 @@ UDeviceScreenLock::UDeviceScreenLock(const Clock& clock, const SystemDesktop& de
     : m_clock(clock),
       m_desktop(desktop),
       m_ui(std::make_unique<Ui::UDeviceScreenLock>()),
-      m_idleTimer(desktop, nullptr) {
+      m_idleTimer(desktop, this) {
     Initialization();
     InitConnect();
 }
@@ -42,6 +42,7 @@ void UDeviceScreenLock::Initialization() {
     m_backTimer.setObjectName(QStringLiteral("backTimer"));
     m_backTimer.setSingleShot(true);
     m_backTimer.setInterval(BackMs);
+    m_unlockTimer.setObjectName(QStringLiteral("unlockTimer"));
     m_unlockTimer.setInterval(UnlockCheckMs);
     UpdateTexts();
     ShowMessageView();

@@ -57,8 +57,8 @@ private:
     const SystemDesktop& m_desktop;
     std::unique_ptr<Ui::UDeviceScreenLock> m_ui;
     ScreenCovers m_covers;
-    QTimer m_backTimer;
-    QTimer m_unlockTimer;
+    QTimer m_backTimer{this};
+    QTimer m_unlockTimer{this};
     IdleTimer m_idleTimer;
     std::string m_endAt; // "HH:mm"; empty: until told otherwise
 };

@@ -1,0 +1,298 @@
+#include "lock/UDeviceScreenLock.h"
+#include "platform/context/AppContextData.h"
+#include "platform/link/PipeClientService.h"
+#include "platform/security/PasswordHelper.h"
+#include "support/FakeDesktop.h"
+#include "support/FakeService.h"
+#include "support/LogCapture.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPropertyAnimation>
+#include <QPushButton>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QtTest>
+#include <gtest/gtest.h>
+
+namespace {
+
+struct ManualClock : Clock {
+    QDateTime Now() const override {
+        return {QDate(2026, 3, 2), QTime::fromString(time, QStringLiteral("HH:mm"))};
+    }
+    QString time = QStringLiteral("10:00");
+};
+
+class ScreenLock : public testing::Test {
+protected:
+    void SetUp() override {
+        *AppContextData::Instance() = {};
+        AppContextData::Instance()->unlockPassword = PasswordHelper::HashVelmoraPassword("123456");
+        service = std::make_unique<FakeService>();
+        link.SetServer(service->Address());
+        link.Start();
+        ASSERT_TRUE(service->WaitForClient());
+        ASSERT_TRUE(QTest::qWaitFor([this] { return link.IsConnected(); }));
+        for (auto* box : lock.findChildren<QLineEdit*>())
+            boxes.push_back(box);
+        std::sort(boxes.begin(), boxes.end(), [](const QLineEdit* a, const QLineEdit* b) {
+            return a->property("PasswordIndex").toInt() < b->property("PasswordIndex").toInt();
+        });
+        ASSERT_EQ(boxes.size(), 6u);
+    }
+    void TearDown() override { link.Stop(); }
+
+    void Lock(const std::string& endAt = {}) {
+        link.Deliver(PipeKey::ScreenLock, "{\"endAt\": \"" + endAt + "\"}");
+    }
+    void LockAndOpenPad(const std::string& endAt = {}) {
+        Lock(endAt);
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&lock));
+        QTest::mouseClick(lock.findChild<QPushButton*>(QStringLiteral("enterPasswordButton")),
+                          Qt::LeftButton);
+    }
+    /// Types where the focus is, as a user does.
+    void Type(const QString& keys) {
+        for (const QChar key : keys)
+            QTest::keyClick(lock.focusWidget(), key.toLatin1());
+    }
+    void Press(Qt::Key key) { QTest::keyClick(lock.focusWidget(), key); }
+    QString Typed() const {
+        QString text;
+        for (const QLineEdit* box : boxes)
+            text += box->text().isEmpty() ? QStringLiteral("-") : box->text();
+        return text;
+    }
+    int FocusedBox() const {
+        return lock.focusWidget() ? lock.focusWidget()->property("PasswordIndex").toInt() : -1;
+    }
+    bool ShowsPad() const { return lock.findChild<QWidget*>(QStringLiteral("passwordPart"))->isVisible(); }
+    bool ShowsMessage() const { return lock.findChild<QWidget*>(QStringLiteral("messagePart"))->isVisible(); }
+    QString Message() const { return lock.findChild<QLabel*>(QStringLiteral("messageLabel"))->text(); }
+    QTimer& BackTimer() { return *lock.findChild<QTimer*>(QStringLiteral("backTimer")); }
+    QTimer& UnlockTimer() { return *lock.findChild<QTimer*>(QStringLiteral("unlockTimer")); }
+    IdleTimer& Idle() { return *lock.findChild<IdleTimer*>(); }
+    static void Expire(QObject& timer) { QMetaObject::invokeMethod(&timer, "timeout"); }
+    void ExpireIdle() { emit Idle().Timeout(); }
+
+    LogCapture log;
+    ManualClock clock;
+    FakeDesktop desktop;
+    PipeClientService& link = *PipeClientService::Instance();
+    std::unique_ptr<FakeService> service;
+    UDeviceScreenLock lock{clock, desktop};
+    std::vector<QLineEdit*> boxes;
+};
+
+} // namespace
+
+TEST_F(ScreenLock, CoversThePrimaryScreenAboveEverything) {
+    QSignalSpy visible(&lock, &UDeviceScreenLock::VisibleChanged);
+    Lock();
+    EXPECT_TRUE(lock.isVisible());
+    EXPECT_EQ(lock.geometry(), QGuiApplication::primaryScreen()->geometry());
+    EXPECT_EQ(lock.property("TopLevel").toInt(), 6);
+    EXPECT_TRUE(lock.windowFlags().testFlag(Qt::FramelessWindowHint));
+    EXPECT_TRUE(lock.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+    EXPECT_FALSE(desktop.raised.empty());
+    ASSERT_EQ(visible.count(), 1);
+    EXPECT_TRUE(visible[0][0].toBool());
+    EXPECT_TRUE(ShowsMessage());
+    EXPECT_FALSE(ShowsPad());
+
+    lock.close(); // Alt+F4
+    EXPECT_TRUE(lock.isVisible());
+}
+
+TEST_F(ScreenLock, EndTimesAreComparedAsTextAndTold) {
+    struct Case {
+        const char* now;
+        const char* endAt;
+        bool locks;
+    };
+    for (const Case& c : {Case{"10:00", "10:01", true},
+                          {"10:00", "10:00", false},
+                          {"10:00", "09:59", false},
+                          {"23:50", "00:30", false},
+                          {"00:00", "23:59", true},
+                          {"10:00", "", true}}) {
+        clock.time = QString::fromLatin1(c.now);
+        Lock(c.endAt);
+        EXPECT_EQ(lock.isVisible(), c.locks) << c.endAt << " at " << c.now;
+        EXPECT_EQ(log.Count(std::string("Screen lock still time: ") + c.endAt + "\n"), 1);
+        if (c.locks) {
+            EXPECT_EQ(Message().contains(QString::fromLatin1(c.endAt)), true);
+        }
+        link.Deliver(PipeKey::ScreenLockReset, "");
+        EXPECT_FALSE(lock.isVisible());
+    }
+}
+
+TEST_F(ScreenLock, SixRightDigitsUnlockAndTellTheService) {
+    LockAndOpenPad();
+    EXPECT_TRUE(ShowsPad());
+    EXPECT_FALSE(ShowsMessage());
+    EXPECT_EQ(BackTimer().interval(), 30000);
+    Type(QStringLiteral("12345"));
+    EXPECT_EQ(Typed(), QStringLiteral("12345-"));
+    EXPECT_EQ(FocusedBox(), 5);
+    Type(QStringLiteral("6"));
+    EXPECT_FALSE(lock.isVisible());
+    EXPECT_EQ(Typed(), QStringLiteral("------"));
+    EXPECT_FALSE(BackTimer().isActive());
+    EXPECT_FALSE(Idle().IsActive()) << "nothing to come back to without an end time";
+    const FrameDecoder::Frame frame = service->Receive();
+    EXPECT_EQ(frame.key, PipeKey::ScreenUnlock);
+    EXPECT_EQ(frame.body, "");
+}
+
+TEST_F(ScreenLock, WrongDigitsShakeClearAndStayLocked) {
+    LockAndOpenPad();
+    for (int attempt = 0; attempt < 10; ++attempt) {
+        Type(QStringLiteral("654321"));
+        ASSERT_TRUE(lock.isVisible());
+        EXPECT_EQ(Typed(), QStringLiteral("------"));
+        EXPECT_EQ(FocusedBox(), 0);
+        EXPECT_TRUE(BackTimer().isActive());
+        auto* shake = lock.findChild<QPropertyAnimation*>();
+        ASSERT_TRUE(shake);
+        EXPECT_EQ(shake->propertyName(), QByteArray("pos"));
+        EXPECT_EQ(shake->totalDuration(), 200);
+    }
+    AppContextData::Instance()->unlockPassword.clear();
+    Type(QStringLiteral("123456"));
+    EXPECT_TRUE(lock.isVisible()) << "no stored password is not an open door";
+    EXPECT_EQ(service->ReceivedBytes(), 0u);
+}
+
+TEST_F(ScreenLock, KeysThatAreNoDigitsDoNothingAndBackspaceGoesBack) {
+    LockAndOpenPad();
+    Type(QStringLiteral("1a!. 2"));
+    EXPECT_EQ(Typed(), QStringLiteral("12----"));
+    QTest::keyEvent(QTest::Click, lock.focusWidget(), Qt::Key_unknown,
+                    QStringLiteral("\u0663")); // a digit, but no key
+    EXPECT_EQ(Typed(), QStringLiteral("12----"));
+    Press(Qt::Key_Escape);
+    EXPECT_TRUE(ShowsPad());
+    Press(Qt::Key_Backspace); // box 2 is empty: back to box 1
+    EXPECT_EQ(FocusedBox(), 1);
+    Press(Qt::Key_Backspace);
+    Press(Qt::Key_Backspace);
+    Press(Qt::Key_Backspace);
+    EXPECT_EQ(Typed(), QStringLiteral("------"));
+    EXPECT_EQ(FocusedBox(), 0);
+}
+
+TEST_F(ScreenLock, DigitKeysOnScreenWorkLikeTheKeyboard) {
+    LockAndOpenPad();
+    const auto touch = [this](const QString& text) {
+        for (auto* key : lock.findChildren<QPushButton*>())
+            if (key->text() == text)
+                return QTest::mouseClick(key, Qt::LeftButton);
+        FAIL() << "no key " << text.toStdString();
+    };
+    for (const char* digit : {"1", "2", "9", "\u232b", "\u232b"})
+        touch(QString::fromUtf8(digit));
+    EXPECT_EQ(Typed(), QStringLiteral("12----"));
+    EXPECT_EQ(FocusedBox(), 1); // typing goes on over the second digit
+    for (const char* digit : {"2", "3", "4", "5", "6"})
+        touch(QString::fromLatin1(digit));
+    EXPECT_FALSE(lock.isVisible());
+}
+
+TEST_F(ScreenLock, ThePadGoesBackToTheMessageWhenNothingIsTyped) {
+    LockAndOpenPad();
+    Type(QStringLiteral("12"));
+    Expire(BackTimer());
+    EXPECT_TRUE(ShowsMessage());
+    EXPECT_FALSE(ShowsPad());
+    EXPECT_EQ(Typed(), QStringLiteral("------"));
+    EXPECT_FALSE(BackTimer().isActive());
+    EXPECT_TRUE(lock.isVisible());
+}
+
+TEST_F(ScreenLock, EverythingDoneOnThePadPutsTheReturnOff) {
+    LockAndOpenPad();
+    auto* view = lock.findChild<QCheckBox*>();
+    auto* area = lock.findChild<QWidget*>(QStringLiteral("passwordArea"));
+    const std::vector<std::function<void()>> deeds{
+        [this] { Type(QStringLiteral("7")); }, [this] { Press(Qt::Key_Backspace); },
+        [view] { QTest::keyClick(view, Qt::Key_Space); },
+        [area] { QTest::mouseClick(area, Qt::LeftButton, {}, QPoint(2, 2)); }};
+    for (const auto& deed : deeds) {
+        BackTimer().stop();
+        boxes.front()->setFocus();
+        deed();
+        EXPECT_TRUE(BackTimer().isActive());
+    }
+}
+
+TEST_F(ScreenLock, TheCheckBoxShowsTheDigitsAndAPressFindsTheFirstEmptyBox) {
+    LockAndOpenPad();
+    Type(QStringLiteral("12"));
+    auto* view = lock.findChild<QCheckBox*>();
+    EXPECT_EQ(boxes[0]->echoMode(), QLineEdit::Password);
+    view->setChecked(true);
+    for (const QLineEdit* box : boxes)
+        EXPECT_EQ(box->echoMode(), QLineEdit::Normal);
+    view->setChecked(false);
+    for (const QLineEdit* box : boxes)
+        EXPECT_EQ(box->echoMode(), QLineEdit::Password);
+
+    view->setFocus();
+    QTest::mouseClick(lock.findChild<QWidget*>(QStringLiteral("passwordArea")), Qt::LeftButton, {},
+                      QPoint(2, 2));
+    EXPECT_EQ(FocusedBox(), 2);
+}
+
+TEST_F(ScreenLock, ATimedLockEndsByItself) {
+    Lock("10:30");
+    Expire(UnlockTimer());
+    EXPECT_TRUE(lock.isVisible());
+    clock.time = QStringLiteral("10:29");
+    Expire(UnlockTimer());
+    EXPECT_TRUE(lock.isVisible());
+    clock.time = QStringLiteral("10:30");
+    Expire(UnlockTimer());
+    EXPECT_FALSE(lock.isVisible());
+
+    Lock();
+    Expire(UnlockTimer());
+    EXPECT_TRUE(lock.isVisible()) << "without an end time there is no end";
+}
+
+TEST_F(ScreenLock, AnIdleUserFindsATimedLockAgainUntilItsEnd) {
+    LockAndOpenPad("18:00");
+    Type(QStringLiteral("123456"));
+    EXPECT_FALSE(lock.isVisible());
+    EXPECT_EQ(Idle().findChild<QTimer*>()->interval(), 1200 * 1000);
+    clock.time = QStringLiteral("17:59");
+    ExpireIdle();
+    EXPECT_TRUE(lock.isVisible());
+    EXPECT_TRUE(ShowsMessage());
+
+    LockAndOpenPad("18:00");
+    EXPECT_FALSE(Idle().IsActive());
+    Type(QStringLiteral("123456"));
+    clock.time = QStringLiteral("18:00");
+    ExpireIdle();
+    EXPECT_FALSE(lock.isVisible());
+}
+
+TEST_F(ScreenLock, TheServiceReleasesAndChangesThePassword) {
+    Lock("18:00");
+    link.Deliver(PipeKey::ScreenUnlock, "");
+    EXPECT_FALSE(lock.isVisible());
+    EXPECT_FALSE(Idle().IsActive());
+
+    LockAndOpenPad();
+    link.Deliver(PipeKey::UnlockPasswordUpdate, PasswordHelper::HashVelmoraPassword("000000"));
+    link.Deliver(PipeKey::UnlockPasswordUpdate, "");
+    EXPECT_EQ(log.Count("Unlock password update: "), 2);
+    Type(QStringLiteral("123456"));
+    EXPECT_TRUE(lock.isVisible());
+    Type(QStringLiteral("000000"));
+    EXPECT_FALSE(lock.isVisible());
+}
