@@ -8,6 +8,10 @@
 #
 # With RYX_KEEP_WINE=1 the prefix stays for a look at it.
 
+source "$(dirname "${BASH_SOURCE[0]}")/../common.sh"
+
+need_wine() { need_packages wine wine64 "${DESKTOP_PACKAGES[@]}" >&2; }
+
 # Every process of a run carries this variable from its start on, so each can be found again, also one that
 # wine has detached from the script's process group.
 wine_processes() {
@@ -22,15 +26,17 @@ wine_processes() {
 
 stop_wine() {
     trap - EXIT
-    local round pids
-    for round in 1 2 3 4 5; do
+    local pids
+    # Wine may be starting a process at this very moment, so once is not enough.
+    for _ in 1 2 3 4 5; do
         pids=$(wine_processes)
         [ -n "$pids" ] || break
         # shellcheck disable=SC2086  # one word for each process
         kill -KILL $pids 2> /dev/null || true
         sleep 0.2
     done
-    [ -z "${pids:-}" ] || echo "windows/wine: processes that would not end: $pids (round $round)" >&2
+    pids=$(wine_processes)
+    [ -z "$pids" ] || say "processes that would not end: $pids" >&2
     [ -n "${RYX_KEEP_WINE:-}" ] || rm -rf "$wine_dir"
 }
 
@@ -56,8 +62,7 @@ start_wine() {
     local number
     if ! read -r -t 30 number < "$wine_dir/display"; then
         cat "$wine_dir/xvfb.log" >&2
-        echo "windows/wine: the virtual screen did not start" >&2
-        return 1
+        fail "The virtual screen did not start."
     fi
     export DISPLAY=":$number"
     # Wine leaves the stacking of windows to the window manager; without one, nothing stays on top.
@@ -69,8 +74,7 @@ start_wine() {
     export WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe=d"
     run_limited 120 wineboot --init > "$wine_dir/wineboot.log" 2>&1 || {
         cat "$wine_dir/wineboot.log" >&2
-        echo "windows/wine: the Wine prefix could not be made" >&2
-        return 1
+        fail "The Wine prefix could not be made."
     }
 }
 
@@ -88,9 +92,8 @@ windows_path() {
     echo "${path//\//\\}"
 }
 
-# Lets programs that are not installed find the SDK's libraries and plug-ins.
+# Lets programs that are not installed find the SDK's libraries, and with them their plug-ins.
 use_sdk() {
     WINEPATH=$(windows_path "$1/bin")
-    QT_PLUGIN_PATH="Z:$1/plugins"
-    export WINEPATH QT_PLUGIN_PATH
+    export WINEPATH
 }

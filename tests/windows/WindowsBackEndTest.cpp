@@ -1,0 +1,135 @@
+// What only Windows has to do: the calls whose effect another program can see.
+#include "platform/system/SystemDesktop.h"
+#include "platform/system/SystemSession.h"
+#include "platform/system/windows/ProcessAccount.h"
+
+#include <QWidget>
+#include <QtTest>
+#include <gtest/gtest.h>
+#include <thread>
+
+#include <windows.h>
+
+#include <objbase.h>
+
+namespace {
+
+LONG ExtendedStyle(const QWidget& window) {
+    return GetWindowLongW(reinterpret_cast<HWND>(window.winId()), GWL_EXSTYLE);
+}
+
+/// The process that the service `name` runs in; 0 when it does not run.
+DWORD ProcessOfService(const wchar_t* name) {
+    const SC_HANDLE manager = OpenSCManagerW(nullptr, nullptr, SC_MANAGER_CONNECT);
+    const SC_HANDLE service = OpenServiceW(manager, name, SERVICE_QUERY_STATUS);
+    SERVICE_STATUS_PROCESS status{};
+    DWORD size = 0;
+    QueryServiceStatusEx(service, SC_STATUS_PROCESS_INFO, reinterpret_cast<BYTE*>(&status), sizeof status,
+                         &size);
+    CloseServiceHandle(service);
+    CloseServiceHandle(manager);
+    return status.dwProcessId;
+}
+
+/// Runs `act` on a thread that has not met COM yet.
+template <class Act>
+void OnFreshThread(Act act) {
+    std::thread(act).join();
+}
+
+} // namespace
+
+TEST(WindowsDesktop, RaisesToTheTopmostBandAndNothingElse) {
+    QWidget window;
+    window.setGeometry(40, 50, 300, 200);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    ASSERT_EQ(ExtendedStyle(window) & WS_EX_TOPMOST, 0);
+    const HWND foreground = GetForegroundWindow();
+    const QRect geometry = window.geometry();
+
+    SystemDesktop::Native().RaiseTopmost(window.winId());
+
+    EXPECT_EQ(ExtendedStyle(window) & WS_EX_TOPMOST, WS_EX_TOPMOST);
+    EXPECT_EQ(GetForegroundWindow(), foreground);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window.geometry(), geometry);
+}
+
+TEST(WindowsDesktop, ExtendedStyleIsTakenAndGivenBack) {
+    const LONG taskbar = WS_EX_APPWINDOW | WS_EX_TOOLWINDOW;
+    QWidget window;
+    SetWindowLongW(reinterpret_cast<HWND>(window.winId()), GWL_EXSTYLE,
+                   ExtendedStyle(window) | WS_EX_APPWINDOW);
+    const LONG before = ExtendedStyle(window);
+    ASSERT_EQ(before & taskbar, WS_EX_APPWINDOW);
+
+    const quintptr saved = SystemDesktop::Native().HideFromTaskbar(window.winId());
+    EXPECT_EQ(ExtendedStyle(window) & taskbar, WS_EX_TOOLWINDOW);
+    SystemDesktop::Native().RestoreTaskbarStyle(window.winId(), saved);
+    EXPECT_EQ(ExtendedStyle(window), before);
+}
+
+TEST(WindowsDesktop, InputEndsTheIdleTime) {
+    const SystemDesktop& desktop = SystemDesktop::Native();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return desktop.MillisecondsSinceInput() > 300; }));
+    INPUT move{};
+    move.type = INPUT_MOUSE;
+    move.mi.dx = 1;
+    move.mi.dwFlags = MOUSEEVENTF_MOVE;
+    ASSERT_EQ(SendInput(1, &move, sizeof move), 1u);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return desktop.MillisecondsSinceInput() < 300; }));
+}
+
+TEST(WindowsSession, ComIsInitialisedOncePerThreadOrSaysWhyNot) {
+    OnFreshThread([] {
+        EXPECT_NO_THROW(SystemSession::Native().InitializeCom());
+        EXPECT_NO_THROW(SystemSession::Native().InitializeCom()) << "a second time is no error";
+        APTTYPE type{};
+        APTTYPEQUALIFIER qualifier{};
+        EXPECT_EQ(CoGetApartmentType(&type, &qualifier), S_OK);
+        EXPECT_EQ(type, APTTYPE_MTA);
+        CoUninitialize();
+        CoUninitialize();
+    });
+    OnFreshThread([] {
+        ASSERT_EQ(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED), S_OK);
+        try {
+            SystemSession::Native().InitializeCom();
+            FAIL() << "a thread of another COM model was taken";
+        } catch (const HResultError& error) {
+            EXPECT_EQ(error.Result(), static_cast<std::int32_t>(RPC_E_CHANGED_MODE));
+            EXPECT_NE(std::string(error.what()).find("CoInitializeEx failed with 0x80010106: "),
+                      std::string::npos)
+                << error.what();
+        }
+        CoUninitialize();
+    });
+}
+
+TEST(WindowsSession, AnsiTextIsInTheCodePageOfFileFunctions) {
+    const std::wstring wide = L"C:\\logs\\Gr\u00FCn";
+    const std::string ansi = SystemSession::Native().ToAnsi(wide);
+    wchar_t back[64] = {};
+    MultiByteToWideChar(CP_ACP, 0, ansi.c_str(), -1, back, 64);
+    EXPECT_EQ(back, wide);
+}
+
+TEST(WindowsPipe, AccountOfAProcess) {
+    wchar_t user[256];
+    DWORD size = 256;
+    ASSERT_TRUE(GetUserNameW(user, &size));
+    const PipePeer own = AccountOfToken(GetCurrentProcessId());
+    EXPECT_EQ(own.account.section(QLatin1Char('\\'), -1), QString::fromWCharArray(user));
+    EXPECT_FALSE(own.isSystem);
+    EXPECT_TRUE(AccountOfToken(0).account.isEmpty());
+    EXPECT_TRUE(AccountOfService(GetCurrentProcessId()).account.isEmpty());
+}
+
+TEST(WindowsPipe, AccountOfAServiceIsKnownWithoutItsToken) {
+    const DWORD process = ProcessOfService(L"PlugPlay");
+    ASSERT_NE(process, 0u);
+    const PipePeer peer = AccountOfService(process);
+    EXPECT_EQ(peer.account, QStringLiteral("LocalSystem"));
+    EXPECT_TRUE(peer.isSystem);
+}
