@@ -50,6 +50,8 @@ QStringList Theme::Names() {
 }
 
 void Theme::Apply(const QString& name) {
+    if (m_name.isEmpty())
+        m_desktopDark = QApplication::palette().color(QPalette::Window).lightness() < 128;
     m_name = Names().contains(name) ? name : Names().constFirst();
     m_tokens = {{QStringLiteral("theme"), m_name}};
     ReadTokens(QStringLiteral(":/res/qss/tokens.json"), m_tokens);

@@ -27,6 +27,9 @@ public:
     QString Name() const { return m_name; }
     bool IsDark() const { return m_name == QLatin1String("dark"); }
 
+    /// Whether the desktop itself is dark, as far as it told Qt when the first theme was applied.
+    bool IsDesktopDark() const { return m_desktopDark; }
+
     /// Colour of a token; an unknown name or one that is no colour gives an invalid colour.
     QColor Color(const QString& token) const { return QColor(m_tokens.value(token)); }
 
@@ -52,5 +55,6 @@ private:
     void ApplyFont() const;
 
     QString m_name;
+    bool m_desktopDark = false;
     QHash<QString, QString> m_tokens;
 };

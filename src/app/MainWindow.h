@@ -1,0 +1,64 @@
+#pragma once
+
+#include "platform/application/RyxWindow.h"
+#include "platform/link/PipeKey.h"
+
+#include <memory>
+#include <string>
+
+class UExitButton;
+class UToast;
+class UTrayIcon;
+struct IotStatusEntity;
+
+namespace Ui {
+class MainWindow;
+}
+
+/// The one window of the front end: header, and below it a stack of main page (menu and body), launcher and
+/// feedback page. Closing it only hides it; the program lives on in the tray.
+class MainWindow : public RyxWindow {
+    Q_OBJECT
+
+public:
+    MainWindow();
+    ~MainWindow() override;
+
+    void ShowResult(const QString& result) override;
+    void OpenNetworkPage() override;
+
+    /// Brings the feedback page to the front; its back button leads to where the user was.
+    void OpenFeedbackPage();
+
+    /// Brings the window to the front, also out of the tray or the task bar.
+    void Open();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void Initialize();
+    void InitConnect();
+    void ConnectMainController();
+    void ApplyTheme();
+
+    void OnPipeDataReceived(PipeKey key, const std::string& body);
+    void OnIotStatus(const IotStatusEntity& entity);
+    void OnDisconnectWifi(const std::string& ssid);
+    void OnSwitchChannel();
+    void OnMenuChanged(int index);
+
+    void ShowMainPage();
+    void LeaveFeedbackPage();
+    void Notify(const QString& message);
+    void PlaceExitButton();
+
+    std::unique_ptr<Ui::MainWindow> m_ui;
+    QString m_formStyleSheet;
+    UExitButton* m_exit;
+    UTrayIcon* m_tray;
+    UToast* m_toast;
+    QWidget* m_beforeFeedback = nullptr;
+};

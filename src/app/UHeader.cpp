@@ -1,0 +1,107 @@
+#include "app/UHeader.h"
+
+#include "app/StatusLook.h"
+#include "platform/context/AppConfigData.h"
+#include "platform/context/AppContextData.h"
+#include "platform/context/MachineHelper.h"
+#include "platform/context/Theme.h"
+#include "widgets/AccessibleRole.h"
+#include "widgets/UElidedLabel.h"
+#include "widgets/UIconLabel.h"
+#include "widgets/ULoadingBar.h"
+#include "widgets/UThemePicture.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+UHeader::UHeader(QWidget* parent)
+    : QWidget(parent), m_deviceName(new UElidedLabel), m_organisation(new UElidedLabel), m_chip(new QFrame),
+      m_dot(new QFrame), m_statusIcon(new UIconLabel(20)), m_statusWords(new QLabel), m_end(new QWidget),
+      m_busy(new ULoadingBar) {
+    setAttribute(Qt::WA_StyledBackground);
+    m_deviceName->setObjectName(QStringLiteral("headerDeviceName"));
+    m_organisation->setObjectName(QStringLiteral("headerOrganisation"));
+    m_chip->setObjectName(QStringLiteral("statusChip"));
+    m_dot->setObjectName(QStringLiteral("statusDot"));
+    m_dot->setFixedSize(18, 18);
+    m_statusWords->setObjectName(QStringLiteral("statusWords"));
+    SetAccessibleRole(m_chip, QAccessible::StatusBar);
+
+    auto* chip = new QHBoxLayout(m_chip);
+    chip->setContentsMargins(12, 9, 16, 9);
+    chip->setSpacing(10);
+    chip->addWidget(m_dot);
+    chip->addWidget(m_statusIcon);
+    chip->addWidget(m_statusWords);
+
+    auto* names = new QVBoxLayout;
+    names->setSpacing(1);
+    names->addStretch();
+    names->addWidget(m_deviceName);
+    names->addWidget(m_organisation);
+    names->addStretch();
+
+    auto* logo = new UThemePicture(QStringLiteral("logo"), {40, 40});
+    logo->setFixedSize(40, 40);
+    auto* row = new QHBoxLayout;
+    row->setContentsMargins(20, 8, 16, 4);
+    row->setSpacing(14);
+    row->addWidget(logo);
+    row->addLayout(names, 1);
+    row->addWidget(m_chip);
+    row->addWidget(m_end);
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addLayout(row, 1);
+    column->addWidget(m_busy);
+    setFixedHeight(76);
+    ReserveEnd(0);
+    Retranslate();
+}
+
+void UHeader::UpdateStatus(int status) {
+    if (!IsKnownIotStatus(status))
+        return;
+    m_status = static_cast<IotStatus>(status);
+    Retranslate();
+}
+
+void UHeader::UpdateDevice() {
+    const AppContextData& context = *AppContextData::Instance();
+    m_deviceName->SetText(QString::fromStdString(MachineHelper::GetDeviceName()));
+    QString organisation = QString::fromStdString(AppConfigData::Instance()->organisation);
+    if (!context.enrolled)
+        organisation = tr("header_no_organisation");
+    else if (organisation.isEmpty())
+        organisation = QString::fromStdString(context.schoolCode);
+    m_organisation->SetText(organisation);
+    m_organisation->setVisible(!organisation.isEmpty());
+}
+
+void UHeader::SetBusy(bool busy) {
+    m_busy->SetBusy(busy);
+}
+
+void UHeader::ReserveEnd(int width) {
+    m_end->setVisible(width > 0);
+    m_end->setFixedWidth(width);
+}
+
+void UHeader::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange)
+        Retranslate();
+    QWidget::changeEvent(event);
+}
+
+void UHeader::Retranslate() {
+    const StatusLook look = StatusLook::Of(m_status);
+    Theme::SetProperty(m_dot, "state", look.property);
+    m_statusIcon->SetIcon(look.icon, QStringLiteral("text"));
+    m_statusWords->setText(look.words);
+    m_chip->setAccessibleName(tr("header_status_name").arg(look.words));
+    UpdateDevice();
+}

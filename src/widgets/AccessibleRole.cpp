@@ -1,0 +1,32 @@
+#include "widgets/AccessibleRole.h"
+
+#include <QAccessibleWidget>
+#include <QVariant>
+
+namespace {
+
+constexpr char RoleProperty[] = "accessibleRole";
+
+QAccessibleInterface* MakeInterface(const QString& /*className*/, QObject* object) {
+    auto* widget = qobject_cast<QWidget*>(object);
+    const QVariant role = object ? object->property(RoleProperty) : QVariant();
+    if (!widget || !role.isValid())
+        return nullptr;
+    return new QAccessibleWidget(widget, static_cast<QAccessible::Role>(role.toInt()));
+}
+
+} // namespace
+
+void SetAccessibleRole(QWidget* widget, QAccessible::Role role) {
+    static const bool installed = [] {
+        QAccessible::installFactory(MakeInterface);
+        return true;
+    }();
+    Q_UNUSED(installed)
+    widget->setProperty(RoleProperty, static_cast<int>(role));
+}
+
+void AnnounceAlert(QWidget* widget) {
+    QAccessibleEvent event(widget, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
+}

@@ -1,0 +1,7 @@
+#include "widgets/GestureScrollArea.h"
+
+#include <QScroller>
+
+GestureScrollArea::GestureScrollArea(QWidget* parent) : QScrollArea(parent) {
+    QScroller::grabGesture(viewport(), QScroller::TouchGesture);
+}

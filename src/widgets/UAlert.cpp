@@ -1,0 +1,179 @@
+#include "widgets/UAlert.h"
+
+#include "widgets/AccessibleRole.h"
+#include "widgets/NoticeQueue.h"
+#include "widgets/UTextButton.h"
+
+#include <QApplication>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int CardWidth = 480;
+
+} // namespace
+
+UAlert::UAlert(QWidget* parent)
+    : QWidget(parent), m_owner(parent), m_title(new QLabel), m_content(new QLabel),
+      m_ok(new UTextButton(UTextButton::Look::Primary)), m_cancel(new UTextButton) {
+    setAttribute(Qt::WA_StyledBackground);
+    SetAccessibleRole(this, QAccessible::Dialog);
+
+    auto* card = new QFrame(this);
+    card->setObjectName(QStringLiteral("alertCard"));
+    card->setMaximumWidth(CardWidth);
+    card->setMinimumWidth(qMin(CardWidth, 320));
+    m_title->setObjectName(QStringLiteral("alertTitle"));
+    m_content->setObjectName(QStringLiteral("alertContent"));
+    for (QLabel* label : {m_title, m_content}) {
+        label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+    }
+
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(12);
+    buttons->addStretch();
+    buttons->addWidget(m_cancel);
+    buttons->addWidget(m_ok);
+    auto* column = new QVBoxLayout(card);
+    column->setContentsMargins(28, 24, 28, 24);
+    column->setSpacing(12);
+    column->addWidget(m_title);
+    column->addWidget(m_content);
+    column->addSpacing(12);
+    column->addLayout(buttons);
+
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(24, 24, 24, 24);
+    grid->setColumnStretch(0, 1);
+    grid->setColumnStretch(1, 100);
+    grid->setColumnStretch(2, 1);
+    grid->setRowStretch(0, 1);
+    grid->setRowStretch(2, 1);
+    grid->addWidget(card, 1, 1);
+
+    setTabOrder(m_cancel, m_ok);
+    m_cancel->hide();
+    connect(m_ok, &QPushButton::clicked, this, [this] { Close(true); });
+    connect(m_cancel, &QPushButton::clicked, this, [this] { Close(false); });
+    m_timeout.setSingleShot(true);
+    connect(&m_timeout, &QTimer::timeout, this, [this] { Close(false); });
+    Retranslate();
+    QWidget::setVisible(false);
+}
+
+UAlert::~UAlert() = default;
+
+void UAlert::SetTitle(const QString& title) {
+    m_title->setText(title);
+    setAccessibleName(title);
+}
+
+void UAlert::SetContent(const QString& content) {
+    m_content->setText(content);
+    setAccessibleDescription(content);
+}
+
+void UAlert::SetOkText(const QString& text) {
+    m_okTextGiven = true;
+    m_ok->setText(text);
+}
+
+void UAlert::SetCancelText(const QString& text) {
+    m_cancel->setText(text);
+    m_cancel->setVisible(!text.isEmpty());
+}
+
+void UAlert::SetDangerous(bool dangerous) {
+    m_ok->SetLook(dangerous ? UTextButton::Look::Danger : UTextButton::Look::Primary);
+}
+
+void UAlert::setVisible(bool visible) {
+    if (visible) {
+        Request();
+        return;
+    }
+    m_timeout.stop();
+    const bool wasShown = !isHidden();
+    QWidget::setVisible(false);
+    if (!m_queue)
+        return;
+    if (!wasShown) {
+        m_queue->Withdraw(this);
+        return;
+    }
+    if (m_focusBefore)
+        m_focusBefore->setFocus();
+    m_queue->Finish(this);
+}
+
+void UAlert::Request() {
+    if (!m_owner || !isHidden())
+        return;
+    QWidget* window = m_owner->window();
+    if (parentWidget() != window)
+        setParent(window);
+    m_queue = NoticeQueue::Of(window, QStringLiteral("alert"));
+    if (!m_queue->IsWaiting(this))
+        m_queue->Add(this, [this] { Present(); });
+}
+
+void UAlert::Present() {
+    parentWidget()->removeEventFilter(this);
+    parentWidget()->installEventFilter(this);
+    setGeometry(parentWidget()->rect());
+    m_focusBefore = parentWidget()->focusWidget();
+    QWidget::setVisible(true);
+    raise();
+    m_ok->setFocus(Qt::PopupFocusReason);
+    if (m_timeoutMs > 0)
+        m_timeout.start(m_timeoutMs);
+    AnnounceAlert(this);
+}
+
+void UAlert::Close(bool accepted) {
+    hide();
+    if (accepted)
+        emit Accepted();
+    else
+        emit Rejected();
+}
+
+// Every Tab within the box arrives here, and there are at most two places to go.
+bool UAlert::focusNextPrevChild(bool) {
+    const bool toCancel = m_ok->hasFocus() && !m_cancel->isHidden();
+    (toCancel ? m_cancel : m_ok)->setFocus(Qt::TabFocusReason);
+    return true;
+}
+
+void UAlert::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape)
+        (m_cancel->isHidden() ? m_ok : m_cancel)->click();
+    else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        (m_cancel->hasFocus() ? m_cancel : m_ok)->click();
+}
+
+// The window below must not take presses beside the box for its own.
+void UAlert::mousePressEvent(QMouseEvent* event) {
+    event->accept();
+}
+
+bool UAlert::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == parentWidget() && event->type() == QEvent::Resize)
+        setGeometry(parentWidget()->rect());
+    return QWidget::eventFilter(watched, event);
+}
+
+void UAlert::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange)
+        Retranslate();
+    QWidget::changeEvent(event);
+}
+
+void UAlert::Retranslate() {
+    if (!m_okTextGiven)
+        m_ok->setText(tr("button_ok"));
+}

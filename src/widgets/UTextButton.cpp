@@ -1,0 +1,48 @@
+#include "widgets/UTextButton.h"
+
+#include "platform/context/Theme.h"
+
+#include <QMetaEnum>
+#include <QTimerEvent>
+
+UTextButton::UTextButton(QWidget* parent) : UTextButton(Look::Secondary, parent) {}
+
+UTextButton::UTextButton(Look look, QWidget* parent) : QPushButton(parent) {
+    setIconSize({24, 24});
+    SetLook(look);
+}
+
+void UTextButton::SetLook(Look look) {
+    const char* name = QMetaEnum::fromType<Look>().valueToKey(static_cast<int>(look));
+    Theme::SetProperty(this, "look", QString::fromLatin1(name));
+    const bool filled = look == Look::Primary || look == Look::Danger;
+    m_spinner.SetColorToken(filled ? QStringLiteral("accentText") : QStringLiteral("text"));
+}
+
+void UTextButton::SetLoading(bool loading) {
+    if (m_loading == loading)
+        return;
+    m_loading = loading;
+    if (loading) {
+        m_restingIcon = icon();
+        setIcon(m_spinner.Icon());
+        m_spinner.Start(this);
+    } else {
+        m_spinner.Stop();
+        setIcon(m_restingIcon);
+    }
+    setAccessibleDescription(loading ? tr("loading") : QString());
+}
+
+void UTextButton::timerEvent(QTimerEvent* event) {
+    if (m_spinner.Tick(event->timerId()))
+        update();
+    else
+        QPushButton::timerEvent(event);
+}
+
+void UTextButton::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange && m_loading)
+        setAccessibleDescription(tr("loading"));
+    QPushButton::changeEvent(event);
+}

@@ -1,0 +1,119 @@
+#include "widgets/UToast.h"
+
+#include "platform/context/Theme.h"
+#include "widgets/AccessibleRole.h"
+#include "widgets/NoticeQueue.h"
+#include "widgets/UIconLabel.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMetaEnum>
+
+namespace {
+
+constexpr int MaximumTextWidth = 560;
+constexpr int DistanceToEdge = 32;
+constexpr int IconSize = 24;
+
+// Slow readers read some fifteen characters a second, and need a moment to notice the toast.
+int ReadingTimeMs(const QString& message) {
+    return qBound(4000, 2500 + message.size() * 65, 12000);
+}
+
+} // namespace
+
+UToast::UToast(QWidget* parent, WhenBusy whenBusy)
+    : QFrame(parent), m_whenBusy(whenBusy), m_owner(parent), m_icon(new UIconLabel(IconSize, this)), m_text(new QLabel(this)) {
+    m_text->setTextFormat(Qt::PlainText);
+    m_text->setWordWrap(true);
+    m_text->setObjectName(QStringLiteral("toastText"));
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(20, 14, 24, 14);
+    row->setSpacing(14);
+    row->addWidget(m_icon, 0, Qt::AlignTop);
+    row->addWidget(m_text, 1);
+    // A toast is in nobody's way: what lies under it can still be pressed.
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    SetAccessibleRole(this, QAccessible::AlertMessage);
+    m_gone.setSingleShot(true);
+    connect(&m_gone, &QTimer::timeout, this, &QWidget::hide);
+    QFrame::setVisible(false);
+}
+
+UToast::~UToast() = default;
+
+QString UToast::ShownMessage() const {
+    return isHidden() ? QString() : m_text->text();
+}
+
+void UToast::setVisible(bool visible) {
+    if (visible) {
+        Request();
+        return;
+    }
+    m_gone.stop();
+    const bool wasShown = !isHidden();
+    QFrame::setVisible(false);
+    if (wasShown && m_queue)
+        m_queue->Finish(this);
+}
+
+void UToast::Request() {
+    if (!m_owner)
+        return;
+    QWidget* window = m_owner->window();
+    if (parentWidget() != window)
+        setParent(window);
+    NoticeQueue* queue = NoticeQueue::Of(window, QStringLiteral("toast"));
+    m_queue = queue;
+    const Notice notice = m_next;
+    if (m_whenBusy == WhenBusy::Replace) {
+        queue->Withdraw(this);
+        if (!isHidden()) {
+            Present(notice);
+            return;
+        }
+    }
+    queue->Add(this, [this, notice] { Present(notice); });
+}
+
+void UToast::Present(const Notice& notice) {
+    const char* kind = QMetaEnum::fromType<Kind>().valueToKey(static_cast<int>(notice.kind));
+    m_icon->SetIcon(QString::fromLatin1(kind).toLower(), QStringLiteral("toast") + QLatin1String(kind));
+    m_text->setText(notice.message);
+    setAccessibleName(notice.message);
+    parentWidget()->removeEventFilter(this);
+    parentWidget()->installEventFilter(this);
+    QFrame::setVisible(true);
+    Place();
+    raise();
+    m_gone.start(m_duration > 0 ? m_duration : ReadingTimeMs(notice.message));
+    AnnounceAlert(this);
+}
+
+void UToast::Place() {
+    const QRect area = parentWidget()->rect();
+    ensurePolished();
+    m_text->ensurePolished();
+    const QFontMetrics metrics = m_text->fontMetrics();
+    const int widest = qMin(MaximumTextWidth, area.width() - 2 * DistanceToEdge - IconSize - 58);
+    m_text->setFixedWidth(qMax(1, qMin(widest, metrics.horizontalAdvance(m_text->text()) + 4)));
+    layout()->activate();
+    const int height = layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(layout()->totalSizeHint().width())
+                                                     : sizeHint().height();
+    resize(layout()->totalSizeHint().width(), height);
+    move((area.width() - width()) / 2, area.height() - this->height() - DistanceToEdge);
+}
+
+bool UToast::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == parentWidget() && event->type() == QEvent::Resize && !isHidden())
+        Place();
+    return QFrame::eventFilter(watched, event);
+}
+
+void UToast::changeEvent(QEvent* event) {
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::StyleChange && !isHidden() && parentWidget())
+        Place();
+}
