@@ -1,5 +1,6 @@
 #include "lock/UDeviceScreenLock.h"
 #include "platform/context/AppContextData.h"
+#include "platform/context/LanguageHelper.h"
 #include "platform/link/PipeClientService.h"
 #include "platform/security/PasswordHelper.h"
 #include "support/FakeDesktop.h"
@@ -28,6 +29,7 @@ struct ManualClock : Clock {
 class ScreenLock : public testing::Test {
 protected:
     void SetUp() override {
+        LanguageHelper::Instance()->SetLanguage(QStringLiteral("en"));
         *AppContextData::Instance() = {};
         AppContextData::Instance()->unlockPassword = PasswordHelper::HashVelmoraPassword("123456");
         service = std::make_unique<FakeService>();
@@ -171,8 +173,8 @@ TEST_F(ScreenLock, KeysThatAreNoDigitsDoNothingAndBackspaceGoesBack) {
     LockAndOpenPad();
     Type(QStringLiteral("1a!. 2"));
     EXPECT_EQ(Typed(), QStringLiteral("12----"));
-    QTest::keyEvent(QTest::Click, lock.focusWidget(), Qt::Key_unknown,
-                    QStringLiteral("\u0663")); // a digit, but no key
+    QKeyEvent digitButNoKey(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QStringLiteral("\u0663"));
+    QCoreApplication::sendEvent(lock.focusWidget(), &digitButNoKey);
     EXPECT_EQ(Typed(), QStringLiteral("12----"));
     Press(Qt::Key_Escape);
     EXPECT_TRUE(ShowsPad());

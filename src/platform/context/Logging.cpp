@@ -39,7 +39,7 @@ private:
     int m_keep;
 };
 
-PrunedLogFiles* activeFiles = nullptr;
+std::unique_ptr<PrunedLogFiles> activeFiles;
 
 } // namespace
 
@@ -57,18 +57,17 @@ void InitLogger(const std::string& name, const std::string& dir, const unsigned&
     google::SetLogSymlink(google::GLOG_INFO, "");
     google::SetLogDestination(google::GLOG_INFO, (dir + '/' + name + '.').c_str());
 
-    activeFiles =
-        new PrunedLogFiles(google::base::GetLogger(google::GLOG_INFO), QString::fromLocal8Bit(dir.c_str()),
-                           QString::fromStdString(name), static_cast<int>(maxFiles));
-    google::base::SetLogger(google::GLOG_INFO, activeFiles);
+    activeFiles = std::make_unique<PrunedLogFiles>(google::base::GetLogger(google::GLOG_INFO),
+                                                   QString::fromLocal8Bit(dir.c_str()),
+                                                   QString::fromStdString(name), static_cast<int>(maxFiles));
+    google::base::SetLogger(google::GLOG_INFO, activeFiles.get());
 }
 
 void ReleaseLogger() {
     if (!activeFiles)
         return;
     google::FlushLogFiles(google::GLOG_INFO);
-    // glog owns the logger that it is given, and destroys it when another takes its place.
     google::base::SetLogger(google::GLOG_INFO, activeFiles->Files());
-    activeFiles = nullptr;
+    activeFiles.reset();
     google::ShutdownGoogleLogging();
 }

@@ -18,3 +18,7 @@ signals:
     void DisconnectWifiSsid(std::string ssid);
     void SwitchChannelStatus();
 };
+
+Q_DECLARE_METATYPE(std::string)
+Q_DECLARE_METATYPE(IotStatusEntity)
+Q_DECLARE_METATYPE(WakeServerInfo)

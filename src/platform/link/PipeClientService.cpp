@@ -53,6 +53,7 @@ void PipeClientService::Stop() {
     QMetaObject::invokeMethod(m_connection, &PipeConnection::Close, Qt::BlockingQueuedConnection);
     m_thread.quit();
     m_thread.wait();
+    m_exchange.SetUp(false);
     m_connection = nullptr;
 }
 

@@ -43,7 +43,6 @@ void PipeConnection::Close() {
     m_retry.stop();
     m_socket.disconnect(this);
     WritePackets();
-    m_exchange.SetUp(false);
     m_up = false;
     if (m_socket.bytesToWrite() > 0)
         m_socket.waitForBytesWritten(CloseTimeoutMs);
