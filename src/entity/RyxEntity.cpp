@@ -2,16 +2,12 @@
 
 #include <memory>
 
-std::string RyxEntity::WriteToString() const {
-    Json::Value out;
-    WriteToJson(out);
-    return out.toStyledString();
-}
+// Reader and writer settings are the library's defaults. They are built once, because that costs more than
+// parsing or writing a small body; reading them is thread safe.
 
 namespace {
 
 bool Parse(const std::string& text, Json::Value& root) {
-    // Building the default settings costs more than parsing a small body; reading them is thread safe.
     static const Json::CharReaderBuilder builder;
     const std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
     std::string errors;
@@ -23,7 +19,19 @@ bool Parse(const std::string& text, Json::Value& root) {
     }
 }
 
+/// The text of value.toStyledString().
+std::string StyledText(const Json::Value& value) {
+    static const Json::StreamWriterBuilder builder;
+    return Json::writeString(builder, value) + '\n';
+}
+
 } // namespace
+
+std::string RyxEntity::WriteToString() const {
+    Json::Value out;
+    WriteToJson(out);
+    return StyledText(out);
+}
 
 void RyxEntity::ReadFromString(const std::string& text) {
     Json::Value root;

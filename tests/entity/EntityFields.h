@@ -106,7 +106,8 @@ public:
 
     template <class Field>
     void Plain(const Field& field) {
-        m_text += entity::WriteValue(field).toStyledString();
+        const Json::Value value = entity::WriteValue(field);
+        m_text += value.toStyledString();
     }
     template <class Item>
     void List(const std::vector<Item>& list) {

@@ -154,3 +154,10 @@ TEST(EntityKeysTest, FilledEntitySurvivesWritingAndReading) {
             EXPECT_EQ(after, before);
     });
 }
+
+TEST(EntityKeysTest, BodiesAreTheLibrarysStyledText) {
+    ForEachEntity([](const EntityCase& entity) {
+        for (const std::string& text : {entity.writeDefault(), entity.writeFilled()})
+            EXPECT_EQ(text, Parse(text).toStyledString());
+    });
+}
