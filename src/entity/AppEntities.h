@@ -9,7 +9,7 @@
 // Applications, their usage, and pop-up blocking.
 
 /// One installed application as it is reported to the service.
-struct AppInfo : JsonEntity<AppInfo> {
+struct AppInfo final : JsonEntity<AppInfo> {
     std::string appName;
     std::string packageName;
     std::int32_t versionCode = 0;
@@ -34,7 +34,7 @@ struct AppInfo : JsonEntity<AppInfo> {
 };
 
 /// One application package to install.
-struct AppInfoParams : JsonEntity<AppInfoParams> {
+struct AppInfoParams final : JsonEntity<AppInfoParams> {
     std::int32_t appId = 0;
     std::string md5;
     std::string fileName;
@@ -65,21 +65,21 @@ struct AppInfoParams : JsonEntity<AppInfoParams> {
 };
 
 /// The result of an application command.
-struct AppInfoParamsDataFeedback : JsonEntity<AppInfoParamsDataFeedback, OperationCommandRequest> {
+struct AppInfoParamsDataFeedback final : JsonEntity<AppInfoParamsDataFeedback, OperationCommandRequest> {
     std::string code;
 
     static constexpr auto Keys = [](auto& self, const auto& key) { key("code", self.code); };
 };
 
 /// The applications installed.
-struct AppInstallInfo : JsonEntity<AppInstallInfo, OperationCommandRequest> {
+struct AppInstallInfo final : JsonEntity<AppInstallInfo, OperationCommandRequest> {
     std::vector<AppInfo> appInfos;
 
     static constexpr auto Keys = [](auto& self, const auto& key) { key("appInfos", self.appInfos); };
 };
 
 /// Removes one application.
-struct AppUninstallInfoParams : JsonEntity<AppUninstallInfoParams, OperationCommandRequest> {
+struct AppUninstallInfoParams final : JsonEntity<AppUninstallInfoParams, OperationCommandRequest> {
     std::string packageName;
     std::string appLocation;
     std::int32_t winAppType = 0;
@@ -92,7 +92,7 @@ struct AppUninstallInfoParams : JsonEntity<AppUninstallInfoParams, OperationComm
 };
 
 /// Installs or manages one application.
-struct AppManageDataRequest : JsonEntity<AppManageDataRequest, OperationCommandRequest> {
+struct AppManageDataRequest final : JsonEntity<AppManageDataRequest, OperationCommandRequest> {
     bool autoLaunching = false;
     AppInfoParams appInfoParams;
 
@@ -103,7 +103,7 @@ struct AppManageDataRequest : JsonEntity<AppManageDataRequest, OperationCommandR
 };
 
 /// Shows or hides one application.
-struct SetAppVisibility : JsonEntity<SetAppVisibility, OperationCommandRequest> {
+struct SetAppVisibility final : JsonEntity<SetAppVisibility, OperationCommandRequest> {
     std::int32_t appId = 0;
     std::string packageName;
     bool isVisible = false;
@@ -116,7 +116,7 @@ struct SetAppVisibility : JsonEntity<SetAppVisibility, OperationCommandRequest> 
 };
 
 /// The usage of one application: its starts and the time in use.
-struct DeviceAppUsageInfo : JsonEntity<DeviceAppUsageInfo> {
+struct DeviceAppUsageInfo final : JsonEntity<DeviceAppUsageInfo> {
     std::string packageName;
     std::int32_t versionCode = 0;
     std::string appName;
@@ -137,7 +137,7 @@ struct DeviceAppUsageInfo : JsonEntity<DeviceAppUsageInfo> {
 };
 
 /// The usage of applications on one day.
-struct DeviceAppUsage : JsonEntity<DeviceAppUsage> {
+struct DeviceAppUsage final : JsonEntity<DeviceAppUsage> {
     std::vector<DeviceAppUsageInfo> deviceAppUsageList;
     std::string date;
 
@@ -148,7 +148,7 @@ struct DeviceAppUsage : JsonEntity<DeviceAppUsage> {
 };
 
 /// The identity of one pop-up window: its application, title, window class, product name, signer and folder.
-struct PopupsTypeParams : JsonEntity<PopupsTypeParams> {
+struct PopupsTypeParams final : JsonEntity<PopupsTypeParams> {
     std::string appName;
     std::string popName;
     std::string popClassName;
@@ -167,7 +167,7 @@ struct PopupsTypeParams : JsonEntity<PopupsTypeParams> {
 };
 
 /// The pop-up blocking counters.
-struct PopupsBlockDetailsParams : JsonEntity<PopupsBlockDetailsParams> {
+struct PopupsBlockDetailsParams final : JsonEntity<PopupsBlockDetailsParams> {
     bool popStatus = false;
     std::int32_t blockNum = 0;
     std::int32_t popupsNum = 0;
@@ -180,7 +180,7 @@ struct PopupsBlockDetailsParams : JsonEntity<PopupsBlockDetailsParams> {
 };
 
 /// The pop-up blocking rules.
-struct SyncPopupsParams : JsonEntity<SyncPopupsParams> {
+struct SyncPopupsParams final : JsonEntity<SyncPopupsParams> {
     bool popStatus = false;
     bool hasOne = false;
     bool enable = false;
@@ -195,7 +195,7 @@ struct SyncPopupsParams : JsonEntity<SyncPopupsParams> {
 };
 
 /// One detected pop-up, with the file-store keys of its picture and its application's icon.
-struct UploadPopupsParams : JsonEntity<UploadPopupsParams> {
+struct UploadPopupsParams final : JsonEntity<UploadPopupsParams> {
     std::int32_t type = 0;
     std::string appName;
     std::string popName;
@@ -222,7 +222,7 @@ struct UploadPopupsParams : JsonEntity<UploadPopupsParams> {
 };
 
 /// The default allow list.
-struct SyncWhiteListParam : JsonEntity<SyncWhiteListParam, OperationCommandRequest> {
+struct SyncWhiteListParam final : JsonEntity<SyncWhiteListParam, OperationCommandRequest> {
     std::vector<std::string> defaultWhitelist;
 
     static constexpr auto Keys = [](auto& self, const auto& key) {

@@ -11,7 +11,8 @@
 
 /// The state of one kind of cache.
 /// A command by type only: its body holds nothing but its own keys.
-struct ClearCacheInfoParams : JsonEntity<ClearCacheInfoParams, OperationCommandRequest, BaseKeys::Neither> {
+struct ClearCacheInfoParams final
+    : JsonEntity<ClearCacheInfoParams, OperationCommandRequest, BaseKeys::Neither> {
     std::string value;
     std::int32_t rubbishType = 0;
 
@@ -22,7 +23,7 @@ struct ClearCacheInfoParams : JsonEntity<ClearCacheInfoParams, OperationCommandR
 };
 
 /// The progress of clearing the device's caches.
-struct ClearCacheInfo : JsonEntity<ClearCacheInfo, OperationCommandRequest> {
+struct ClearCacheInfo final : JsonEntity<ClearCacheInfo, OperationCommandRequest> {
     std::string sessionId;
     std::int32_t statusType = 0;
     std::vector<ClearCacheInfoParams> clearDeviceCacheProcessStatusParams;
@@ -35,7 +36,7 @@ struct ClearCacheInfo : JsonEntity<ClearCacheInfo, OperationCommandRequest> {
 };
 
 /// One weekly rule: the week days and the times.
-struct CommonDataTimer : JsonEntity<CommonDataTimer> {
+struct CommonDataTimer final : JsonEntity<CommonDataTimer> {
     std::string week;
     std::vector<std::string> time;
 
@@ -46,7 +47,7 @@ struct CommonDataTimer : JsonEntity<CommonDataTimer> {
 };
 
 /// One timer of the power schedule.
-struct TimerParams : JsonEntity<TimerParams, OperationCommandRequest> {
+struct TimerParams final : JsonEntity<TimerParams, OperationCommandRequest> {
     std::int32_t timeMode = 0;
     bool jobStatus = false;
     std::vector<CommonDataTimer> timer;
@@ -59,7 +60,7 @@ struct TimerParams : JsonEntity<TimerParams, OperationCommandRequest> {
 };
 
 /// The state of one timer.
-struct SyncTimerInfo : JsonEntity<SyncTimerInfo, OperationCommandRequest> {
+struct SyncTimerInfo final : JsonEntity<SyncTimerInfo, OperationCommandRequest> {
     std::int64_t id = 0;
     bool jobStatus = false;
 
@@ -72,14 +73,14 @@ struct SyncTimerInfo : JsonEntity<SyncTimerInfo, OperationCommandRequest> {
 };
 
 /// The states of several timers.
-struct SyncTimerRequest : JsonEntity<SyncTimerRequest, OperationCommandRequest> {
+struct SyncTimerRequest final : JsonEntity<SyncTimerRequest, OperationCommandRequest> {
     std::vector<SyncTimerInfo> timers;
 
     static constexpr auto Keys = [](auto& self, const auto& key) { key("timers", self.timers); };
 };
 
 /// When the device was last switched on and off, and when it will be next.
-struct PowerOnTimestampInfo : JsonEntity<PowerOnTimestampInfo> {
+struct PowerOnTimestampInfo final : JsonEntity<PowerOnTimestampInfo> {
     std::string lastOnTime;
     std::string lastOffTime;
     std::string thisOnTime;
@@ -94,7 +95,7 @@ struct PowerOnTimestampInfo : JsonEntity<PowerOnTimestampInfo> {
 };
 
 /// The power schedule: several timers.
-struct DevicePowerEntity : JsonEntity<DevicePowerEntity, OperationCommandRequest> {
+struct DevicePowerEntity final : JsonEntity<DevicePowerEntity, OperationCommandRequest> {
     std::string versionId;
     std::map<std::int64_t, TimerParams> taskMap; ///< In ascending order of the time mode.
 
@@ -110,7 +111,7 @@ struct DevicePowerEntity : JsonEntity<DevicePowerEntity, OperationCommandRequest
 };
 
 /// Asks for screenshots of a size in pixels, at an interval.
-struct ScreenShotDataRequest : JsonEntity<ScreenShotDataRequest, OperationCommandRequest> {
+struct ScreenShotDataRequest final : JsonEntity<ScreenShotDataRequest, OperationCommandRequest> {
     std::int32_t width = 0;
     std::int32_t height = 0;
     std::int32_t intervalTime = 0;
@@ -123,7 +124,7 @@ struct ScreenShotDataRequest : JsonEntity<ScreenShotDataRequest, OperationComman
 };
 
 /// One screenshot, as a key of the file store.
-struct ScreenShotDataResponse : JsonEntity<ScreenShotDataResponse> {
+struct ScreenShotDataResponse final : JsonEntity<ScreenShotDataResponse> {
     std::int32_t code = 0;
     std::string fileKey;
     std::string result;
@@ -136,7 +137,7 @@ struct ScreenShotDataResponse : JsonEntity<ScreenShotDataResponse> {
 };
 
 /// One remote input event.
-struct ScreenControlDataRequest : JsonEntity<ScreenControlDataRequest> {
+struct ScreenControlDataRequest final : JsonEntity<ScreenControlDataRequest> {
     std::int32_t type = 0;
     double x = 0.0;
     double y = 0.0;

@@ -11,7 +11,7 @@
 // Enrollment, identity and inventory of the device.
 
 /// Parameters of an automatic enrollment.
-struct AutoEnrollParams : JsonEntity<AutoEnrollParams> {
+struct AutoEnrollParams final : JsonEntity<AutoEnrollParams> {
     std::string code;
     std::string adminAccount;
     bool needMigration = false;
@@ -30,7 +30,7 @@ struct AutoEnrollParams : JsonEntity<AutoEnrollParams> {
 };
 
 /// The enrollment file found on a USB drive: a fixed device name, or one built from prefix and suffix.
-struct UsbEnrollmentFile : JsonEntity<UsbEnrollmentFile> {
+struct UsbEnrollmentFile final : JsonEntity<UsbEnrollmentFile> {
     std::string code;
     std::string account;
     std::string deviceName;
@@ -49,7 +49,7 @@ struct UsbEnrollmentFile : JsonEntity<UsbEnrollmentFile> {
 };
 
 /// Asks the service to authorise the device; `sn` is its serial number.
-struct DeviceAuthDataRequest : JsonEntity<DeviceAuthDataRequest> {
+struct DeviceAuthDataRequest final : JsonEntity<DeviceAuthDataRequest> {
     std::string code;
     std::string email;
     std::int32_t type = 0;
@@ -78,7 +78,7 @@ struct DeviceAuthDataRequest : JsonEntity<DeviceAuthDataRequest> {
 };
 
 /// First stage of a binding: what the user entered.
-struct DeviceBindingParam : JsonEntity<DeviceBindingParam> {
+struct DeviceBindingParam final : JsonEntity<DeviceBindingParam> {
     std::string code;
     std::string email;
     bool binding = false;
@@ -99,7 +99,7 @@ struct DeviceBindingParam : JsonEntity<DeviceBindingParam> {
 };
 
 /// Second stage of a binding: what the service echoes while it binds.
-struct DeviceBindingInfo : JsonEntity<DeviceBindingInfo> {
+struct DeviceBindingInfo final : JsonEntity<DeviceBindingInfo> {
     std::string code;
     std::string email;
     std::int32_t operationDeviceLogId = 0;
@@ -122,7 +122,7 @@ struct DeviceBindingInfo : JsonEntity<DeviceBindingInfo> {
 };
 
 /// Last stage of a binding: its outcome and the permissions granted.
-struct DeviceBindingResult : JsonEntity<DeviceBindingResult> {
+struct DeviceBindingResult final : JsonEntity<DeviceBindingResult> {
     bool binding = false;
     bool result = false;
     std::string code;
@@ -143,21 +143,21 @@ struct DeviceBindingResult : JsonEntity<DeviceBindingResult> {
 };
 
 /// The permissions that the organisation holds over the device.
-struct PermissionInfo : JsonEntity<PermissionInfo> {
+struct PermissionInfo final : JsonEntity<PermissionInfo> {
     std::vector<std::string> keyList;
 
     static constexpr auto Keys = [](auto& self, const auto& key) { key("keyList", self.keyList); };
 };
 
 /// Tells the administrator's e-mail address.
-struct AdminAccountDataNotify : JsonEntity<AdminAccountDataNotify, OperationCommandRequest> {
+struct AdminAccountDataNotify final : JsonEntity<AdminAccountDataNotify, OperationCommandRequest> {
     std::string email;
 
     static constexpr auto Keys = [](auto& self, const auto& key) { key("email", self.email); };
 };
 
 /// The device's identity; `version` is that of the software.
-struct DeviceBaseInfo : JsonEntity<DeviceBaseInfo> {
+struct DeviceBaseInfo final : JsonEntity<DeviceBaseInfo> {
     std::string name;
     std::string timeZone;
     std::string ip;
@@ -176,21 +176,21 @@ struct DeviceBaseInfo : JsonEntity<DeviceBaseInfo> {
 };
 
 /// The device's name.
-struct DeviceNameProperty : JsonEntity<DeviceNameProperty, OperationCommandRequest> {
+struct DeviceNameProperty final : JsonEntity<DeviceNameProperty, OperationCommandRequest> {
     std::string name;
 
     static constexpr auto Keys = [](auto& self, const auto& key) { key("name", self.name); };
 };
 
 /// The device's tags.
-struct DeviceTagsProperty : JsonEntity<DeviceTagsProperty, OperationCommandRequest> {
+struct DeviceTagsProperty final : JsonEntity<DeviceTagsProperty, OperationCommandRequest> {
     std::vector<std::string> tags;
 
     static constexpr auto Keys = [](auto& self, const auto& key) { key("tags", self.tags); };
 };
 
 /// One network interface.
-struct NICInfo : JsonEntity<NICInfo> {
+struct NICInfo final : JsonEntity<NICInfo> {
     std::string nicName;
     std::string mac;
     std::string publicIp;
@@ -207,7 +207,7 @@ struct NICInfo : JsonEntity<NICInfo> {
 };
 
 /// The device's network interfaces.
-struct NicInfoParamsList : JsonEntity<NicInfoParamsList> {
+struct NicInfoParamsList final : JsonEntity<NicInfoParamsList> {
     std::vector<NICInfo> nicInfoParamsList;
 
     static constexpr auto Keys = [](auto& self, const auto& key) {
@@ -217,7 +217,7 @@ struct NicInfoParamsList : JsonEntity<NicInfoParamsList> {
 
 /// The device's inventory: storage and memory (used and in total), screen size in pixels, whether wake-on-LAN
 /// is enabled.
-struct DevicePropertyInfo : JsonEntity<DevicePropertyInfo> {
+struct DevicePropertyInfo final : JsonEntity<DevicePropertyInfo> {
     std::int64_t useStorage = 0;
     std::int64_t totalStorage = 0;
     std::int64_t useRam = 0;
@@ -254,7 +254,7 @@ struct DevicePropertyInfo : JsonEntity<DevicePropertyInfo> {
 };
 
 /// The sales channel of the device.
-struct DeviceCustomerChannelInfo : JsonEntity<DeviceCustomerChannelInfo> {
+struct DeviceCustomerChannelInfo final : JsonEntity<DeviceCustomerChannelInfo> {
     std::string customerChannel;
     std::string os;
     std::string product;
@@ -262,8 +262,8 @@ struct DeviceCustomerChannelInfo : JsonEntity<DeviceCustomerChannelInfo> {
     static constexpr auto Keys = [](auto& self, const auto& key) {
         key("customerChannel", self.customerChannel);
         // A flag in disguise: the service sends true or false and is sent back a text of one byte, 1 or 0.
-        key.Read("os", self.os, [](const Json::Value& value, std::string& os) {
-            os.assign(1, value.asBool() ? '\1' : '\0');
+        key.Read("os", self.os, [](const Json::Value& value, std::string& field) {
+            field.assign(1, value.asBool() ? '\1' : '\0');
         });
         key.Write("os", self.os);
         key("product", self.product);
@@ -272,7 +272,7 @@ struct DeviceCustomerChannelInfo : JsonEntity<DeviceCustomerChannelInfo> {
 
 /// The resolved position in degrees, and the address it was found with.
 /// A command by type only: its body holds nothing but its own keys.
-struct DeviceLocationInfo : JsonEntity<DeviceLocationInfo, OperationCommandRequest, BaseKeys::Neither> {
+struct DeviceLocationInfo final : JsonEntity<DeviceLocationInfo, OperationCommandRequest, BaseKeys::Neither> {
     double latitude = 0.0;
     double longitude = 0.0;
     std::string ip;
@@ -286,7 +286,7 @@ struct DeviceLocationInfo : JsonEntity<DeviceLocationInfo, OperationCommandReque
 
 /// One Wi-Fi access point in reach.
 /// A command by type only: its body holds nothing but its own keys.
-struct DeviceLocationWifiInfo
+struct DeviceLocationWifiInfo final
     : JsonEntity<DeviceLocationWifiInfo, OperationCommandRequest, BaseKeys::Neither> {
     double signalStrength = 0.0;
     std::string macAddress;
@@ -298,7 +298,7 @@ struct DeviceLocationWifiInfo
 };
 
 /// What a position is resolved from: the address and the access points in reach.
-struct DeviceLocationParams : JsonEntity<DeviceLocationParams> {
+struct DeviceLocationParams final : JsonEntity<DeviceLocationParams> {
     std::string ip;
     bool status = false;
     std::vector<DeviceLocationWifiInfo> wifiAccessPoints;
@@ -311,7 +311,7 @@ struct DeviceLocationParams : JsonEntity<DeviceLocationParams> {
 };
 
 /// Resets the device; `type` is the service's code of how.
-struct FactoryResetParams : JsonEntity<FactoryResetParams, OperationCommandRequest> {
+struct FactoryResetParams final : JsonEntity<FactoryResetParams, OperationCommandRequest> {
     std::int32_t type = 0;
 
     static constexpr auto Keys = [](auto& self, const auto& key) { key("type", self.type); };

@@ -9,7 +9,7 @@
 // Feedback, logs, and their upload to the service's file store.
 
 /// The description of the device that goes with feedback.
-struct ReportInfoDto : JsonEntity<ReportInfoDto> {
+struct ReportInfoDto final : JsonEntity<ReportInfoDto> {
     std::string version;
     std::string os;
     std::string osVersion;
@@ -36,7 +36,7 @@ struct ReportInfoDto : JsonEntity<ReportInfoDto> {
 };
 
 /// An attached file.
-struct FileDto : JsonEntity<FileDto> {
+struct FileDto final : JsonEntity<FileDto> {
     std::string name;
     std::string url;
 
@@ -47,7 +47,7 @@ struct FileDto : JsonEntity<FileDto> {
 };
 
 /// The feedback form that is sent to the service.
-struct WebFeedbackDto : JsonEntity<WebFeedbackDto> {
+struct WebFeedbackDto final : JsonEntity<WebFeedbackDto> {
     std::string email;
     std::string content;
     std::string title;
@@ -66,7 +66,7 @@ struct WebFeedbackDto : JsonEntity<WebFeedbackDto> {
 };
 
 /// Ties an uploaded log to a feedback.
-struct ReportFeedbackLog : JsonEntity<ReportFeedbackLog> {
+struct ReportFeedbackLog final : JsonEntity<ReportFeedbackLog> {
     std::int32_t feedbackId = 0;
     std::string logCode;
     std::string logName;
@@ -79,14 +79,14 @@ struct ReportFeedbackLog : JsonEntity<ReportFeedbackLog> {
 };
 
 /// Asks for the log of a feedback.
-struct PullFeedbackLog : JsonEntity<PullFeedbackLog> {
+struct PullFeedbackLog final : JsonEntity<PullFeedbackLog> {
     std::int32_t feedbackId = 0;
 
     static constexpr auto Keys = [](auto& self, const auto& key) { key("feedbackId", self.feedbackId); };
 };
 
 /// Ties an uploaded file to a bug log.
-struct ReportBugLogInfo : JsonEntity<ReportBugLogInfo, OperationCommandRequest> {
+struct ReportBugLogInfo final : JsonEntity<ReportBugLogInfo, OperationCommandRequest> {
     std::string traceId;
     std::string fileKey;
 
@@ -97,14 +97,14 @@ struct ReportBugLogInfo : JsonEntity<ReportBugLogInfo, OperationCommandRequest> 
 };
 
 /// Asks for a bug log.
-struct ExportBugLogInfo : JsonEntity<ExportBugLogInfo, OperationCommandRequest> {
+struct ExportBugLogInfo final : JsonEntity<ExportBugLogInfo, OperationCommandRequest> {
     std::string traceId;
 
     static constexpr auto Keys = [](auto& self, const auto& key) { key("traceId", self.traceId); };
 };
 
 /// The service's answer to the notice of an uploaded log.
-struct NotifyDeviceLogUploadResponse : JsonEntity<NotifyDeviceLogUploadResponse> {
+struct NotifyDeviceLogUploadResponse final : JsonEntity<NotifyDeviceLogUploadResponse> {
     std::string data;
     std::string status;
 
@@ -115,7 +115,7 @@ struct NotifyDeviceLogUploadResponse : JsonEntity<NotifyDeviceLogUploadResponse>
 };
 
 /// One name and value of an upload request.
-struct NubraFieldInfo : JsonEntity<NubraFieldInfo> {
+struct NubraFieldInfo final : JsonEntity<NubraFieldInfo> {
     std::string name;
     std::string value;
 
@@ -126,7 +126,7 @@ struct NubraFieldInfo : JsonEntity<NubraFieldInfo> {
 };
 
 /// One file in the file store.
-struct NubraFileInfo : JsonEntity<NubraFileInfo> {
+struct NubraFileInfo final : JsonEntity<NubraFileInfo> {
     std::string fileKey;
     std::string downloadUrl;
 
@@ -138,7 +138,7 @@ struct NubraFileInfo : JsonEntity<NubraFileInfo> {
 
 /// How to upload a file: the request's key fields, headers and form fields, and the response headers to pick
 /// up.
-struct NubraUploadPolicy : JsonEntity<NubraUploadPolicy> {
+struct NubraUploadPolicy final : JsonEntity<NubraUploadPolicy> {
     std::string httpMethod;
     std::string uploadUrl;
     bool needCallServer = false;
@@ -159,7 +159,7 @@ struct NubraUploadPolicy : JsonEntity<NubraUploadPolicy> {
 };
 
 /// The body of NubraUploadPolicyResponse.
-struct NubraUploadPolicyData : JsonEntity<NubraUploadPolicyData> {
+struct NubraUploadPolicyData final : JsonEntity<NubraUploadPolicyData> {
     std::string fileKey;
     NubraUploadPolicy uploadPolicyVo;
 
@@ -172,7 +172,7 @@ struct NubraUploadPolicyData : JsonEntity<NubraUploadPolicyData> {
 };
 
 /// The file store's answer to a request for an upload policy.
-struct NubraUploadPolicyResponse : JsonEntity<NubraUploadPolicyResponse> {
+struct NubraUploadPolicyResponse final : JsonEntity<NubraUploadPolicyResponse> {
     std::string status;
     NubraUploadPolicyData data;
 
@@ -185,7 +185,7 @@ struct NubraUploadPolicyResponse : JsonEntity<NubraUploadPolicyResponse> {
 };
 
 /// The file that an upload made.
-struct NubraUploadResult : JsonEntity<NubraUploadResult> {
+struct NubraUploadResult final : JsonEntity<NubraUploadResult> {
     std::string downloadUrl;
     std::string fileKey;
     std::int32_t fileSize = 0;
@@ -198,7 +198,7 @@ struct NubraUploadResult : JsonEntity<NubraUploadResult> {
 };
 
 /// The file store's answer to an upload.
-struct NubraUploadResponse : JsonEntity<NubraUploadResponse> {
+struct NubraUploadResponse final : JsonEntity<NubraUploadResponse> {
     std::int32_t code = 0;
     std::string message;
     NubraUploadResult data;
@@ -211,7 +211,7 @@ struct NubraUploadResponse : JsonEntity<NubraUploadResponse> {
 };
 
 /// The file store's answer to the notice of a finished upload.
-struct NubraNotifyUploadResultResponse : JsonEntity<NubraNotifyUploadResultResponse> {
+struct NubraNotifyUploadResultResponse final : JsonEntity<NubraNotifyUploadResultResponse> {
     std::string status;
     NubraFileInfo data;
 

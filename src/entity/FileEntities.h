@@ -12,7 +12,7 @@
 // Messages, files and live channels that the administrator pushes to the screen.
 
 /// Shows a text message.
-struct TextDataRequest : JsonEntity<TextDataRequest, OperationCommandRequest> {
+struct TextDataRequest final : JsonEntity<TextDataRequest, OperationCommandRequest> {
     bool jobStatus = false;
     std::int32_t loopTime = 0;
     std::int32_t playDuration = 0;
@@ -29,7 +29,7 @@ struct TextDataRequest : JsonEntity<TextDataRequest, OperationCommandRequest> {
 };
 
 /// One file that the service offers.
-struct FileInfoParams : JsonEntity<FileInfoParams> {
+struct FileInfoParams final : JsonEntity<FileInfoParams> {
     std::uint64_t fileId = 0;
     std::string md5;
     std::string name;
@@ -46,7 +46,7 @@ struct FileInfoParams : JsonEntity<FileInfoParams> {
 };
 
 /// Sends one file to the device.
-struct FileDataRequest : JsonEntity<FileDataRequest, OperationCommandRequest> {
+struct FileDataRequest final : JsonEntity<FileDataRequest, OperationCommandRequest> {
     FileInfoParams fileInfoParams;
 
     static constexpr auto Keys = [](auto& self, const auto& key) {
@@ -55,7 +55,7 @@ struct FileDataRequest : JsonEntity<FileDataRequest, OperationCommandRequest> {
 };
 
 /// Plays a multimedia file.
-struct MultimediaDataRequest : JsonEntity<MultimediaDataRequest, OperationCommandRequest> {
+struct MultimediaDataRequest final : JsonEntity<MultimediaDataRequest, OperationCommandRequest> {
     bool jobStatus = false;
     std::int32_t loopTime = 0;
     std::int32_t playDuration = 0;
@@ -72,7 +72,7 @@ struct MultimediaDataRequest : JsonEntity<MultimediaDataRequest, OperationComman
 };
 
 /// Rings a bell.
-struct BellDataRequest : JsonEntity<BellDataRequest, OperationCommandRequest> {
+struct BellDataRequest final : JsonEntity<BellDataRequest, OperationCommandRequest> {
     bool jobStatus = false;
     std::int32_t timeMode = 0;
     std::int32_t timeLength = 0;
@@ -87,7 +87,7 @@ struct BellDataRequest : JsonEntity<BellDataRequest, OperationCommandRequest> {
 };
 
 /// Shows an emergency notice.
-struct EmergencyDataRequest : JsonEntity<EmergencyDataRequest, OperationCommandRequest> {
+struct EmergencyDataRequest final : JsonEntity<EmergencyDataRequest, OperationCommandRequest> {
     std::string text;
     FileInfoParams fileInfoParams;
 
@@ -98,7 +98,7 @@ struct EmergencyDataRequest : JsonEntity<EmergencyDataRequest, OperationCommandR
 };
 
 /// Sets the wallpaper.
-struct WallpaperDataRequest : JsonEntity<WallpaperDataRequest, OperationCommandRequest> {
+struct WallpaperDataRequest final : JsonEntity<WallpaperDataRequest, OperationCommandRequest> {
     std::int32_t wallpaperMode = 0;
     std::int32_t displayMode = 0;
     FileInfoParams fileInfoParams;
@@ -111,7 +111,7 @@ struct WallpaperDataRequest : JsonEntity<WallpaperDataRequest, OperationCommandR
 };
 
 /// Sets the boot logo.
-struct BootLogoDataRequest : JsonEntity<BootLogoDataRequest, OperationCommandRequest> {
+struct BootLogoDataRequest final : JsonEntity<BootLogoDataRequest, OperationCommandRequest> {
     FileInfoParams fileInfoParams;
     std::int32_t logoMode = 0;
     std::int32_t displayMode = 0;
@@ -124,7 +124,7 @@ struct BootLogoDataRequest : JsonEntity<BootLogoDataRequest, OperationCommandReq
 };
 
 /// One live channel.
-struct LiveChannelRequest : JsonEntity<LiveChannelRequest, OperationCommandRequest> {
+struct LiveChannelRequest final : JsonEntity<LiveChannelRequest, OperationCommandRequest> {
     std::int32_t id = 0;
     bool jobStatus = false;
     std::string name;
@@ -141,7 +141,7 @@ struct LiveChannelRequest : JsonEntity<LiveChannelRequest, OperationCommandReque
 };
 
 /// The live channels on offer.
-struct LiveChannelListRequest : JsonEntity<LiveChannelListRequest> {
+struct LiveChannelListRequest final : JsonEntity<LiveChannelListRequest> {
     std::vector<LiveChannelRequest> liveChannelList;
 
     static constexpr auto Keys = [](auto& self, const auto& key) {

@@ -9,7 +9,7 @@
 // The device's link to the service's message broker.
 
 /// A generic error reply.
-struct ErrorInfo : JsonEntity<ErrorInfo> {
+struct ErrorInfo final : JsonEntity<ErrorInfo> {
     std::string code;
     std::string result;
 
@@ -20,7 +20,7 @@ struct ErrorInfo : JsonEntity<ErrorInfo> {
 };
 
 /// How to reach the service's message broker.
-struct IotEnvironment : JsonEntity<IotEnvironment> {
+struct IotEnvironment final : JsonEntity<IotEnvironment> {
     std::string registerUrl;
     std::string brokerUrl;
     std::string productKey;
@@ -35,14 +35,14 @@ struct IotEnvironment : JsonEntity<IotEnvironment> {
 };
 
 /// State of the link to the message broker.
-struct IotStatusEntity : JsonEntity<IotStatusEntity> {
+struct IotStatusEntity final : JsonEntity<IotStatusEntity> {
     std::int32_t status = 0;
 
     static constexpr auto Keys = [](auto& self, const auto& key) { key("status", self.status); };
 };
 
 /// The broker's reply; `data` is JSON text.
-struct IotResult : JsonEntity<IotResult> {
+struct IotResult final : JsonEntity<IotResult> {
     bool success = false;
     std::string code;
     std::string message;
@@ -63,7 +63,7 @@ struct IotResult : JsonEntity<IotResult> {
 };
 
 /// The device's reported profile: each key holds the JSON text of one settings area.
-struct IotProperty : JsonEntity<IotProperty> {
+struct IotProperty final : JsonEntity<IotProperty> {
     std::string name;
     std::string tags;
     std::string blocklist;

@@ -19,7 +19,7 @@ struct ExternalDeviceKey : JsonEntity<ExternalDeviceKey> {
 };
 
 /// Opens a session with one camera of an external device.
-struct CreateVideoWebRTC : JsonEntity<CreateVideoWebRTC, ExternalDeviceKey, BaseKeys::OnlyRead> {
+struct CreateVideoWebRTC final : JsonEntity<CreateVideoWebRTC, ExternalDeviceKey, BaseKeys::OnlyRead> {
     std::string sessionId;
     std::int32_t maxBitrate = 0;
     std::int32_t maxFramerate = 0;
@@ -49,21 +49,21 @@ struct CreateVideoWebRTC : JsonEntity<CreateVideoWebRTC, ExternalDeviceKey, Base
 };
 
 /// An external device.
-struct ExternalDeviceInfo : JsonEntity<ExternalDeviceInfo> {
+struct ExternalDeviceInfo final : JsonEntity<ExternalDeviceInfo> {
     std::string name;
 
     static constexpr auto Keys = [](auto& self, const auto& key) { key("name", self.name); };
 };
 
 /// Whether an external device has speakers.
-struct ExternalDeviceAudio : JsonEntity<ExternalDeviceAudio> {
+struct ExternalDeviceAudio final : JsonEntity<ExternalDeviceAudio> {
     bool speakers = false;
 
     static constexpr auto Keys = [](auto& self, const auto& key) { key("speakers", self.speakers); };
 };
 
 /// The firmware of an external device.
-struct ExternalDeviceFirmware : JsonEntity<ExternalDeviceFirmware> {
+struct ExternalDeviceFirmware final : JsonEntity<ExternalDeviceFirmware> {
     std::string version;
     std::string appKey;
     bool updateOnline = false;
@@ -76,7 +76,7 @@ struct ExternalDeviceFirmware : JsonEntity<ExternalDeviceFirmware> {
 };
 
 /// Orders an update of an external device's firmware.
-struct ExternalDeviceFirmwareUpdate
+struct ExternalDeviceFirmwareUpdate final
     : JsonEntity<ExternalDeviceFirmwareUpdate, ExternalDeviceKey, BaseKeys::OnlyRead> {
     std::string url;
     std::string md5;
@@ -91,7 +91,7 @@ struct ExternalDeviceFirmwareUpdate
 };
 
 /// The answer to a command to an external device.
-struct ExternalDeviceControlFeedback
+struct ExternalDeviceControlFeedback final
     : JsonEntity<ExternalDeviceControlFeedback, ExternalDeviceKey, BaseKeys::OnlyRead> {
     std::string functionName;
     std::string code;
@@ -106,7 +106,8 @@ struct ExternalDeviceControlFeedback
 };
 
 /// Sets one parameter of an external device.
-struct SetExternalDeviceParams : JsonEntity<SetExternalDeviceParams, ExternalDeviceKey, BaseKeys::OnlyRead> {
+struct SetExternalDeviceParams final
+    : JsonEntity<SetExternalDeviceParams, ExternalDeviceKey, BaseKeys::OnlyRead> {
     std::string paramsName;
     std::string paramsValue;
     std::string functionName;
@@ -120,7 +121,7 @@ struct SetExternalDeviceParams : JsonEntity<SetExternalDeviceParams, ExternalDev
 };
 
 /// One parameter of an external device.
-struct ExternalDeviceParam : JsonEntity<ExternalDeviceParam> {
+struct ExternalDeviceParam final : JsonEntity<ExternalDeviceParam> {
     std::string paramsName;
     std::string paramsValue;
     std::string functionName;
@@ -133,7 +134,7 @@ struct ExternalDeviceParam : JsonEntity<ExternalDeviceParam> {
 };
 
 /// Resets several parameters of an external device.
-struct ResetExternalDeviceParams
+struct ResetExternalDeviceParams final
     : JsonEntity<ResetExternalDeviceParams, ExternalDeviceKey, BaseKeys::OnlyRead> {
     std::vector<ExternalDeviceParam> paramList;
 
@@ -144,7 +145,7 @@ struct ResetExternalDeviceParams
 };
 
 /// The channel to switch to.
-struct ChannelCommandParams : JsonEntity<ChannelCommandParams> {
+struct ChannelCommandParams final : JsonEntity<ChannelCommandParams> {
     std::string channelName;
     std::int32_t channelId = 0;
 
@@ -155,7 +156,7 @@ struct ChannelCommandParams : JsonEntity<ChannelCommandParams> {
 };
 
 /// Switches the channel.
-struct ChannelSwitchParams : JsonEntity<ChannelSwitchParams> {
+struct ChannelSwitchParams final : JsonEntity<ChannelSwitchParams> {
     ChannelCommandParams channelCommandParams;
 
     static constexpr auto Keys = [](auto& self, const auto& key) {
@@ -164,7 +165,7 @@ struct ChannelSwitchParams : JsonEntity<ChannelSwitchParams> {
 };
 
 /// One channel and whether it is locked.
-struct DeviceChannelParams : JsonEntity<DeviceChannelParams> {
+struct DeviceChannelParams final : JsonEntity<DeviceChannelParams> {
     std::string name;
     bool isLock = false;
 
@@ -175,7 +176,7 @@ struct DeviceChannelParams : JsonEntity<DeviceChannelParams> {
 };
 
 /// The device's channels and the current one.
-struct DeviceChannelInfo : JsonEntity<DeviceChannelInfo> {
+struct DeviceChannelInfo final : JsonEntity<DeviceChannelInfo> {
     std::vector<DeviceChannelParams> deviceChannelParams;
     std::string onChannel;
 
@@ -186,7 +187,7 @@ struct DeviceChannelInfo : JsonEntity<DeviceChannelInfo> {
 };
 
 /// The wake server's record; its keys are capitalised.
-struct WakeServerData : JsonEntity<WakeServerData> {
+struct WakeServerData final : JsonEntity<WakeServerData> {
     std::uint64_t Id = 0;
     std::string BindingCode;
     std::string Uid;
@@ -203,7 +204,7 @@ struct WakeServerData : JsonEntity<WakeServerData> {
 };
 
 /// State of the binding to a wake server.
-struct WakeServerInfo : JsonEntity<WakeServerInfo> {
+struct WakeServerInfo final : JsonEntity<WakeServerInfo> {
     std::string wakeServerName;
     bool isOnLine = false;
     std::int32_t code = 0;
@@ -216,7 +217,7 @@ struct WakeServerInfo : JsonEntity<WakeServerInfo> {
 };
 
 /// The wake server of a device, with the operation that bound it.
-struct DeviceWakeServer : JsonEntity<DeviceWakeServer> {
+struct DeviceWakeServer final : JsonEntity<DeviceWakeServer> {
     std::int32_t operationDeviceLogId = 0;
     std::int32_t operationId = 0;
     WakeServerInfo wakeServerEntity;
@@ -229,7 +230,7 @@ struct DeviceWakeServer : JsonEntity<DeviceWakeServer> {
 };
 
 /// Asks for a wake packet to one machine.
-struct SendWolParams : JsonEntity<SendWolParams> {
+struct SendWolParams final : JsonEntity<SendWolParams> {
     std::string mac;
     std::string ip;
 
@@ -240,7 +241,7 @@ struct SendWolParams : JsonEntity<SendWolParams> {
 };
 
 /// Several machines to wake, in one text.
-struct DeviceWolParams : JsonEntity<DeviceWolParams> {
+struct DeviceWolParams final : JsonEntity<DeviceWolParams> {
     std::string macsAndIps;
 
     static constexpr auto Keys = [](auto& self, const auto& key) { key("macsAndIps", self.macsAndIps); };

@@ -31,7 +31,7 @@ struct RyxEntity {
     virtual void ReadFromJson(const Json::Value& in) = 0;
 
 protected:
-    // Not virtual: nobody deletes an entity through this base.
+    // Not virtual: nobody deletes an entity through a base. Every entity that is no base is final.
     ~RyxEntity() = default;
 };
 

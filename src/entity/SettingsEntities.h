@@ -9,7 +9,7 @@
 // The areas of the settings profile that the administrator pushes.
 
 /// Switches the settings lock on (non-zero) or off.
-struct SettingsParams : JsonEntity<SettingsParams, OperationCommandRequest> {
+struct SettingsParams final : JsonEntity<SettingsParams, OperationCommandRequest> {
     std::int32_t enableSettingsLock = 0;
 
     static constexpr auto Keys = [](auto& self, const auto& key) {
@@ -18,7 +18,7 @@ struct SettingsParams : JsonEntity<SettingsParams, OperationCommandRequest> {
 };
 
 /// A notice about one setting area, named by its `type` code.
-struct DeviceSettingNotify : JsonEntity<DeviceSettingNotify, OperationCommandRequest> {
+struct DeviceSettingNotify final : JsonEntity<DeviceSettingNotify, OperationCommandRequest> {
     std::int32_t type = 0;
     bool status = false;
     std::string content;
@@ -31,7 +31,7 @@ struct DeviceSettingNotify : JsonEntity<DeviceSettingNotify, OperationCommandReq
 };
 
 /// When the screen goes to sleep.
-struct AutoSleepProperty : JsonEntity<AutoSleepProperty, OperationCommandRequest> {
+struct AutoSleepProperty final : JsonEntity<AutoSleepProperty, OperationCommandRequest> {
     std::int32_t autoSleepTime = 0;
 
     static constexpr auto Keys = [](auto& self, const auto& key) {
@@ -40,7 +40,7 @@ struct AutoSleepProperty : JsonEntity<AutoSleepProperty, OperationCommandRequest
 };
 
 /// When the device goes to sleep.
-struct AutoPowerSleepProperty : JsonEntity<AutoPowerSleepProperty, OperationCommandRequest> {
+struct AutoPowerSleepProperty final : JsonEntity<AutoPowerSleepProperty, OperationCommandRequest> {
     std::int32_t autoPowerSleepTime = 0;
 
     static constexpr auto Keys = [](auto& self, const auto& key) {
@@ -56,10 +56,10 @@ struct LevelProperty : JsonEntity<LevelProperty, OperationCommandRequest> {
 };
 
 /// Speaker volume.
-struct VolumeProperty : LevelProperty {};
+struct VolumeProperty final : LevelProperty {};
 
 /// Screen brightness.
-struct BrightnessProperty : LevelProperty {};
+struct BrightnessProperty final : LevelProperty {};
 
 /// One mode, -1 until the service tells another.
 struct ModeProperty : JsonEntity<ModeProperty, OperationCommandRequest> {
@@ -69,13 +69,13 @@ struct ModeProperty : JsonEntity<ModeProperty, OperationCommandRequest> {
 };
 
 /// The clock's hour format.
-struct HourFormatSettingProperty : ModeProperty {};
+struct HourFormatSettingProperty final : ModeProperty {};
 
 /// How date and time are set.
-struct DateAndTimeSettingProperty : ModeProperty {};
+struct DateAndTimeSettingProperty final : ModeProperty {};
 
 /// Whether the power button locks the screen.
-struct LockByButtonProperty : JsonEntity<LockByButtonProperty, OperationCommandRequest> {
+struct LockByButtonProperty final : JsonEntity<LockByButtonProperty, OperationCommandRequest> {
     std::int32_t turnOn = 0;
 
     static constexpr auto Keys = [](auto& self, const auto& key) {
@@ -86,7 +86,7 @@ struct LockByButtonProperty : JsonEntity<LockByButtonProperty, OperationCommandR
 };
 
 /// The energy-saving schedule: the period, the minutes of idleness, and the action to take after them.
-struct SavingModeProperty : JsonEntity<SavingModeProperty, OperationCommandRequest> {
+struct SavingModeProperty final : JsonEntity<SavingModeProperty, OperationCommandRequest> {
     std::int32_t savingModeStatus = 0;
     std::string startAt;
     std::string endAt;
@@ -103,14 +103,14 @@ struct SavingModeProperty : JsonEntity<SavingModeProperty, OperationCommandReque
 };
 
 /// The time zone.
-struct TimeZoneProperty : JsonEntity<TimeZoneProperty, OperationCommandRequest> {
+struct TimeZoneProperty final : JsonEntity<TimeZoneProperty, OperationCommandRequest> {
     std::string zoneId;
 
     static constexpr auto Keys = [](auto& self, const auto& key) { key("zoneId", self.zoneId); };
 };
 
 /// The wake-on-LAN server switch, and whether it changed.
-struct WolServerProperty : JsonEntity<WolServerProperty, OperationCommandRequest> {
+struct WolServerProperty final : JsonEntity<WolServerProperty, OperationCommandRequest> {
     bool change = false;
     bool enableWolServer = false;
 
@@ -121,7 +121,7 @@ struct WolServerProperty : JsonEntity<WolServerProperty, OperationCommandRequest
 };
 
 /// The Wi-Fi switch and the names of the networks allowed.
-struct WifiProperty : JsonEntity<WifiProperty, OperationCommandRequest> {
+struct WifiProperty final : JsonEntity<WifiProperty, OperationCommandRequest> {
     bool enable = false;
     std::vector<std::string> wifiSsidList;
 
@@ -132,7 +132,7 @@ struct WifiProperty : JsonEntity<WifiProperty, OperationCommandRequest> {
 };
 
 /// One certificate: its file in the service's file store and the container's password.
-struct CertificateListEntity : JsonEntity<CertificateListEntity, OperationCommandRequest> {
+struct CertificateListEntity final : JsonEntity<CertificateListEntity, OperationCommandRequest> {
     std::int32_t certId = 0;
     std::int32_t type = 0;
     std::string fileKey;
@@ -157,7 +157,7 @@ struct CertificateListEntity : JsonEntity<CertificateListEntity, OperationComman
 };
 
 /// One Wi-Fi network to configure, with its enterprise authentication.
-struct WifiInfoParams : JsonEntity<WifiInfoParams, OperationCommandRequest> {
+struct WifiInfoParams final : JsonEntity<WifiInfoParams, OperationCommandRequest> {
     std::string ssidName;
     std::string password;
     std::int32_t eapMethod = 0;
@@ -187,14 +187,15 @@ struct WifiInfoParams : JsonEntity<WifiInfoParams, OperationCommandRequest> {
 
 /// One network of the allow list.
 /// A command by type only: its body holds nothing but its own keys.
-struct WifiAllowListEntity : JsonEntity<WifiAllowListEntity, OperationCommandRequest, BaseKeys::Neither> {
+struct WifiAllowListEntity final
+    : JsonEntity<WifiAllowListEntity, OperationCommandRequest, BaseKeys::Neither> {
     std::string ssidname;
 
     static constexpr auto Keys = [](auto& self, const auto& key) { key("ssidname", self.ssidname); };
 };
 
 /// The current Wi-Fi network.
-struct WifiStatus : JsonEntity<WifiStatus> {
+struct WifiStatus final : JsonEntity<WifiStatus> {
     std::string wifiName;
     bool connectStatus = false;
 
@@ -207,7 +208,7 @@ struct WifiStatus : JsonEntity<WifiStatus> {
 };
 
 /// Certificates to install.
-struct CertificateProperty : JsonEntity<CertificateProperty, OperationCommandRequest> {
+struct CertificateProperty final : JsonEntity<CertificateProperty, OperationCommandRequest> {
     std::vector<CertificateListEntity> certInstallParamsList;
 
     static constexpr auto Keys = [](auto& self, const auto& key) {
@@ -218,7 +219,8 @@ struct CertificateProperty : JsonEntity<CertificateProperty, OperationCommandReq
 };
 
 /// Certificates to remove.
-struct CertificateUnInstallProperty : JsonEntity<CertificateUnInstallProperty, OperationCommandRequest> {
+struct CertificateUnInstallProperty final
+    : JsonEntity<CertificateUnInstallProperty, OperationCommandRequest> {
     std::vector<CertificateListEntity> certUninstallParamsList;
 
     static constexpr auto Keys = [](auto& self, const auto& key) {
@@ -229,14 +231,14 @@ struct CertificateUnInstallProperty : JsonEntity<CertificateUnInstallProperty, O
 };
 
 /// One blocked address.
-struct BlockListEntity : JsonEntity<BlockListEntity> {
+struct BlockListEntity final : JsonEntity<BlockListEntity> {
     std::string url;
 
     static constexpr auto Keys = [](auto& self, const auto& key) { key("url", self.url); };
 };
 
 /// The addresses that the device must not open.
-struct BlockListProperty : JsonEntity<BlockListProperty, OperationCommandRequest> {
+struct BlockListProperty final : JsonEntity<BlockListProperty, OperationCommandRequest> {
     std::int32_t blockType = 0;
     std::vector<BlockListEntity> blocklistEntityList;
 
@@ -247,14 +249,14 @@ struct BlockListProperty : JsonEntity<BlockListProperty, OperationCommandRequest
 };
 
 /// Locks the screen until `endAt`.
-struct DeviceScreenLock : JsonEntity<DeviceScreenLock> {
+struct DeviceScreenLock final : JsonEntity<DeviceScreenLock> {
     std::string endAt;
 
     static constexpr auto Keys = [](auto& self, const auto& key) { key("endAt", self.endAt); };
 };
 
 /// Switches a recurring schedule on or off.
-struct SwitchRecurringRequest : JsonEntity<SwitchRecurringRequest, OperationCommandRequest> {
+struct SwitchRecurringRequest final : JsonEntity<SwitchRecurringRequest, OperationCommandRequest> {
     bool status = false;
 
     static constexpr auto Keys = [](auto& self, const auto& key) { key("status", self.status); };

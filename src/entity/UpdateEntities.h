@@ -9,7 +9,7 @@
 // The software update exchange.
 
 /// Orders a software update.
-struct OtaUpdateDataRequest : JsonEntity<OtaUpdateDataRequest, OperationCommandRequest> {
+struct OtaUpdateDataRequest final : JsonEntity<OtaUpdateDataRequest, OperationCommandRequest> {
     bool isNeedUpdate = false;
     std::string apkUrl;
     std::string fileMd5;
@@ -24,7 +24,7 @@ struct OtaUpdateDataRequest : JsonEntity<OtaUpdateDataRequest, OperationCommandR
 };
 
 /// A version that is available; `versionCode` is text.
-struct OtaUpdateVersionInfo : JsonEntity<OtaUpdateVersionInfo> {
+struct OtaUpdateVersionInfo final : JsonEntity<OtaUpdateVersionInfo> {
     bool hasUpdate = false;
     bool isSilentDownload = false;
     bool isForceUpdate = false;
@@ -51,7 +51,7 @@ struct OtaUpdateVersionInfo : JsonEntity<OtaUpdateVersionInfo> {
 };
 
 /// A running download: percent, and the bytes in total and so far.
-struct OtaDownloadProgressInfo : JsonEntity<OtaDownloadProgressInfo> {
+struct OtaDownloadProgressInfo final : JsonEntity<OtaDownloadProgressInfo> {
     bool finish = false;
     bool success = false;
     std::int32_t progress = 0;
@@ -68,7 +68,7 @@ struct OtaDownloadProgressInfo : JsonEntity<OtaDownloadProgressInfo> {
 };
 
 /// Asks for an available version.
-struct UpdateGetDto : JsonEntity<UpdateGetDto> {
+struct UpdateGetDto final : JsonEntity<UpdateGetDto> {
     std::string appKey;
     std::string policyId;
     std::string platform;
@@ -87,7 +87,7 @@ struct UpdateGetDto : JsonEntity<UpdateGetDto> {
 };
 
 /// The answer to UpdateGetDto.
-struct UpdateGetResult : JsonEntity<UpdateGetResult> {
+struct UpdateGetResult final : JsonEntity<UpdateGetResult> {
     std::string status;
     OtaUpdateVersionInfo data;
 
@@ -98,7 +98,7 @@ struct UpdateGetResult : JsonEntity<UpdateGetResult> {
 };
 
 /// Orders an update to a customer's edition.
-struct CustomEditionDataRequest : JsonEntity<CustomEditionDataRequest> {
+struct CustomEditionDataRequest final : JsonEntity<CustomEditionDataRequest> {
     bool isNeedUpdate = false;
     std::string url;
     std::string fileMd5;

@@ -9,7 +9,7 @@
 // The signalling of remote view and screen sharing over WebRTC.
 
 /// A session description.
-struct WebRTCSdpInfo : JsonEntity<WebRTCSdpInfo> {
+struct WebRTCSdpInfo final : JsonEntity<WebRTCSdpInfo> {
     bool isControl = false;
     std::string type;
     std::string sdp;
@@ -22,7 +22,7 @@ struct WebRTCSdpInfo : JsonEntity<WebRTCSdpInfo> {
 };
 
 /// The client's session description with the aspect ratio of the shared screen.
-struct WebRTCClientSdpInfo : JsonEntity<WebRTCClientSdpInfo> {
+struct WebRTCClientSdpInfo final : JsonEntity<WebRTCClientSdpInfo> {
     double aspectRatio = 0.0;
     std::string type;
     std::string sdp;
@@ -41,7 +41,7 @@ struct WebRTCClientSdpInfo : JsonEntity<WebRTCClientSdpInfo> {
 };
 
 /// A session description for the client.
-struct WebRTCClientSdpParam : JsonEntity<WebRTCClientSdpParam> {
+struct WebRTCClientSdpParam final : JsonEntity<WebRTCClientSdpParam> {
     std::string sessionId;
     std::string description;
 
@@ -52,7 +52,7 @@ struct WebRTCClientSdpParam : JsonEntity<WebRTCClientSdpParam> {
 };
 
 /// The remote side's session description.
-struct WebRTCRemoteSdpDataRequest : JsonEntity<WebRTCRemoteSdpDataRequest, OperationCommandRequest> {
+struct WebRTCRemoteSdpDataRequest final : JsonEntity<WebRTCRemoteSdpDataRequest, OperationCommandRequest> {
     std::string sessionId;
     std::string description;
 
@@ -63,7 +63,7 @@ struct WebRTCRemoteSdpDataRequest : JsonEntity<WebRTCRemoteSdpDataRequest, Opera
 };
 
 /// One ICE candidate.
-struct WebRTCCandidateInfo : JsonEntity<WebRTCCandidateInfo> {
+struct WebRTCCandidateInfo final : JsonEntity<WebRTCCandidateInfo> {
     std::string candidate;
     std::string sdpMid;
     std::int32_t sdpMlineIndex = 0;
@@ -76,7 +76,7 @@ struct WebRTCCandidateInfo : JsonEntity<WebRTCCandidateInfo> {
 };
 
 /// The client's ICE candidates and how far gathering them is.
-struct WebRTCClientCandidateParam : JsonEntity<WebRTCClientCandidateParam> {
+struct WebRTCClientCandidateParam final : JsonEntity<WebRTCClientCandidateParam> {
     std::vector<std::string> candidates;
     std::int32_t iceGatheringState = 0;
     std::string sessionId;
@@ -91,7 +91,7 @@ struct WebRTCClientCandidateParam : JsonEntity<WebRTCClientCandidateParam> {
 };
 
 /// The remote side's ICE candidates.
-struct WebRTCRemoteCandidateDataRequest : JsonEntity<WebRTCRemoteCandidateDataRequest> {
+struct WebRTCRemoteCandidateDataRequest final : JsonEntity<WebRTCRemoteCandidateDataRequest> {
     std::vector<std::string> candidate;
     std::string sessionId;
 
@@ -102,7 +102,7 @@ struct WebRTCRemoteCandidateDataRequest : JsonEntity<WebRTCRemoteCandidateDataRe
 };
 
 /// An error of one session.
-struct WebRTCErrorInfo : JsonEntity<WebRTCErrorInfo> {
+struct WebRTCErrorInfo final : JsonEntity<WebRTCErrorInfo> {
     std::string sessionId;
     std::string errorInfo;
 
@@ -113,7 +113,7 @@ struct WebRTCErrorInfo : JsonEntity<WebRTCErrorInfo> {
 };
 
 /// Opens a remote-view session within limits of bit rate, frame rate and picture size.
-struct CreateWebRTCDataRequest : JsonEntity<CreateWebRTCDataRequest, OperationCommandRequest> {
+struct CreateWebRTCDataRequest final : JsonEntity<CreateWebRTCDataRequest, OperationCommandRequest> {
     std::string sessionId;
     std::int32_t maxBitrate = 0;
     std::int32_t maxFramerate = 0;
@@ -138,7 +138,7 @@ struct CreateWebRTCDataRequest : JsonEntity<CreateWebRTCDataRequest, OperationCo
 };
 
 /// A session to open and the ICE servers for it, both as JSON text.
-struct CreateWebRTCParams : JsonEntity<CreateWebRTCParams> {
+struct CreateWebRTCParams final : JsonEntity<CreateWebRTCParams> {
     std::string createWebRTC;
     std::string iceServers;
 
@@ -149,14 +149,14 @@ struct CreateWebRTCParams : JsonEntity<CreateWebRTCParams> {
 };
 
 /// Closes a session.
-struct DeleteWebRTCDataRequest : JsonEntity<DeleteWebRTCDataRequest> {
+struct DeleteWebRTCDataRequest final : JsonEntity<DeleteWebRTCDataRequest> {
     std::string sessionId;
 
     static constexpr auto Keys = [](auto& self, const auto& key) { key("sessionId", self.sessionId); };
 };
 
 /// One ICE server.
-struct IceServerInfo : JsonEntity<IceServerInfo> {
+struct IceServerInfo final : JsonEntity<IceServerInfo> {
     std::int32_t id = 0;
     std::int32_t serverType = 0;
     bool isPublic = false;
@@ -179,14 +179,14 @@ struct IceServerInfo : JsonEntity<IceServerInfo> {
 };
 
 /// The ICE servers.
-struct GetIceServersResult : JsonEntity<GetIceServersResult> {
+struct GetIceServersResult final : JsonEntity<GetIceServersResult> {
     std::vector<IceServerInfo> services;
 
     static constexpr auto Keys = [](auto& self, const auto& key) { key("services", self.services); };
 };
 
 /// Signals screen sharing.
-struct ScreenShareDataRequest : JsonEntity<ScreenShareDataRequest> {
+struct ScreenShareDataRequest final : JsonEntity<ScreenShareDataRequest> {
     std::string sessionId;
     std::string message;
     std::int32_t type = 0;
