@@ -18,7 +18,7 @@
 namespace {
 
 constexpr int NarrowestWithMenuNames = 900;
-constexpr QSize SmallestWindow(480, 320);
+constexpr QSize SmallestWindow(560, 340);
 
 // Results that pages report, and how they end. Named here so that each has its wording.
 struct Result {
@@ -33,7 +33,8 @@ constexpr Result Results[] = {
 } // namespace
 
 MainWindow::MainWindow()
-    : m_ui(std::make_unique<Ui::MainWindow>()), m_exit(new UExitButton), m_tray(new UTrayIcon),
+    // The exit button comes before the form, for it stands in the header: the Tab key goes there first.
+    : m_ui(std::make_unique<Ui::MainWindow>()), m_exit(new UExitButton(this)), m_tray(new UTrayIcon(this)),
       m_toast(new UToast(this)) {
     m_ui->setupUi(this);
     m_formStyleSheet = styleSheet();
@@ -46,14 +47,15 @@ MainWindow::~MainWindow() = default;
 void MainWindow::Initialize() {
     const bool enrolled = AppContextData::Instance()->enrolled;
     m_ui->stack->setCurrentWidget(enrolled ? m_ui->mainPage : static_cast<QWidget*>(m_ui->launcher));
+    // An enrolled device has a link, which counts as down until the service says more.
+    if (enrolled)
+        ShowStatus(IotStatus::Disconnected);
     m_ui->menu->SetLiveChannelVisible(false);
     m_ui->body->SwitchPage(m_ui->menu->Current());
     Rooms::FurnishFeedback(*m_ui->feedbackPage);
 
-    m_exit->setParent(this);
     m_exit->show();
     m_ui->header->ReserveEnd(m_exit->sizeHint().width());
-    m_tray->setParent(this);
     m_tray->show();
 
     setWindowTitle(QString::fromLatin1(Product::Name));
@@ -111,15 +113,19 @@ void MainWindow::OnPipeDataReceived(PipeKey key, const std::string& body) {
 }
 
 void MainWindow::OnIotStatus(const IotStatusEntity& entity) {
-    m_ui->header->UpdateStatus(entity.status);
     if (!IsKnownIotStatus(entity.status))
         return;
     const auto status = static_cast<IotStatus>(entity.status);
-    m_tray->ShowStatus(status);
-    IotStatusChanged(status);
+    ShowStatus(status);
     // Only an enrolled device has a link, so there is nothing left to launch.
     if (status != IotStatus::NotEnrolled && m_ui->stack->currentWidget() == m_ui->launcher)
         ShowMainPage();
+}
+
+void MainWindow::ShowStatus(IotStatus status) {
+    m_ui->header->UpdateStatus(static_cast<int>(status));
+    m_tray->ShowStatus(status);
+    IotStatusChanged(status);
 }
 
 void MainWindow::OnDisconnectWifi(const std::string& ssid) {

@@ -46,6 +46,7 @@ private:
 
     void OnPipeDataReceived(PipeKey key, const std::string& body);
     void OnIotStatus(const IotStatusEntity& entity);
+    void ShowStatus(IotStatus status);
     void OnDisconnectWifi(const std::string& ssid);
     void OnSwitchChannel();
     void OnMenuChanged(int index);

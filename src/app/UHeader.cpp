@@ -30,7 +30,8 @@ UHeader::UHeader(QWidget* parent)
     SetAccessibleRole(m_chip, QAccessible::StatusBar);
 
     auto* chip = new QHBoxLayout(m_chip);
-    chip->setContentsMargins(12, 9, 16, 9);
+    m_chip->setFixedHeight(42);
+    chip->setContentsMargins(12, 0, 16, 0);
     chip->setSpacing(10);
     chip->addWidget(m_dot);
     chip->addWidget(m_statusIcon);
@@ -50,7 +51,7 @@ UHeader::UHeader(QWidget* parent)
     row->setSpacing(14);
     row->addWidget(logo);
     row->addLayout(names, 1);
-    row->addWidget(m_chip);
+    row->addWidget(m_chip, 0, Qt::AlignVCenter);
     row->addWidget(m_end);
 
     auto* column = new QVBoxLayout(this);

@@ -13,6 +13,7 @@ constexpr int Height = 52;
 constexpr int Padding = 16;
 constexpr int IconSize = 24;
 constexpr int MarkSize = 18;
+constexpr int CompactMarkSize = 14;
 constexpr int Gap = 14;
 
 // To assistive technology the menu is a list of tabs of which one is selected.
@@ -99,10 +100,14 @@ void UMenuEntry::paintEvent(QPaintEvent*) {
     const QString token = isChecked() ? QStringLiteral("accentSoftText") : QStringLiteral("text");
     const int iconX = m_compact ? (width() - IconSize) / 2 : Padding;
     ThemeIcon::Get(m_icon, token).paint(&painter, place({iconX, (height() - IconSize) / 2, IconSize, IconSize}));
-    if (isChecked())
-        painter.fillRect(place({0, 14, 4, height() - 28}), Theme::Instance()->Color(QStringLiteral("accent")));
+    if (isChecked()) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(Theme::Instance()->Color(QStringLiteral("accent")));
+        painter.drawRoundedRect(place({5, 15, 4, height() - 30}), 2, 2);
+    }
     if (!m_mark.isEmpty()) {
-        const QRect mark = m_compact ? QRect(width() - MarkSize - 3, 3, MarkSize, MarkSize)
+        const QRect mark = m_compact ? QRect(width() - CompactMarkSize - 3, 3, CompactMarkSize, CompactMarkSize)
                                      : QRect(width() - Padding - MarkSize, (height() - MarkSize) / 2, MarkSize, MarkSize);
         ThemeIcon::Get(m_mark, token).paint(&painter, place(mark));
     }

@@ -32,14 +32,15 @@ URoomPage::URoomPage(QWidget* parent)
     m_rows->setContentsMargins(24, 12, 24, 12);
     m_rows->setHorizontalSpacing(16);
     m_rows->setVerticalSpacing(0);
-    m_rows->setColumnStretch(2, 1);
+    m_rows->setColumnStretch(1, 2);
+    m_rows->setColumnStretch(2, 5);
     m_own->setSpacing(16);
     m_back->hide();
     connect(m_back, &QPushButton::clicked, this, &URoomPage::BackRequested);
 
     auto* title = new QHBoxLayout;
     title->setSpacing(14);
-    title->addWidget(m_icon, 0, Qt::AlignTop);
+    title->addWidget(m_icon);
     title->addWidget(m_title, 1);
 
     auto* content = new QWidget;
@@ -102,6 +103,9 @@ void URoomPage::Refresh() {
         auto* value = MakeLabel("factValue");
         value->setText(fact.value);
         value->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        // A value stands beside its label, whatever script it is written in.
+        value->setAlignment(Qt::AlignVCenter | Qt::AlignAbsolute |
+                            (isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
         m_rows->addWidget(icon, row, 0);
         m_rows->addWidget(label, row, 1);
         m_rows->addWidget(value, row, 2);

@@ -1,6 +1,7 @@
 #include "widgets/Spinner.h"
 
 #include "platform/context/Theme.h"
+#include "widgets/ThemeIcon.h"
 
 #include <QIconEngine>
 #include <QObject>
@@ -63,10 +64,11 @@ QIcon Spinner::Icon() const {
 }
 
 void Spinner::Paint(const State& state, QPainter& painter, const QRectF& rect) {
-    const qreal side = qMin(rect.width(), rect.height());
+    const QRectF square = ThemeIcon::Square(rect);
+    const qreal side = square.width();
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter.translate(rect.center());
+    painter.translate(square.center());
     painter.rotate(state.degrees);
     if (!state.picture.isNull()) {
         state.picture.paint(&painter, QRectF(-side / 2, -side / 2, side, side).toRect());

@@ -25,9 +25,7 @@ QByteArray Colored(const QString& name, const QColor& color) {
 }
 
 void Paint(QPainter& painter, const QRectF& rect, const QString& name, const QColor& color) {
-    const qreal side = qMin(rect.width(), rect.height());
-    QRectF square(0, 0, side, side);
-    square.moveCenter(rect.center());
+    const QRectF square = ThemeIcon::Square(rect);
     painter.save();
     if (PointsInReadingDirection(name) && QGuiApplication::isRightToLeft()) {
         painter.translate(square.center().x() * 2, 0);
@@ -79,6 +77,15 @@ private:
 };
 
 } // namespace
+
+QRectF ThemeIcon::Square(const QRectF& rect) {
+    const qreal side = qMin(rect.width(), rect.height());
+    QRectF square(0, 0, side, side);
+    square.moveCenter(rect.center());
+    if (rect.width() > rect.height())
+        square.moveLeft(QGuiApplication::isRightToLeft() ? rect.right() - side : rect.left());
+    return square;
+}
 
 QIcon ThemeIcon::Get(const QString& name, const Colors& colors) {
     return QIcon(new Engine(name, colors));

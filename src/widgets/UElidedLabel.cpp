@@ -4,6 +4,7 @@
 
 UElidedLabel::UElidedLabel(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
+    Align();
 }
 
 void UElidedLabel::SetText(const QString& text) {
@@ -30,10 +31,17 @@ void UElidedLabel::resizeEvent(QResizeEvent* event) {
 
 void UElidedLabel::changeEvent(QEvent* event) {
     QLabel::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange)
+        Align();
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
         updateGeometry();
         Elide();
     }
+}
+
+// A name stands where the layout wants it, whatever script it is written in.
+void UElidedLabel::Align() {
+    setAlignment(Qt::AlignVCenter | Qt::AlignAbsolute | (isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
 }
 
 void UElidedLabel::Elide() {

@@ -21,6 +21,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    void Align();
     void Elide();
 
     QString m_text;

@@ -22,5 +22,5 @@ protected:
 
 private:
     QBasicTimer m_timer;
-    qreal m_position = 0; // of the running piece, 0 to 1
+    qreal m_position = 0.3; // of the running piece, 0 to 1
 };

@@ -8,15 +8,16 @@
 UTextButton::UTextButton(QWidget* parent) : UTextButton(Look::Secondary, parent) {}
 
 UTextButton::UTextButton(Look look, QWidget* parent) : QPushButton(parent) {
-    setIconSize({24, 24});
+    setIconSize({32, 24}); // the icon, and a gap before the text
     SetLook(look);
 }
 
 void UTextButton::SetLook(Look look) {
     const char* name = QMetaEnum::fromType<Look>().valueToKey(static_cast<int>(look));
     Theme::SetProperty(this, "look", QString::fromLatin1(name));
-    const bool filled = look == Look::Primary || look == Look::Danger;
-    m_spinner.SetColorToken(filled ? QStringLiteral("accentText") : QStringLiteral("text"));
+    m_spinner.SetColorToken(look == Look::Primary  ? QStringLiteral("accentText")
+                            : look == Look::Danger ? QStringLiteral("dangerText")
+                                                   : QStringLiteral("text"));
 }
 
 void UTextButton::SetLoading(bool loading) {

@@ -1,0 +1,235 @@
+#include "gallery/Scenes.h"
+
+#include "app/MainWindow.h"
+#include "app/MenuEntry.h"
+#include "app/UAppearance.h"
+#include "app/ULauncher.h"
+#include "app/UMenu.h"
+#include "controllers/MainController.h"
+#include "gallery/ControlSheet.h"
+#include "lock/UDeviceScreenLock.h"
+#include "platform/context/AppConfigData.h"
+#include "platform/context/AppContextData.h"
+#include "platform/link/PipeClientService.h"
+#include "widgets/UAlert.h"
+#include "widgets/UToast.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QMenu>
+#include <QPushButton>
+#include <QSystemTrayIcon>
+
+namespace {
+
+constexpr QSize DesignSize(1280, 720);
+
+std::string Status(int status) {
+    return "{\"status\": " + std::to_string(status) + "}";
+}
+
+constexpr int Connected = 2;
+constexpr int Disconnected = 4;
+constexpr int Connecting = 5;
+
+void GoTo(Stage& stage, MenuEntry entry) {
+    stage.Window().findChild<UMenu*>()->SwitchTo(static_cast<int>(entry));
+}
+
+Scene Room(const QString& name, MenuEntry entry) {
+    return {name, true, [entry](Stage& stage) {
+                stage.Receive(2, Status(Connected));
+                stage.Receive(46, R"({"liveChannelList": [{"id": 1, "name": "News"}]})");
+                GoTo(stage, entry);
+            }};
+}
+
+Scene Link(const QString& name, int status) {
+    return {name, true, [status](Stage& stage) {
+                stage.Receive(2, Status(status));
+                GoTo(stage, MenuEntry::Network);
+            }};
+}
+
+Scene Toast(const QString& name, UToast::Kind kind, const char* key) {
+    return {name, true, [kind, key](Stage& stage) {
+                stage.Receive(2, Status(Connected));
+                auto* toast = new UToast(&stage.Window());
+                toast->SetKind(kind);
+                toast->SetMessage(QCoreApplication::translate("Scenes", key));
+                toast->show();
+            }};
+}
+
+UAlert* Alert(Stage& stage, const char* title, const char* content) {
+    stage.Receive(2, Status(Connected));
+    auto* alert = new UAlert(&stage.Window());
+    alert->SetTitle(QCoreApplication::translate("Scenes", title));
+    alert->SetContent(QCoreApplication::translate("Scenes", content));
+    return alert;
+}
+
+UDeviceScreenLock& Lock(Stage& stage, const char* body) {
+    auto& lock = stage.Show(std::make_unique<UDeviceScreenLock>());
+    stage.Receive(33, body);
+    lock.setGeometry(QRect(QPoint(), DesignSize));
+    return lock;
+}
+
+QVector<Scene> ShellScenes() {
+    return {
+        {QStringLiteral("launcher"), false, [](Stage&) {}},
+        {QStringLiteral("launcher-narrow"), false,
+         [](Stage& stage) { stage.Window().resize(640, 480); }},
+        Room(QStringLiteral("page-enrolment"), MenuEntry::Enrolment),
+        Room(QStringLiteral("page-features"), MenuEntry::Features),
+        Room(QStringLiteral("page-live-channels"), MenuEntry::LiveChannels),
+        Room(QStringLiteral("page-network"), MenuEntry::Network),
+        Room(QStringLiteral("page-settings"), MenuEntry::Settings),
+        Room(QStringLiteral("page-about"), MenuEntry::About),
+        Room(QStringLiteral("page-feedback"), MenuEntry::Feedback),
+        {QStringLiteral("page-enrolment-not-enrolled"), false,
+         [](Stage& stage) { stage.Window().findChild<ULauncher*>()->EnrolRequested(); }},
+        Link(QStringLiteral("link-connected"), Connected),
+        Link(QStringLiteral("link-connecting"), Connecting),
+        Link(QStringLiteral("link-disconnected"), Disconnected),
+        {QStringLiteral("menu-managed-settings"), true,
+         [](Stage& stage) {
+             stage.Receive(2, Status(Connected));
+             stage.Receive(77, R"({"keyList": ["screenshot"]})");
+         }},
+        {QStringLiteral("menu-compact"), true,
+         [](Stage& stage) {
+             stage.Receive(2, Status(Disconnected));
+             stage.Receive(77, R"({"keyList": ["screenshot"]})");
+             stage.Window().resize(800, 600);
+         }},
+        {QStringLiteral("window-smallest"), true,
+         [](Stage& stage) {
+             stage.Receive(2, Status(Connecting));
+             stage.Window().resize(stage.Window().minimumSize());
+         }},
+        {QStringLiteral("header-long-name"), true,
+         [](Stage& stage) {
+             AppContextData::Instance()->deviceName = "Interactive display in the great lecture hall on the "
+                                                      "second floor of the northern building, left side";
+             stage.Window().UpdateDeviceInfo();
+         }},
+        {QStringLiteral("busy-binding"), true,
+         [](Stage& stage) {
+             stage.Receive(2, Status(Connected));
+             stage.Window().BeginBinding(RyxWindow::BindAction::Bind);
+         }},
+        {QStringLiteral("settings-language-list"), true,
+         [](Stage& stage) {
+             GoTo(stage, MenuEntry::Settings);
+             Settle();
+             auto* box = stage.Window().findChild<QComboBox*>(QStringLiteral("languageBox"));
+             box->showPopup();
+         }},
+        {QStringLiteral("tray-menu"), true,
+         [](Stage& stage) {
+             stage.Receive(2, Status(Connected));
+             QMenu* menu = stage.Window().findChild<QSystemTrayIcon*>()->contextMenu();
+             menu->popup(QPoint());
+         }},
+    };
+}
+
+QVector<Scene> NoticeScenes() {
+    return {
+        {QStringLiteral("toast-wifi"), true, [](Stage& stage) { stage.Receive(74, "Staff network"); }},
+        {QStringLiteral("toast-channel"), true, [](Stage& stage) { stage.Receive(75); }},
+        {QStringLiteral("toast-usb-success"), true,
+         [](Stage& stage) { stage.Window().ShowResult(QStringLiteral("usb_bind_success")); }},
+        {QStringLiteral("toast-usb-failed"), true,
+         [](Stage& stage) { stage.Window().ShowResult(QStringLiteral("usb_bind_failed")); }},
+        Toast(QStringLiteral("toast-long"), UToast::Kind::Info, "launcher_sentence"),
+        {QStringLiteral("alert-tell"), true,
+         [](Stage& stage) { Alert(stage, "menu_mark_disconnected", "network_sentence")->show(); }},
+        {QStringLiteral("alert-ask"), true,
+         [](Stage& stage) {
+             UAlert* alert = Alert(stage, "launcher_button", "launcher_step_code");
+             alert->SetCancelText(QCoreApplication::translate("Scenes", "button_back"));
+             alert->show();
+         }},
+        {QStringLiteral("alert-dangerous"), true,
+         [](Stage& stage) {
+             UAlert* alert = Alert(stage, "status_not_enrolled", "launcher_sentence");
+             alert->SetCancelText(QCoreApplication::translate("Scenes", "button_back"));
+             alert->SetDangerous(true);
+             alert->show();
+         }},
+    };
+}
+
+QVector<Scene> OtherScenes() {
+    return {
+        {QStringLiteral("controls"), true,
+         [](Stage& stage) {
+             auto& sheet = stage.Show(std::make_unique<ControlSheet>());
+             sheet.resize(DesignSize);
+             sheet.show();
+         }},
+        {QStringLiteral("lock-message"), true, [](Stage& stage) { Lock(stage, "{}"); }},
+        {QStringLiteral("lock-message-timed"), true,
+         [](Stage& stage) { Lock(stage, R"({"endAt": "23:59"})"); }},
+        {QStringLiteral("lock-password"), true,
+         [](Stage& stage) {
+             UDeviceScreenLock& lock = Lock(stage, "{}");
+             lock.findChild<QPushButton*>(QStringLiteral("enterPasswordButton"))->click();
+         }},
+    };
+}
+
+} // namespace
+
+Stage::Stage(bool enrolled) : m_controller(std::make_unique<MainController>()) {
+    AppContextData& context = *AppContextData::Instance();
+    context = {};
+    context.enrolled = enrolled;
+    context.linked = true;
+    context.deviceName = "Lecture hall 3";
+    if (enrolled) {
+        context.adminAccount = "admin@school.example";
+        context.schoolCode = "A1B2C3";
+        context.deviceTags = {"second floor", "physics"};
+    }
+    AppConfigData::Instance()->organisation = "Northern Comprehensive School";
+
+    m_controller->SetService(PipeClientService::Instance());
+    const QMap<QString, ControllerBase*> controllers{{QStringLiteral("ryx"), m_controller.get()}};
+    qApp->setProperty("controllers", QVariant::fromValue(controllers));
+    m_window = std::make_unique<MainWindow>();
+    m_window->show();
+    Settle();
+}
+
+Stage::~Stage() {
+    m_other.reset();
+    m_window.reset();
+    qApp->setProperty("controllers", QVariant());
+}
+
+void Stage::Receive(int key, const std::string& body) {
+    PipeClientService::Instance()->Deliver(static_cast<PipeKey>(key), body);
+}
+
+QWidget& Stage::Subject() {
+    if (m_other)
+        return *m_other;
+    if (QWidget* popup = QApplication::activePopupWidget())
+        return *popup;
+    return *m_window;
+}
+
+QVector<Scene> AllScenes() {
+    return ShellScenes() + NoticeScenes() + OtherScenes();
+}
+
+void Settle() {
+    for (int round = 0; round < 3; ++round) {
+        QCoreApplication::sendPostedEvents(nullptr, 0);
+        QCoreApplication::processEvents();
+    }
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QString>
+#include <QVector>
+#include <functional>
+#include <memory>
+#include <string>
+
+class MainController;
+class MainWindow;
+class QWidget;
+
+/// The stage of one picture: a fresh front end without a service, at 1280 x 720 unless a scene changes it.
+class Stage {
+public:
+    /// `enrolled` is what the context says before the window is made.
+    explicit Stage(bool enrolled);
+    ~Stage();
+
+    MainWindow& Window() { return *m_window; }
+
+    /// Feeds a message to everybody, as the service's.
+    void Receive(int key, const std::string& body = {});
+
+    /// Takes a picture of this widget instead of the window; the stage owns it.
+    template <class Widget>
+    Widget& Show(std::unique_ptr<Widget> widget) {
+        Widget& shown = *widget;
+        m_other = std::move(widget);
+        return shown;
+    }
+
+    /// The widget that the picture is of.
+    QWidget& Subject();
+
+private:
+    std::unique_ptr<MainController> m_controller;
+    std::unique_ptr<MainWindow> m_window;
+    std::unique_ptr<QWidget> m_other;
+};
+
+/// Everything a person may see: each page, dialog, notice and state.
+struct Scene {
+    QString name;
+    bool enrolled = true;
+    std::function<void(Stage&)> play;
+};
+
+QVector<Scene> AllScenes();
+
+/// Lets layouts, deferred updates and queued events come to rest.
+void Settle();
