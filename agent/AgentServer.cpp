@@ -125,13 +125,13 @@ void AgentServer::SendTo(int client, PipeKey key, const std::string& body) {
     }
     if (m_clients.count(client) == 0)
         return;
-    Tell(client, "sent " + KeyText(key) + ' ' + SizeText(body.size()));
+    Tell(client, "was sent " + KeyText(key) + ' ' + SizeText(body.size()));
     Write(client, packet);
 }
 
 void AgentServer::SendBytes(const std::string& bytes) {
     for (const int client : Clients()) {
-        Tell(client, "sent " + SizeText(bytes.size()) + " as they stand");
+        Tell(client, "was sent " + SizeText(bytes.size()) + " as they stand");
         Write(client, bytes);
     }
 }
