@@ -2,8 +2,11 @@
 
 #include <QAccessibleWidget>
 #include <QVariant>
+#include <utility>
 
 namespace {
+
+AnnouncementObserver s_observer = nullptr;
 
 constexpr char RoleProperty[] = "accessibleRole";
 
@@ -29,4 +32,10 @@ void SetAccessibleRole(QWidget* widget, QAccessible::Role role) {
 void AnnounceAlert(QWidget* widget) {
     QAccessibleEvent event(widget, QAccessible::Alert);
     QAccessible::updateAccessibility(&event);
+    if (s_observer)
+        s_observer(widget);
+}
+
+AnnouncementObserver ObserveAnnouncements(AnnouncementObserver observer) {
+    return std::exchange(s_observer, observer);
 }

@@ -17,8 +17,7 @@ NoticeQueue::NoticeQueue(QWidget* window) : QObject(window) {}
 
 void NoticeQueue::Add(QWidget* notice, std::function<void()> present) {
     m_waiting.append({notice, std::move(present)});
-    // A notice that is destroyed makes room for the next like one that is over.
-    connect(notice, &QObject::destroyed, this, &NoticeQueue::PresentNext, Qt::UniqueConnection);
+    connect(notice, &QObject::destroyed, this, &NoticeQueue::Forget, Qt::UniqueConnection);
     PresentNext();
 }
 
@@ -29,7 +28,15 @@ void NoticeQueue::Finish(QWidget* notice) {
     PresentNext();
 }
 
-void NoticeQueue::Withdraw(const QWidget* notice) {
+// A widget says that it is destroyed while guarded pointers to it still hold.
+void NoticeQueue::Forget(const QObject* notice) {
+    Withdraw(notice);
+    if (m_current == notice)
+        m_current = nullptr;
+    PresentNext();
+}
+
+void NoticeQueue::Withdraw(const QObject* notice) {
     m_waiting.erase(std::remove_if(m_waiting.begin(), m_waiting.end(),
                                    [&](const Entry& entry) { return entry.notice == notice; }),
                     m_waiting.end());

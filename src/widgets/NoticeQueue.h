@@ -21,7 +21,7 @@ public:
     void Finish(QWidget* notice);
 
     /// Takes back what of `notice` still waits.
-    void Withdraw(const QWidget* notice);
+    void Withdraw(const QObject* notice);
 
     bool IsWaiting(const QWidget* notice) const;
 
@@ -33,6 +33,7 @@ private:
 
     explicit NoticeQueue(QWidget* window);
     void PresentNext();
+    void Forget(const QObject* notice);
 
     QVector<Entry> m_waiting;
     QPointer<QWidget> m_current;
