@@ -31,7 +31,7 @@ Number FromText(const std::string& text, const std::string& name) {
 /// jsoncpp lets the first number past the end through, and casting it is undefined.
 void CheckBelow(const Json::Value& value, double limit, const char* message) {
     if (value.type() == Json::realValue && value.asDouble() >= limit)
-        Json::throwLogicError(message);
+        throw Json::LogicError(message);
 }
 
 } // namespace
