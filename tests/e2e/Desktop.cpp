@@ -1,0 +1,237 @@
+#include "Desktop.h"
+
+#include <QDir>
+#include <stdexcept>
+
+// Behind Qt's headers: X.h defines common words as macros.
+#include <X11/XKBlib.h>
+#include <X11/Xatom.h>
+#include <X11/Xlib.h>
+#include <X11/Xutil.h>
+#include <X11/extensions/XTest.h>
+
+namespace {
+
+constexpr int ScreenWidth = 1280;
+constexpr int ScreenHeight = 800;
+
+/// Windows may go while they are looked at; that is no error here.
+int IgnoreError(::Display*, XErrorEvent*) {
+    return 0;
+}
+
+} // namespace
+
+Desktop::Desktop(const std::string& display) : m_name(display) {
+    if (m_name.empty())
+        StartScreen();
+    XSetErrorHandler(IgnoreError);
+    m_display = XOpenDisplay(m_name.c_str());
+    if (!m_display)
+        throw std::runtime_error("no X display " + m_name);
+    int ignored = 0;
+    if (!XTestQueryExtension(m_display, &ignored, &ignored, &ignored, &ignored))
+        throw std::runtime_error("the X display " + m_name + " has no XTEST extension");
+    if (display.empty())
+        StartWindowManager();
+}
+
+Desktop::~Desktop() {
+    if (m_display)
+        XCloseDisplay(m_display);
+}
+
+void Desktop::StartScreen() {
+    // The server itself finds a free number and tells it on its standard output.
+    const std::string size = std::to_string(ScreenWidth) + 'x' + std::to_string(ScreenHeight) + "x24";
+    m_screen.Start({"Xvfb", "-displayfd", "1", "-screen", "0", size, "-nolisten", "tcp", "-noreset"});
+    const bool started = WaitUntil(
+        [this] { return m_screen.Output().find('\n') != std::string::npos || !m_screen.IsRunning(); });
+    const std::string& number = m_screen.Output();
+    if (!started || number.find('\n') == std::string::npos)
+        throw std::runtime_error("Xvfb did not start");
+    m_name = ':' + number.substr(0, number.find('\n'));
+}
+
+void Desktop::StartWindowManager() {
+    m_windowManager.Start({"openbox", "--sm-disable"}, {"DISPLAY=" + m_name});
+    const auto manages = [this] {
+        unsigned char* value = nullptr;
+        ::Atom type = 0;
+        int format = 0;
+        unsigned long count = 0, left = 0;
+        XGetWindowProperty(m_display, DefaultRootWindow(m_display), AtomOf("_NET_SUPPORTING_WM_CHECK"), 0, 1,
+                           False, XA_WINDOW, &type, &format, &count, &left, &value);
+        if (value)
+            XFree(value);
+        return count == 1;
+    };
+    if (!WaitUntil([&] { return manages() || !m_windowManager.IsRunning(); }) || !manages())
+        throw std::runtime_error("openbox did not start");
+}
+
+QSize Desktop::Size() const {
+    const int screen = DefaultScreen(m_display);
+    return {DisplayWidth(m_display, screen), DisplayHeight(m_display, screen)};
+}
+
+unsigned long Desktop::AtomOf(const char* name) const {
+    return XInternAtom(m_display, name, False);
+}
+
+std::string Desktop::Title(unsigned long window) const {
+    for (const char* property : {"_NET_WM_NAME", "WM_NAME"}) {
+        XTextProperty text{};
+        if (!XGetTextProperty(m_display, window, &text, AtomOf(property)) || !text.value)
+            continue;
+        const std::string title(reinterpret_cast<char*>(text.value), text.nitems);
+        XFree(text.value);
+        if (!title.empty())
+            return title;
+    }
+    return {};
+}
+
+std::vector<DesktopWindow> Desktop::Windows() const {
+    std::vector<DesktopWindow> windows;
+    AddWindows(DefaultRootWindow(m_display), windows);
+    return windows;
+}
+
+void Desktop::AddWindows(unsigned long parent, std::vector<DesktopWindow>& windows) const {
+    ::Window root = 0, parentOfParent = 0;
+    ::Window* children = nullptr;
+    unsigned int count = 0;
+    if (!XQueryTree(m_display, parent, &root, &parentOfParent, &children, &count))
+        return;
+    for (unsigned int i = 0; i < count; ++i) {
+        const std::string title = Title(children[i]);
+        XWindowAttributes attributes{};
+        if (title.empty()) {
+            AddWindows(children[i], windows); // a window manager's frame
+        } else if (XGetWindowAttributes(m_display, children[i], &attributes)) {
+            int x = 0, y = 0;
+            ::Window ignored = 0;
+            XTranslateCoordinates(m_display, children[i], root, 0, 0, &x, &y, &ignored);
+            windows.push_back({children[i], title, QRect(x, y, attributes.width, attributes.height),
+                               attributes.map_state == IsViewable});
+        }
+    }
+    if (children)
+        XFree(children);
+}
+
+std::optional<DesktopWindow> Desktop::Find(const std::string& title) const {
+    std::optional<DesktopWindow> found;
+    for (const DesktopWindow& window : Windows())
+        if (window.viewable && window.title == title)
+            found = window;
+    return found;
+}
+
+bool Desktop::WaitForWindow(const std::string& title) const {
+    return WaitUntil([&] { return Find(title).has_value(); });
+}
+
+bool Desktop::WaitForNoWindow(const std::string& title) const {
+    return WaitUntil([&] { return !Find(title).has_value(); });
+}
+
+QImage Desktop::Screenshot() const {
+    const QSize size = Size();
+    XImage* picture =
+        XGetImage(m_display, DefaultRootWindow(m_display), 0, 0, static_cast<unsigned>(size.width()),
+                  static_cast<unsigned>(size.height()), AllPlanes, ZPixmap);
+    if (!picture)
+        throw std::runtime_error("the screen cannot be read");
+    const QImage image = QImage(reinterpret_cast<uchar*>(picture->data), size.width(), size.height(),
+                                picture->bytes_per_line, QImage::Format_RGB32)
+                             .copy();
+    XDestroyImage(picture);
+    return image;
+}
+
+void Desktop::MoveMouse(const QPoint& place) {
+    XTestFakeMotionEvent(m_display, DefaultScreen(m_display), place.x(), place.y(), CurrentTime);
+    XSync(m_display, False);
+}
+
+void Desktop::Click(const QPoint& place) {
+    MoveMouse(place);
+    XTestFakeButtonEvent(m_display, Button1, True, CurrentTime);
+    XTestFakeButtonEvent(m_display, Button1, False, CurrentTime);
+    XSync(m_display, False);
+}
+
+void Desktop::Key(const std::string& name, bool down) {
+    const KeySym symbol = XStringToKeysym(name.c_str());
+    const KeyCode code = symbol == NoSymbol ? KeyCode(0) : XKeysymToKeycode(m_display, symbol);
+    if (code == 0)
+        throw std::runtime_error("the keyboard has no key " + name);
+    XTestFakeKeyEvent(m_display, code, down ? True : False, CurrentTime);
+}
+
+void Desktop::Press(const std::string& key, const std::vector<std::string>& held) {
+    for (const std::string& name : held)
+        Key(name, true);
+    Key(key, true);
+    Key(key, false);
+    for (auto name = held.rbegin(); name != held.rend(); ++name)
+        Key(*name, false);
+    XSync(m_display, False);
+}
+
+void Desktop::Type(const std::string& text) {
+    for (const char character : text)
+        Press(std::string(1, character));
+}
+
+void Desktop::SendToRoot(unsigned long window, const char* message, long first, long second, long third) {
+    XEvent event{};
+    event.xclient.type = ClientMessage;
+    event.xclient.window = window;
+    event.xclient.message_type = AtomOf(message);
+    event.xclient.format = 32;
+    event.xclient.data.l[0] = first;
+    event.xclient.data.l[1] = second;
+    event.xclient.data.l[2] = third;
+    XSendEvent(m_display, DefaultRootWindow(m_display), False,
+               SubstructureNotifyMask | SubstructureRedirectMask, &event);
+    XSync(m_display, False);
+}
+
+void Desktop::Close(const DesktopWindow& window) {
+    constexpr long fromPager = 2;
+    SendToRoot(window.id, "_NET_CLOSE_WINDOW", CurrentTime, fromPager, 0);
+}
+
+void Desktop::Activate(const DesktopWindow& window) {
+    constexpr long fromPager = 2;
+    SendToRoot(window.id, "_NET_ACTIVE_WINDOW", fromPager, CurrentTime, 0);
+}
+
+void Desktop::ShowForeignWindow(const std::string& title, const QRect& place, bool onTop) {
+    const int screen = DefaultScreen(m_display);
+    const ::Window window = XCreateSimpleWindow(m_display, RootWindow(m_display, screen), place.x(),
+                                                place.y(), static_cast<unsigned>(place.width()),
+                                                static_cast<unsigned>(place.height()), 0, 0, 0xff00ff);
+    XStoreName(m_display, window, title.c_str());
+    XSizeHints hints{};
+    hints.flags = USPosition | USSize;
+    XSetWMNormalHints(m_display, window, &hints);
+    if (onTop) {
+        const ::Atom above = AtomOf("_NET_WM_STATE_ABOVE");
+        XChangeProperty(m_display, window, AtomOf("_NET_WM_STATE"), XA_ATOM, 32, PropModeReplace,
+                        reinterpret_cast<const unsigned char*>(&above), 1);
+    }
+    XMapRaised(m_display, window);
+    XSync(m_display, False);
+    m_foreignWindows.push_back(window);
+}
+
+void Desktop::CloseForeignWindows() {
+    for (const unsigned long window : m_foreignWindows)
+        XDestroyWindow(m_display, window);
+    XSync(m_display, False);
+    m_foreignWindows.clear();
+}

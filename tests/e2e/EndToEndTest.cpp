@@ -1,0 +1,285 @@
+// The two real programs over the real pipe, under an X server with real key and mouse events: what a
+// person at the device and the agent service see of each other.
+#include "RunningProduct.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <csignal>
+#include <gtest/gtest.h>
+#include <memory>
+#include <unistd.h>
+
+namespace {
+
+bool RunsUnderLauncher() {
+    return qEnvironmentVariableIsSet("RYX_E2E_LAUNCHER");
+}
+
+class EndToEndTest : public testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        const QByteArray given = qgetenv("RYX_E2E_DISPLAY");
+        screen = std::make_unique<Desktop>(given.toStdString());
+    }
+    static void TearDownTestSuite() { screen.reset(); }
+
+    void SetUp() override {
+        // Away from everything that could be hovered over.
+        screen->MoveMouse({screen->Size().width() - 1, screen->Size().height() / 2});
+        product = std::make_unique<RunningProduct>(*screen);
+    }
+
+    void TearDown() override {
+        if (HasFailure()) {
+            const auto* test = testing::UnitTest::GetInstance()->current_test_info();
+            const QString picture =
+                QDir::current().filePath(QStringLiteral("e2e-%1.png").arg(QLatin1String(test->name())));
+            screen->Screenshot().save(picture);
+            std::string windows;
+            for (const DesktopWindow& window : screen->Windows())
+                windows += window.title + (window.viewable ? " (viewable)\n" : "\n");
+            ADD_FAILURE() << product->Story() << "The windows:\n"
+                          << windows << "The screen: " << picture.toStdString();
+        }
+        product.reset();
+        screen->CloseForeignWindows();
+    }
+
+    std::string TopmostTitle() {
+        std::string title;
+        for (const DesktopWindow& window : screen->Windows())
+            if (window.viewable && window.place.intersects(QRect(QPoint(0, 0), screen->Size())))
+                title = window.title;
+        return title;
+    }
+
+    bool IsHidden() {
+        return screen->WaitForNoWindow(RunningProduct::MainTitle) && product->FrontEnd().IsRunning();
+    }
+
+    static std::unique_ptr<Desktop> screen;
+    std::unique_ptr<RunningProduct> product;
+};
+
+std::unique_ptr<Desktop> EndToEndTest::screen;
+
+TEST_F(EndToEndTest, StatusOfTheServiceIsShown) {
+    ASSERT_TRUE(product->StartBoth());
+    product->Tell("status disconnected");
+    EXPECT_TRUE(product->WaitForStatus(RunningProduct::Disconnected));
+    product->Tell("status connecting");
+    EXPECT_TRUE(product->WaitForStatus(RunningProduct::Connecting));
+    product->Tell("status not-enrolled");
+    EXPECT_TRUE(product->WaitForStatus(RunningProduct::NotEnrolled));
+}
+
+TEST_F(EndToEndTest, RightDigitsUnlockAfterWrongOnes) {
+    ASSERT_TRUE(product->StartBoth());
+    product->Tell("lock");
+    ASSERT_TRUE(product->OpenPasswordBoxes());
+    const auto firstBox = product->FocusedBox();
+
+    screen->Type("65432");
+    EXPECT_TRUE(WaitUntil([&] { return product->FocusedBox() > *firstBox + 100; }));
+    screen->Type("1");
+    // Shaken to rest, with the focus back in the first box and the lock still there.
+    EXPECT_TRUE(WaitUntil([&] { return product->FocusedBox() == firstBox; }));
+    EXPECT_EQ(product->AgentLines("received 35"), 0);
+
+    // A slip and its correction.
+    screen->Type("129");
+    screen->Press("BackSpace");
+    screen->Press("BackSpace");
+    screen->Type("23456");
+    EXPECT_TRUE(product->AgentSays("received 35 ScreenUnlock 0 bytes"));
+    EXPECT_TRUE(product->WaitForNoLock());
+    EXPECT_TRUE(product->WaitForStatus(RunningProduct::Connected)); // the desktop is back
+}
+
+TEST_F(EndToEndTest, TimedLockHoldsUntilItsEndAndAPastEndDoesNotLock) {
+    ASSERT_TRUE(product->StartBoth());
+    product->Tell("lock 00:00");
+    ASSERT_TRUE(product->WaitForLog("Screen lock still time: 00:00"));
+    product->Tell("status disconnected");
+    ASSERT_TRUE(product->WaitForStatus(RunningProduct::Disconnected)); // so the lock was dealt with before
+    EXPECT_FALSE(screen->Find(RunningProduct::LockTitle));
+
+    product->Tell("lock 23:59");
+    ASSERT_TRUE(product->OpenPasswordBoxes());
+    EXPECT_TRUE(product->WaitForLog("Screen lock still time: 23:59"));
+    screen->Type("123456");
+    EXPECT_TRUE(product->AgentSays("received 35 ScreenUnlock"));
+    EXPECT_TRUE(product->WaitForNoLock());
+}
+
+TEST_F(EndToEndTest, TheServiceReleasesTheLock) {
+    ASSERT_TRUE(product->StartBoth());
+    for (const char* command : {"unlock", "reset"}) {
+        SCOPED_TRACE(command);
+        product->Tell("lock");
+        ASSERT_TRUE(product->WaitForLock());
+        product->Tell(command);
+        EXPECT_TRUE(product->WaitForNoLock());
+    }
+    EXPECT_EQ(product->AgentLines("received 35"), 0);
+}
+
+TEST_F(EndToEndTest, ANewPasswordCountsAtOnce) {
+    ASSERT_TRUE(product->StartBoth());
+    product->Tell("lock");
+    ASSERT_TRUE(product->OpenPasswordBoxes());
+    const auto firstBox = product->FocusedBox();
+    product->Tell("password 000000");
+    ASSERT_TRUE(product->WaitForLog("UDeviceScreenLock::OnPipeDataReceived Unlock password update: ", 2));
+    screen->Type("123456");
+    EXPECT_TRUE(WaitUntil([&] { return product->FocusedBox() == firstBox; }));
+    screen->Type("000000");
+    EXPECT_TRUE(product->AgentSays("received 35 ScreenUnlock"));
+    EXPECT_TRUE(product->WaitForNoLock());
+}
+
+TEST_F(EndToEndTest, TheLockStaysAboveEverythingAndAgainstEveryAttempt) {
+    screen->ShowForeignWindow("Foreign", QRect(100, 100, 900, 500), true);
+    ASSERT_TRUE(screen->WaitForWindow("Foreign"));
+    ASSERT_TRUE(product->StartBoth());
+    product->Tell("lock");
+    ASSERT_TRUE(product->WaitForLock());
+
+    screen->ShowForeignWindow("Later", QRect(300, 200, 400, 300), true);
+    ASSERT_TRUE(screen->WaitForWindow("Later"));
+    for (const char* title : {"Foreign", "Later", RunningProduct::MainTitle})
+        screen->Activate(*screen->Find(title));
+    screen->Press("F4", {"Alt_L"});
+    screen->Press("Tab", {"Alt_L"});
+    screen->Press("Escape");
+    screen->Close(*screen->Find(RunningProduct::LockTitle));
+
+    EXPECT_TRUE(product->WaitForLock()); // the whole screen shows it
+    EXPECT_EQ(TopmostTitle(), RunningProduct::LockTitle);
+    EXPECT_TRUE(product->FrontEnd().IsRunning());
+
+    // And the keyboard is still the lock's.
+    ASSERT_TRUE(product->OpenPasswordBoxes());
+    screen->Type("123456");
+    EXPECT_TRUE(product->AgentSays("received 35 ScreenUnlock"));
+    EXPECT_TRUE(product->WaitForNoLock());
+}
+
+TEST_F(EndToEndTest, ARestartedServiceIsFoundAgain) {
+    ASSERT_TRUE(product->StartBoth());
+    product->Agent().Kill();
+    ASSERT_TRUE(product->StartAgent());
+    EXPECT_TRUE(product->AgentSays("client 1 connected"));
+    EXPECT_TRUE(product->AgentSays("received 0 ContextRequest 0 bytes"));
+    EXPECT_TRUE(product->AgentSays("received 12 OtaVersionInfo 0 bytes"));
+
+    product->Tell("drop");
+    EXPECT_TRUE(product->AgentSays("client 2 received 0 ContextRequest 0 bytes"));
+    product->Tell("raw ffffffff 02000000");
+    EXPECT_TRUE(product->AgentSays("client 3 received 0 ContextRequest 0 bytes"));
+    EXPECT_EQ(product->LogLines("a frame claims 4294967295 bytes"), 1);
+
+    // A lock outlives the service that asked for it.
+    product->Tell("lock");
+    ASSERT_TRUE(product->WaitForLock());
+    product->Agent().Kill();
+    ASSERT_TRUE(product->StartAgent());
+    EXPECT_TRUE(product->AgentSays("received 12 OtaVersionInfo"));
+    ASSERT_TRUE(product->OpenPasswordBoxes());
+    screen->Type("123456");
+    EXPECT_TRUE(product->AgentSays("received 35 ScreenUnlock"));
+}
+
+TEST_F(EndToEndTest, ABodyOfTheWrongTypeIsLoggedAndTheNextOneArrives) {
+    ASSERT_TRUE(product->StartBoth());
+    product->Tell("send IotStatusNotify {\"status\": []}");
+    product->Tell("send ScreenLock {\"endAt\": {}}");
+    product->Tell("send 12345 anything");
+    product->Tell("status disconnected");
+    EXPECT_TRUE(product->WaitForStatus(RunningProduct::Disconnected));
+    EXPECT_TRUE(product->WaitForLog("key 2 (IotStatusNotify) refused by MainController: "));
+    EXPECT_TRUE(product->WaitForLog("key 33 (ScreenLock) refused by UDeviceScreenLock: "));
+    EXPECT_FALSE(screen->Find(RunningProduct::LockTitle));
+}
+
+TEST_F(EndToEndTest, ClosingTheWindowHidesItAndASecondStartShowsIt) {
+    ASSERT_TRUE(product->StartBoth());
+    screen->Close(*screen->Find(RunningProduct::MainTitle));
+    ASSERT_TRUE(IsHidden());
+
+    EXPECT_EQ(product->StartAgain({"-hide"}), 0);
+    EXPECT_TRUE(product->WaitForLog("Other instance commandline: -hide\n"));
+    EXPECT_EQ(product->StartAgain({"a", "b c"}), 0);
+    EXPECT_TRUE(product->WaitForLog("Other instance commandline: a b c\n"));
+    EXPECT_FALSE(screen->Find(RunningProduct::MainTitle));
+
+    EXPECT_EQ(product->StartAgain(), 0);
+    EXPECT_TRUE(screen->WaitForWindow(RunningProduct::MainTitle));
+    EXPECT_TRUE(product->WaitForStatus(RunningProduct::Connected));
+    EXPECT_EQ(product->AgentLines(" connected"), 1); // and nobody else ever came to the service
+}
+
+TEST_F(EndToEndTest, StartedHiddenTheWindowIsNeverSeenUntilASecondStart) {
+    ASSERT_TRUE(product->StartAgent());
+    product->StartFrontEnd({"-hide"});
+    bool seen = false;
+    const bool linked = WaitUntil([&] {
+        seen = seen || screen->Find(RunningProduct::MainTitle).has_value();
+        return product->AgentLines("received 12 OtaVersionInfo") > 0;
+    });
+    ASSERT_TRUE(linked);
+    // Messages reach the hidden window's process, and the lock shows without it.
+    product->Tell("lock");
+    ASSERT_TRUE(product->WaitForLock());
+    product->Tell("unlock");
+    ASSERT_TRUE(product->WaitForNoLock());
+    EXPECT_FALSE(seen || screen->Find(RunningProduct::MainTitle));
+
+    EXPECT_EQ(product->StartAgain(), 0);
+    EXPECT_TRUE(product->WaitForStatus(RunningProduct::Connected));
+}
+
+TEST_F(EndToEndTest, AKilledFrontEndDoesNotHinderTheNext) {
+    ASSERT_TRUE(product->StartBoth());
+    product->Tell("lock");
+    ASSERT_TRUE(product->WaitForLock());
+    product->FrontEnd().Kill();
+    ASSERT_TRUE(product->AgentSays("client 1 disconnected"));
+    product->StartFrontEnd();
+    EXPECT_TRUE(product->AgentSays("client 2 received 0 ContextRequest"));
+    EXPECT_TRUE(product->WaitForStatus(RunningProduct::Connected));
+    EXPECT_EQ(product->LogLines("application is already running!"), 0);
+}
+
+TEST_F(EndToEndTest, AnImpostorIsRefusedAndToldNothing) {
+    if (RunsUnderLauncher())
+        GTEST_SKIP() << "a second account is needed";
+    product->Configure("agentAccount", "daemon");
+    std::vector<std::string> asAnother;
+    if (::geteuid() == 0) {
+        asAnother = {"setpriv", "--reuid=nobody", "--regid=nogroup", "--clear-groups", "--pdeathsig=KILL"};
+        // Another user may not be able to reach this build's folder.
+        const QString copy = QString::fromStdString(product->Folder()) + QStringLiteral("/agent");
+        ASSERT_TRUE(QFile::copy(QStringLiteral(RYX_BIN_DIR "/ryx-agent"), copy));
+        qputenv("RYX_E2E_AGENT", copy.toLocal8Bit());
+    }
+    const bool started = product->StartAgent({}, asAnother);
+    qunsetenv("RYX_E2E_AGENT");
+    ASSERT_TRUE(started);
+    product->StartFrontEnd();
+
+    EXPECT_TRUE(product->AgentSays("client 3 connected")); // it keeps trying
+    EXPECT_EQ(product->AgentLines("received"), 0);
+    EXPECT_EQ(product->LogLines("is served by"), 1);
+    EXPECT_TRUE(screen->WaitForWindow(RunningProduct::MainTitle));
+    EXPECT_FALSE(product->ShowsStatus(RunningProduct::Connected));
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
