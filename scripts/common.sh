@@ -40,9 +40,12 @@ DESKTOP_PACKAGES=(xvfb openbox fonts-noto-core fonts-noto-cjk)
 
 # build PRESET [TARGET...]: configures and builds a preset, both cores busy.
 build() {
-    local preset=$1
+    local preset=$1 log="$ROOT/build/$1.configure.log"
     shift
-    (cd "$ROOT" && cmake --preset "$preset" >"$ROOT/build/$preset.configure.log" 2>&1) ||
-        { mkdir -p "$ROOT/build"; cat "$ROOT/build/$preset.configure.log" >&2; fail "configuring $preset failed"; }
+    mkdir -p "$ROOT/build"
+    if ! (cd "$ROOT" && cmake --preset "$preset" >"$log" 2>&1); then
+        cat "$log" >&2
+        fail "configuring $preset failed"
+    fi
     cmake --build "$ROOT/build/$preset" ${1:+--target "$@"}
 }

@@ -4,9 +4,9 @@
 #include "platform/link/PipeSendEvent.h"
 #include "support/FakeService.h"
 
-#include <QThread>
 #include <QtTest>
 #include <gtest/gtest.h>
+#include <thread>
 
 TEST(PopupsController, SendsWhatOtherThreadsPostAndLetsOthersWatch) {
     FakeService service;
@@ -25,19 +25,17 @@ TEST(PopupsController, SendsWhatOtherThreadsPostAndLetsOthersWatch) {
         }
         int seen = 0;
     } watcher;
-    PopupsController later; // a filter installed after another is asked before it
     QCoreApplication::instance()->installEventFilter(&watcher);
 
     IotStatusEntity entity;
     entity.status = 4;
-    const std::unique_ptr<QThread> thread(QThread::create([entity]() mutable {
+    std::thread thread([entity]() mutable {
         QCoreApplication::postEvent(QCoreApplication::instance(),
                                     new PipeSendEvent(PipeKey::PopupDetected, entity));
-    }));
-    thread->start();
+    });
     const FrameDecoder::Frame frame = service.Receive();
     EXPECT_EQ(frame.key, PipeKey::PopupDetected);
     EXPECT_EQ(frame.body, entity.WriteToString());
     EXPECT_EQ(watcher.seen, 1);
-    thread->wait();
+    thread.join();
 }

@@ -46,7 +46,7 @@ TEST(SystemContract, FoldersAreAbsoluteAndAnsiKeepsPlainText) {
     EXPECT_TRUE(QDir::isAbsolutePath(system.LogFolder()));
     EXPECT_NE(system.ConfigurationFolder(), system.LogFolder());
     EXPECT_EQ(system.ToAnsi(L"C:/logs/ryx 1"), "C:/logs/ryx 1");
-    EXPECT_EQ(system.ToAnsi(L""), "");
+    EXPECT_EQ(system.ToAnsi(std::wstring()), "");
 }
 
 TEST(SystemContract, HResultErrorTellsCodeAndHasWords) {
@@ -62,11 +62,10 @@ TEST(SystemContract, DesktopActsLeaveGeometryAlone) {
     const SystemDesktop& system = SystemDesktop::Native();
     QWidget window;
     window.setGeometry(40, 50, 300, 200);
-    const quintptr style = system.HideFromTaskbar(window.winId());
+    system.RestoreTaskbarStyle(window.winId(), system.HideFromTaskbar(window.winId()));
     window.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
     const QRect before = window.geometry();
-    system.RestoreTaskbarStyle(window.winId(), style);
     system.RaiseTopmost(window.winId());
     QCoreApplication::processEvents();
     EXPECT_EQ(window.geometry(), before);

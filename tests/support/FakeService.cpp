@@ -31,8 +31,12 @@ void FakeService::Write(const std::string& bytes) {
 }
 
 void FakeService::Drop() {
-    if (m_socket)
-        m_socket->disconnectFromServer();
+    if (!m_socket)
+        return;
+    // On Windows a socket that is closed with bytes still unwritten may use its writer after its end.
+    while (m_socket->bytesToWrite() > 0 && m_socket->waitForBytesWritten(1000)) {
+    }
+    m_socket->disconnectFromServer();
 }
 
 void FakeService::StopReading() {
