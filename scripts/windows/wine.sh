@@ -69,9 +69,10 @@ start_wine() {
     openbox --sm-disable > "$wine_dir/openbox.log" 2>&1 &
     disown
 
-    # No .NET and no HTML engine, so that Wine does not offer to download them; no entries in the desktop's menu.
+    # No .NET and no HTML engine, so that Wine does not offer to download them; no entries in the desktop's menu;
+    # no debugger, whose dialog would keep a crashed program waiting for a click.
     export WINEPREFIX="$wine_dir/prefix" WINEARCH=win64 WINEDEBUG="${WINEDEBUG:--all}"
-    export WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe=d"
+    export WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe=d;winedbg.exe=d"
     run_limited 120 wineboot --init > "$wine_dir/wineboot.log" 2>&1 || {
         cat "$wine_dir/wineboot.log" >&2
         fail "The Wine prefix could not be made."
