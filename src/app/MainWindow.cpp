@@ -18,7 +18,7 @@
 namespace {
 
 constexpr int NarrowestWithMenuNames = 900;
-constexpr QSize SmallestWindow(560, 340);
+constexpr QSize SmallestWindow(600, 340);
 
 // Results that pages report, and how they end. Named here so that each has its wording.
 struct Result {
@@ -34,7 +34,9 @@ constexpr Result Results[] = {
 
 MainWindow::MainWindow()
     // The exit button comes before the form, for it stands in the header: the Tab key goes there first.
-    : m_ui(std::make_unique<Ui::MainWindow>()), m_exit(new UExitButton(this)), m_tray(new UTrayIcon(this)),
+    : m_ui(std::make_unique<Ui::MainWindow>()),
+      m_exit(new UExitButton(this)),
+      m_tray(new UTrayIcon(this)),
       m_toast(new UToast(this)) {
     m_ui->setupUi(this);
     m_formStyleSheet = styleSheet();
@@ -131,7 +133,8 @@ void MainWindow::ShowStatus(IotStatus status) {
 void MainWindow::OnDisconnectWifi(const std::string& ssid) {
     m_toast->SetKind(UToast::Kind::Warning);
     Notify(tr("toast_wifi_composition")
-               .arg(tr("Unable to connect to"), QString::fromStdString(ssid), tr("Please contact IT administrator")));
+               .arg(tr("Unable to connect to"), QString::fromStdString(ssid),
+                    tr("Please contact IT administrator")));
 }
 
 void MainWindow::OnSwitchChannel() {

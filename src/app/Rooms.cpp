@@ -42,7 +42,8 @@ RoomFact Organisation() {
     const AppContextData& context = *AppContextData::Instance();
     const std::string& configured = AppConfigData::Instance()->organisation;
     return {QStringLiteral("organisation"), tr("fact_organisation"),
-            context.enrolled ? OrNone(configured.empty() ? context.schoolCode : configured) : tr("fact_none")};
+            context.enrolled ? OrNone(configured.empty() ? context.schoolCode : configured)
+                             : tr("fact_none")};
 }
 
 QString Tags() {
@@ -75,37 +76,52 @@ URoomPage* MakePage(const RoomContent& content, QWidget* parent,
 }
 
 QWidget* MakeEnrolment(QWidget* parent) {
-    return MakePage({"enrolment", QT_TRANSLATE_NOOP("URoomPage", "enrolment_title"),
-                     QT_TRANSLATE_NOOP("URoomPage", "enrolment_sentence"), "", {}},
-                    parent, [](const QWidget* page) {
-                        const AppContextData& context = *AppContextData::Instance();
-                        return QVector<RoomFact>{
-                            DeviceName(),
-                            LinkState(page),
-                            Organisation(),
-                            {QStringLiteral("account"), tr("fact_administrator"), OrNone(context.adminAccount)},
-                            {QStringLiteral("tag"), tr("fact_tags"), Tags()},
-                        };
-                    });
+    return MakePage(
+        {"enrolment",
+         QT_TRANSLATE_NOOP("URoomPage", "enrolment_title"),
+         QT_TRANSLATE_NOOP("URoomPage", "enrolment_sentence"),
+         "",
+         {}},
+        parent, [](const QWidget* page) {
+            const AppContextData& context = *AppContextData::Instance();
+            return QVector<RoomFact>{
+                DeviceName(),
+                LinkState(page),
+                Organisation(),
+                {QStringLiteral("account"), tr("fact_administrator"), OrNone(context.adminAccount)},
+                {QStringLiteral("tag"), tr("fact_tags"), Tags()},
+            };
+        });
 }
 
 QWidget* MakeFeatures(QWidget* parent) {
-    return MakePage({"features", QT_TRANSLATE_NOOP("URoomPage", "features_title"),
+    return MakePage({"features",
+                     QT_TRANSLATE_NOOP("URoomPage", "features_title"),
                      QT_TRANSLATE_NOOP("URoomPage", "features_sentence"),
-                     QT_TRANSLATE_NOOP("URoomPage", "room_note_nothing"), {}},
-                    parent, [](const QWidget* page) { return QVector<RoomFact>{LinkState(page), Organisation()}; });
+                     QT_TRANSLATE_NOOP("URoomPage", "room_note_nothing"),
+                     {}},
+                    parent, [](const QWidget* page) {
+                        return QVector<RoomFact>{LinkState(page), Organisation()};
+                    });
 }
 
 QWidget* MakeLiveChannels(QWidget* parent) {
-    return MakePage({"live", QT_TRANSLATE_NOOP("URoomPage", "live_title"),
+    return MakePage({"live",
+                     QT_TRANSLATE_NOOP("URoomPage", "live_title"),
                      QT_TRANSLATE_NOOP("URoomPage", "live_sentence"),
-                     QT_TRANSLATE_NOOP("URoomPage", "room_note_nothing"), {}},
-                    parent, [](const QWidget* page) { return QVector<RoomFact>{LinkState(page), Organisation()}; });
+                     QT_TRANSLATE_NOOP("URoomPage", "room_note_nothing"),
+                     {}},
+                    parent, [](const QWidget* page) {
+                        return QVector<RoomFact>{LinkState(page), Organisation()};
+                    });
 }
 
 QWidget* MakeNetwork(QWidget* parent) {
-    return MakePage({"network", QT_TRANSLATE_NOOP("URoomPage", "network_title"),
-                     QT_TRANSLATE_NOOP("URoomPage", "network_sentence"), "", {}},
+    return MakePage({"network",
+                     QT_TRANSLATE_NOOP("URoomPage", "network_title"),
+                     QT_TRANSLATE_NOOP("URoomPage", "network_sentence"),
+                     "",
+                     {}},
                     parent, [](const QWidget* page) {
                         return QVector<RoomFact>{
                             LinkState(page),
@@ -116,23 +132,30 @@ QWidget* MakeNetwork(QWidget* parent) {
 }
 
 QWidget* MakeSettings(QWidget* parent) {
-    auto* page = new URoomPage({"settings", QT_TRANSLATE_NOOP("URoomPage", "settings_title"),
-                                QT_TRANSLATE_NOOP("URoomPage", "settings_sentence"), "", {}},
+    auto* page = new URoomPage({"settings",
+                                QT_TRANSLATE_NOOP("URoomPage", "settings_title"),
+                                QT_TRANSLATE_NOOP("URoomPage", "settings_sentence"),
+                                "",
+                                {}},
                                parent);
     page->AddWidget(new UAppearance);
     return page;
 }
 
 QWidget* MakeAbout(QWidget* parent) {
-    return MakePage({"about", QT_TRANSLATE_NOOP("URoomPage", "about_title"),
-                     QT_TRANSLATE_NOOP("URoomPage", "about_sentence"), "", {}},
-                    parent, [](const QWidget* page) {
-                        return QVector<RoomFact>{
-                            {QStringLiteral("version"), tr("fact_version"), QString::fromLatin1(Product::Version)},
-                            DeviceName(),
-                            LinkState(page),
-                        };
-                    });
+    return MakePage(
+        {"about",
+         QT_TRANSLATE_NOOP("URoomPage", "about_title"),
+         QT_TRANSLATE_NOOP("URoomPage", "about_sentence"),
+         "",
+         {}},
+        parent, [](const QWidget* page) {
+            return QVector<RoomFact>{
+                {QStringLiteral("version"), tr("fact_version"), QString::fromLatin1(Product::Version)},
+                DeviceName(),
+                LinkState(page),
+            };
+        });
 }
 
 } // namespace
@@ -160,6 +183,7 @@ QWidget* Rooms::Make(MenuEntry entry, QWidget* parent) {
 void Rooms::FurnishFeedback(URoomPage& page) {
     page.SetContent({"feedback", QT_TRANSLATE_NOOP("URoomPage", "feedback_title"),
                      QT_TRANSLATE_NOOP("URoomPage", "feedback_sentence"),
-                     QT_TRANSLATE_NOOP("URoomPage", "feedback_note"), [] { return QVector<RoomFact>{DeviceName()}; }});
+                     QT_TRANSLATE_NOOP("URoomPage", "feedback_note"),
+                     [] { return QVector<RoomFact>{DeviceName()}; }});
     page.ShowBackButton();
 }

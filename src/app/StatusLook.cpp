@@ -10,7 +10,8 @@ StatusLook StatusLook::Of(IotStatus status) {
     case IotStatus::Connecting:
         return {QStringLiteral("connecting"), QStringLiteral("link_connecting"), tr("status_connecting")};
     case IotStatus::Disconnected:
-        return {QStringLiteral("disconnected"), QStringLiteral("link_disconnected"), tr("status_disconnected")};
+        return {QStringLiteral("disconnected"), QStringLiteral("link_disconnected"),
+                tr("status_disconnected")};
     case IotStatus::NotEnrolled:
         break;
     }

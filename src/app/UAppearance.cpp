@@ -18,7 +18,7 @@ QComboBox* MakeBox(const char* objectName, QLabel* label) {
     // The style sheet reaches the rows of a list view of our own, but not those of the built-in popup.
     box->setView(new QListView(box));
     box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    box->setMinimumWidth(240);
+    box->setMinimumWidth(200);
     label->setBuddy(box);
     return box;
 }
@@ -26,8 +26,11 @@ QComboBox* MakeBox(const char* objectName, QLabel* label) {
 } // namespace
 
 UAppearance::UAppearance(QWidget* parent)
-    : QFrame(parent), m_languageLabel(new QLabel), m_themeLabel(new QLabel),
-      m_language(MakeBox("languageBox", m_languageLabel)), m_theme(MakeBox("themeBox", m_themeLabel)) {
+    : QFrame(parent),
+      m_languageLabel(new QLabel),
+      m_themeLabel(new QLabel),
+      m_language(MakeBox("languageBox", m_languageLabel)),
+      m_theme(MakeBox("themeBox", m_themeLabel)) {
     setObjectName(QStringLiteral("card"));
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(24, 20, 24, 20);

@@ -17,8 +17,14 @@
 #include <QVBoxLayout>
 
 UHeader::UHeader(QWidget* parent)
-    : QWidget(parent), m_deviceName(new UElidedLabel), m_organisation(new UElidedLabel), m_chip(new QFrame),
-      m_dot(new QFrame), m_statusIcon(new UIconLabel(20)), m_statusWords(new QLabel), m_end(new QWidget),
+    : QWidget(parent),
+      m_deviceName(new UElidedLabel),
+      m_organisation(new UElidedLabel),
+      m_chip(new QFrame),
+      m_dot(new QFrame),
+      m_statusIcon(new UIconLabel(20)),
+      m_statusWords(new QLabel),
+      m_end(new QWidget),
       m_busy(new ULoadingBar) {
     setAttribute(Qt::WA_StyledBackground);
     m_deviceName->setObjectName(QStringLiteral("headerDeviceName"));

@@ -25,7 +25,9 @@ QLabel* MakeLabel(const char* objectName) {
 } // namespace
 
 ULauncher::ULauncher(QWidget* parent)
-    : QWidget(parent), m_title(MakeLabel("launcherTitle")), m_sentence(MakeLabel("launcherSentence")),
+    : QWidget(parent),
+      m_title(MakeLabel("launcherTitle")),
+      m_sentence(MakeLabel("launcherSentence")),
       m_enrol(new UTextButton(UTextButton::Look::Primary)),
       m_picture(new UThemePicture(QStringLiteral("launcher"), {440, 360})) {
     m_enrol->setObjectName(QStringLiteral("launcherEnrol"));
@@ -43,7 +45,7 @@ ULauncher::ULauncher(QWidget* parent)
     for (size_t step = 0; step < m_steps.size(); ++step) {
         auto* number = new QLabel(QString::number(step + 1));
         number->setObjectName(QStringLiteral("stepNumber"));
-        number->setFixedSize(32, 32);
+        number->setFixedSize(36, 36);
         number->setAlignment(Qt::AlignCenter);
         m_steps[step] = MakeLabel("stepText");
         auto* row = new QHBoxLayout;

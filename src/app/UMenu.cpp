@@ -9,6 +9,7 @@
 #include "widgets/GestureScrollArea.h"
 
 #include <QEvent>
+#include <QScrollBar>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -47,7 +48,10 @@ UMenu::UMenu(QWidget* parent) : QWidget(parent), m_scroll(new GestureScrollArea)
         auto* entry = new UMenuEntry(QString::fromLatin1(Entries[static_cast<size_t>(index)].icon), list);
         entry->setObjectName(QString::fromLatin1(Entries[static_cast<size_t>(index)].name));
         m_entries[static_cast<size_t>(index)] = entry;
-        connect(entry, &QPushButton::clicked, this, [this, index] { emit MenuChanged(index); });
+        connect(entry, &QPushButton::clicked, this, [this, index] {
+            Select(index);
+            emit MenuChanged(index);
+        });
         if (index == static_cast<int>(MenuEntry::About))
             column->addStretch();
         column->addWidget(entry);
@@ -60,6 +64,7 @@ UMenu::UMenu(QWidget* parent) : QWidget(parent), m_scroll(new GestureScrollArea)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_scroll);
 
+    connect(m_scroll->verticalScrollBar(), &QScrollBar::rangeChanged, this, &UMenu::UpdateWidth);
     m_entries[0]->setChecked(true);
     Retranslate();
     new PipeEventWatcher(this, [this](PipeKey key, const std::string& body) { OnPipeReceive(key, body); });
@@ -73,7 +78,8 @@ void UMenu::SwitchTo(int index) {
 }
 
 void UMenu::Select(int index) {
-    m_entries.at(static_cast<size_t>(index))->setChecked(true);
+    for (int other = 0; other < MenuEntryCount; ++other)
+        m_entries[static_cast<size_t>(other)]->setChecked(other == index);
 }
 
 int UMenu::Current() const {
@@ -136,15 +142,18 @@ void UMenu::Retranslate() {
 }
 
 void UMenu::UpdateMarks() {
-    Entry(MenuEntry::Network)->SetMark(m_disconnected ? QStringLiteral("warning") : QString(),
-                                       m_disconnected ? tr("menu_mark_disconnected") : QString());
-    Entry(MenuEntry::Settings)->SetMark(m_managed ? QStringLiteral("managed") : QString(),
-                                        m_managed ? tr("menu_mark_managed") : QString());
+    Entry(MenuEntry::Network)
+        ->SetMark(m_disconnected ? QStringLiteral("warning") : QString(),
+                  m_disconnected ? tr("menu_mark_disconnected") : QString());
+    Entry(MenuEntry::Settings)
+        ->SetMark(m_managed ? QStringLiteral("managed") : QString(),
+                  m_managed ? tr("menu_mark_managed") : QString());
 }
 
 void UMenu::UpdateWidth() {
     int width = m_compact ? 0 : NarrowestWidth;
     for (const UMenuEntry* entry : m_entries)
         width = std::max(width, entry ? entry->sizeHint().width() + 2 * Margin : 0);
-    setFixedWidth(width);
+    const QScrollBar* bar = m_scroll->verticalScrollBar();
+    setFixedWidth(width + (bar->maximum() > 0 ? bar->sizeHint().width() : 0));
 }

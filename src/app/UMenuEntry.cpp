@@ -48,8 +48,12 @@ UMenuEntry::UMenuEntry(const QString& icon, QWidget* parent) : QPushButton(paren
     }();
     Q_UNUSED(accessible)
     setCheckable(true);
-    setAutoExclusive(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+// Not auto-exclusive: Tab would then stop at the selected entry alone.
+void UMenuEntry::nextCheckState() {
+    setChecked(true);
 }
 
 void UMenuEntry::SetCompact(bool compact) {
@@ -85,7 +89,8 @@ QSize UMenuEntry::sizeHint() const {
     if (m_compact)
         return {Height, Height};
     ensurePolished();
-    return {Padding + IconSize + Gap + fontMetrics().horizontalAdvance(m_name) + Gap + MarkSize + Padding, Height};
+    return {Padding + IconSize + Gap + fontMetrics().horizontalAdvance(m_name) + Gap + MarkSize + Padding,
+            Height};
 }
 
 void UMenuEntry::paintEvent(QPaintEvent*) {
@@ -99,7 +104,8 @@ void UMenuEntry::paintEvent(QPaintEvent*) {
     };
     const QString token = isChecked() ? QStringLiteral("accentSoftText") : QStringLiteral("text");
     const int iconX = m_compact ? (width() - IconSize) / 2 : Padding;
-    ThemeIcon::Get(m_icon, token).paint(&painter, place({iconX, (height() - IconSize) / 2, IconSize, IconSize}));
+    ThemeIcon::Get(m_icon, token)
+        .paint(&painter, place({iconX, (height() - IconSize) / 2, IconSize, IconSize}));
     if (isChecked()) {
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(Qt::NoPen);
@@ -107,8 +113,9 @@ void UMenuEntry::paintEvent(QPaintEvent*) {
         painter.drawRoundedRect(place({5, 15, 4, height() - 30}), 2, 2);
     }
     if (!m_mark.isEmpty()) {
-        const QRect mark = m_compact ? QRect(width() - CompactMarkSize - 3, 3, CompactMarkSize, CompactMarkSize)
-                                     : QRect(width() - Padding - MarkSize, (height() - MarkSize) / 2, MarkSize, MarkSize);
+        const QRect mark =
+            m_compact ? QRect(width() - CompactMarkSize - 3, 3, CompactMarkSize, CompactMarkSize)
+                      : QRect(width() - Padding - MarkSize, (height() - MarkSize) / 2, MarkSize, MarkSize);
         ThemeIcon::Get(m_mark, token).paint(&painter, place(mark));
     }
     if (!m_compact) {

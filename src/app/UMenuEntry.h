@@ -21,6 +21,7 @@ public:
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
+    void nextCheckState() override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

@@ -13,6 +13,9 @@
 namespace {
 
 constexpr int ContentWidth = 860;
+constexpr int Margin = 32;
+constexpr int NarrowMargin = 16;
+constexpr int NarrowWidth = 600;
 
 QLabel* MakeLabel(const char* objectName) {
     auto* label = new QLabel;
@@ -25,9 +28,17 @@ QLabel* MakeLabel(const char* objectName) {
 } // namespace
 
 URoomPage::URoomPage(QWidget* parent)
-    : QWidget(parent), m_column(nullptr), m_back(new UBackButton), m_icon(new UIconLabel(32)),
-      m_title(MakeLabel("pageTitle")), m_sentence(MakeLabel("pageSentence")), m_card(new QFrame),
-      m_rows(new QGridLayout(m_card)), m_own(new QVBoxLayout), m_note(MakeLabel("pageNote")) {
+    : QWidget(parent),
+      m_column(nullptr),
+      m_margins(nullptr),
+      m_back(new UBackButton),
+      m_icon(new UIconLabel(32)),
+      m_title(MakeLabel("pageTitle")),
+      m_sentence(MakeLabel("pageSentence")),
+      m_card(new QFrame),
+      m_rows(new QGridLayout(m_card)),
+      m_own(new QVBoxLayout),
+      m_note(MakeLabel("pageNote")) {
     m_card->setObjectName(QStringLiteral("card"));
     m_rows->setContentsMargins(24, 12, 24, 12);
     m_rows->setHorizontalSpacing(16);
@@ -61,8 +72,8 @@ URoomPage::URoomPage(QWidget* parent)
     auto* page = new QWidget;
     page->setObjectName(QStringLiteral("pageBackground"));
     auto* centred = new QHBoxLayout(page);
-    centred->setContentsMargins(32, 32, 32, 32);
     centred->addWidget(content);
+    m_margins = centred;
     auto* scroll = new GestureScrollArea;
     scroll->setWidget(page);
     scroll->setWidgetResizable(true);
@@ -124,6 +135,12 @@ void URoomPage::showEvent(QShowEvent* event) {
         m_following = true;
     }
     QWidget::showEvent(event);
+}
+
+void URoomPage::resizeEvent(QResizeEvent* event) {
+    const int margin = width() < NarrowWidth ? NarrowMargin : Margin;
+    m_margins->setContentsMargins(margin, margin, margin, margin);
+    QWidget::resizeEvent(event);
 }
 
 void URoomPage::changeEvent(QEvent* event) {

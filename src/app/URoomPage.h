@@ -5,10 +5,10 @@
 #include <QWidget>
 #include <functional>
 
-class QFormLayout;
 class QFrame;
 class QGridLayout;
 class QLabel;
+class QLayout;
 class QVBoxLayout;
 class UBackButton;
 class UIconLabel;
@@ -54,6 +54,7 @@ signals:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
@@ -61,6 +62,7 @@ private:
 
     RoomContent m_content;
     QVBoxLayout* m_column;
+    QLayout* m_margins;
     UBackButton* m_back;
     UIconLabel* m_icon;
     QLabel* m_title;

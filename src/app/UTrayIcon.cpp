@@ -6,12 +6,16 @@
 #include "widgets/ThemeIcon.h"
 
 UTrayIcon::UTrayIcon(QObject* parent)
-    : QSystemTrayIcon(parent), m_state(m_menu.addAction(QString())), m_open(nullptr), m_report(nullptr),
+    : QSystemTrayIcon(parent),
+      m_state(m_menu.addAction(QString())),
+      m_open(nullptr),
+      m_report(nullptr),
       m_tone(new TrayTone(this)) {
     m_menu.setObjectName(QStringLiteral("trayMenu"));
     m_state->setEnabled(false);
     m_menu.addSeparator();
-    m_open = m_menu.addAction(ThemeIcon::Get(QStringLiteral("open")), QString(), this, &UTrayIcon::OpenRequested);
+    m_open =
+        m_menu.addAction(ThemeIcon::Get(QStringLiteral("open")), QString(), this, &UTrayIcon::OpenRequested);
     m_report = m_menu.addAction(ThemeIcon::Get(QStringLiteral("feedback")), QString(), this,
                                 &UTrayIcon::ReportRequested);
     m_menu.setDefaultAction(m_open);

@@ -19,8 +19,8 @@ struct Colors {
 QIcon Get(const QString& name, const Colors& colors = {});
 QIcon Get(const QString& name, const QString& colorToken);
 
-/// Where an icon is drawn in `rect`: centred, or in a wide one at its leading end. The space behind then keeps
-/// the text that follows at a distance, which a button's style does not.
+/// Where an icon is drawn in `rect`: centred, or in a wide one at its leading end. The space behind then
+/// keeps the text that follows at a distance, which a button's style does not.
 QRectF Square(const QRectF& rect);
 
 } // namespace ThemeIcon

@@ -17,8 +17,12 @@ constexpr int CardWidth = 480;
 } // namespace
 
 UAlert::UAlert(QWidget* parent)
-    : QWidget(parent), m_owner(parent), m_title(new QLabel), m_content(new QLabel),
-      m_ok(new UTextButton(UTextButton::Look::Primary)), m_cancel(new UTextButton) {
+    : QWidget(parent),
+      m_owner(parent),
+      m_title(new QLabel),
+      m_content(new QLabel),
+      m_ok(new UTextButton(UTextButton::Look::Primary)),
+      m_cancel(new UTextButton) {
     setAttribute(Qt::WA_StyledBackground);
     SetAccessibleRole(this, QAccessible::Dialog);
 

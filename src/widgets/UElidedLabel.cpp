@@ -21,7 +21,8 @@ QSize UElidedLabel::sizeHint() const {
 }
 
 QSize UElidedLabel::minimumSizeHint() const {
-    return {qMin(sizeHint().width(), fontMetrics().averageCharWidth() * 6), QLabel::minimumSizeHint().height()};
+    return {qMin(sizeHint().width(), fontMetrics().averageCharWidth() * 6),
+            QLabel::minimumSizeHint().height()};
 }
 
 void UElidedLabel::resizeEvent(QResizeEvent* event) {

@@ -24,7 +24,11 @@ int ReadingTimeMs(const QString& message) {
 } // namespace
 
 UToast::UToast(QWidget* parent, WhenBusy whenBusy)
-    : QFrame(parent), m_whenBusy(whenBusy), m_owner(parent), m_icon(new UIconLabel(IconSize, this)), m_text(new QLabel(this)) {
+    : QFrame(parent),
+      m_whenBusy(whenBusy),
+      m_owner(parent),
+      m_icon(new UIconLabel(IconSize, this)),
+      m_text(new QLabel(this)) {
     m_text->setTextFormat(Qt::PlainText);
     m_text->setWordWrap(true);
     m_text->setObjectName(QStringLiteral("toastText"));
@@ -100,8 +104,9 @@ void UToast::Place() {
     const int widest = qMin(MaximumTextWidth, area.width() - 2 * DistanceToEdge - IconSize - 58);
     m_text->setFixedWidth(qMax(1, qMin(widest, metrics.horizontalAdvance(m_text->text()) + 4)));
     layout()->activate();
-    const int height = layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(layout()->totalSizeHint().width())
-                                                     : sizeHint().height();
+    const int height = layout()->hasHeightForWidth()
+                           ? layout()->totalHeightForWidth(layout()->totalSizeHint().width())
+                           : sizeHint().height();
     resize(layout()->totalSizeHint().width(), height);
     move((area.width() - width()) / 2, area.height() - this->height() - DistanceToEdge);
 }

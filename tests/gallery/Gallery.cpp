@@ -35,8 +35,9 @@ bool TakeAllPictures(const QString& target, const QStringList& wanted) {
         for (const QString& language : {QStringLiteral("en"), QStringLiteral("ar")}) {
             Theme::Instance()->Apply(theme);
             LanguageHelper::Instance()->SetLanguage(language);
-            const QString folder = QStringLiteral("%1/%2-%3-%4").arg(target, theme, language).arg(
-                qRound(qApp->devicePixelRatio() * 100));
+            const QString folder = QStringLiteral("%1/%2-%3-%4")
+                                       .arg(target, theme, language)
+                                       .arg(qRound(qApp->devicePixelRatio() * 100));
             QDir().mkpath(folder);
             for (const Scene& scene : AllScenes()) {
                 if (!wanted.isEmpty() && !wanted.contains(scene.name))
@@ -57,7 +58,8 @@ bool WriteIndex(const QString& target) {
     const QStringList folders = QDir(target).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
     QTextStream page(&file);
     page.setCodec("UTF-8");
-    page << "<!DOCTYPE html>\n<html lang=\"en\">\n<meta charset=\"utf-8\">\n<title>Velmora RYX gallery</title>\n"
+    page << "<!DOCTYPE html>\n<html lang=\"en\">\n<meta charset=\"utf-8\">\n<title>Velmora RYX "
+            "gallery</title>\n"
             "<style>body{font:16px sans-serif;margin:24px;background:#d8dde3}"
             "figure{display:inline-block;margin:8px;vertical-align:top}"
             "img{max-width:620px;border:1px solid #888}figcaption{font-size:14px}</style>\n";
@@ -66,8 +68,9 @@ bool WriteIndex(const QString& target) {
         for (const QString& folder : folders) {
             const QString path = folder + QLatin1Char('/') + scene.name + QStringLiteral(".png");
             if (QFile::exists(target + QLatin1Char('/') + path))
-                page << "<figure><a href=\"" << path << "\"><img loading=\"lazy\" src=\"" << path << "\" alt=\""
-                     << scene.name << "\"></a><figcaption>" << folder << "</figcaption></figure>\n";
+                page << "<figure><a href=\"" << path << "\"><img loading=\"lazy\" src=\"" << path
+                     << "\" alt=\"" << scene.name << "\"></a><figcaption>" << folder
+                     << "</figcaption></figure>\n";
         }
     }
     return true;

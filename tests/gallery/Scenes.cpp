@@ -79,8 +79,7 @@ UDeviceScreenLock& Lock(Stage& stage, const char* body) {
 QVector<Scene> ShellScenes() {
     return {
         {QStringLiteral("launcher"), false, [](Stage&) {}},
-        {QStringLiteral("launcher-narrow"), false,
-         [](Stage& stage) { stage.Window().resize(640, 480); }},
+        {QStringLiteral("launcher-narrow"), false, [](Stage& stage) { stage.Window().resize(640, 480); }},
         Room(QStringLiteral("page-enrolment"), MenuEntry::Enrolment),
         Room(QStringLiteral("page-features"), MenuEntry::Features),
         Room(QStringLiteral("page-live-channels"), MenuEntry::LiveChannels),

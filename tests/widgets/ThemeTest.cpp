@@ -29,7 +29,8 @@ QJsonObject Tokens(const QString& path) {
 TEST(ThemeTokens, AreTheSameInEveryTheme) {
     const QStringList light = Tokens(QStringLiteral(":/res/light/tokens.json")).keys();
     for (const QString& theme : Theme::Names())
-        EXPECT_EQ(Tokens(QStringLiteral(":/res/%1/tokens.json").arg(theme)).keys(), light) << theme.toStdString();
+        EXPECT_EQ(Tokens(QStringLiteral(":/res/%1/tokens.json").arg(theme)).keys(), light)
+            << theme.toStdString();
 }
 
 TEST(ThemeTokens, OfTheStyleSheetAreAllKnown) {
@@ -43,7 +44,8 @@ TEST(ThemeTokens, OfTheStyleSheetAreAllKnown) {
             ASSERT_TRUE(sheet.open(QIODevice::ReadOnly));
             QStringList unknown;
             const QString resolved = Theme::Instance()->Resolve(QString::fromUtf8(sheet.readAll()), &unknown);
-            EXPECT_TRUE(unknown.isEmpty()) << name.toStdString() << ": " << unknown.join(QLatin1Char(' ')).toStdString();
+            EXPECT_TRUE(unknown.isEmpty())
+                << name.toStdString() << ": " << unknown.join(QLatin1Char(' ')).toStdString();
             EXPECT_FALSE(resolved.contains(QLatin1Char('@'))) << name.toStdString();
             const int opened = resolved.count(QLatin1Char('{'));
             EXPECT_EQ(opened, resolved.count(QLatin1Char('}'))) << name.toStdString();
@@ -71,20 +73,34 @@ TEST(ThemeTokens, TextStandsOutFromItsGround) {
     };
     constexpr double Text = 4.5, Graphic = 3.0;
     const Pair pairs[] = {
-        {"text", "window", Text},          {"text", "surface", Text},
-        {"text", "raised", Text},          {"text", "hover", Text},
-        {"text", "pressed", Text},         {"textMuted", "window", Text},
-        {"textMuted", "surface", Text},    {"textMuted", "raised", Text},
-        {"accentText", "accent", Text},    {"accentText", "accentHover", Text},
-        {"accentText", "accentPressed", Text}, {"accentSoftText", "accentSoft", Text},
-        {"dangerText", "danger", Text},    {"dangerText", "dangerHover", Text},
-        {"toastText", "toast", Text},      {"lockText", "lockBackground", Text},
-        {"lockText", "lockSurface", Text}, {"lockAccentText", "lockAccent", Text},
-        {"focus", "window", Graphic},      {"focus", "surface", Graphic},
-        {"focus", "raised", Graphic},      {"borderStrong", "window", Graphic},
-        {"danger", "window", Graphic},     {"toastInfo", "toast", Graphic},
-        {"toastSuccess", "toast", Graphic}, {"toastWarning", "toast", Graphic},
-        {"toastError", "toast", Graphic},  {"lockAccent", "lockBackground", Graphic},
+        {"text", "window", Text},
+        {"text", "surface", Text},
+        {"text", "raised", Text},
+        {"text", "hover", Text},
+        {"text", "pressed", Text},
+        {"textMuted", "window", Text},
+        {"textMuted", "surface", Text},
+        {"textMuted", "raised", Text},
+        {"accentText", "accent", Text},
+        {"accentText", "accentHover", Text},
+        {"accentText", "accentPressed", Text},
+        {"accentSoftText", "accentSoft", Text},
+        {"dangerText", "danger", Text},
+        {"dangerText", "dangerHover", Text},
+        {"toastText", "toast", Text},
+        {"lockText", "lockBackground", Text},
+        {"lockText", "lockSurface", Text},
+        {"lockAccentText", "lockAccent", Text},
+        {"focus", "window", Graphic},
+        {"focus", "surface", Graphic},
+        {"focus", "raised", Graphic},
+        {"borderStrong", "window", Graphic},
+        {"danger", "window", Graphic},
+        {"toastInfo", "toast", Graphic},
+        {"toastSuccess", "toast", Graphic},
+        {"toastWarning", "toast", Graphic},
+        {"toastError", "toast", Graphic},
+        {"lockAccent", "lockBackground", Graphic},
         {"lockBorder", "lockBackground", Graphic},
     };
     for (const QString& theme : Theme::Names()) {
@@ -127,8 +143,9 @@ TEST(ThemeProperty, RestylesAtOnce) {
     dot.show();
     const auto middle = [&] { return dot.grab().toImage().pixelColor(9, 9).name(); };
     EXPECT_EQ(middle(), QStringLiteral("#57606a"));
-    for (const auto& [state, color] : {std::pair{"connected", "#1a7f37"}, std::pair{"connecting", "#9a6700"},
-                                       std::pair{"disconnected", "#cf222e"}, std::pair{"notEnrolled", "#57606a"}}) {
+    for (const auto& [state, color] :
+         {std::pair{"connected", "#1a7f37"}, std::pair{"connecting", "#9a6700"},
+          std::pair{"disconnected", "#cf222e"}, std::pair{"notEnrolled", "#57606a"}}) {
         Theme::SetProperty(&dot, "state", QString::fromLatin1(state));
         EXPECT_EQ(middle(), QString::fromLatin1(color)) << state;
     }

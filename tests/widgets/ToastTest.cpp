@@ -111,7 +111,8 @@ TEST_F(Toast, IsAnnouncedWhenItAppears) {
 
 TEST_F(Toast, StaysWithinTheWindowWhateverItsSize) {
     const auto toast = Make();
-    const QString sentence = QStringLiteral("A message of several words that needs more than one line when it is narrow. ");
+    const QString sentence =
+        QStringLiteral("A message of several words that needs more than one line when it is narrow. ");
     toast->SetMessage(sentence.repeated(3));
     toast->show();
     for (const QSize& size : {QSize(900, 600), QSize(560, 340), QSize(1600, 900)}) {

@@ -265,7 +265,7 @@
     </message>
     <message>
         <source>status_connecting</source>
-        <translation>Verbindung wird hergestellt …</translation>
+        <translation>Verbindet …</translation>
     </message>
     <message>
         <source>status_disconnected</source>
