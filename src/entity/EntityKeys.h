@@ -3,7 +3,6 @@
 #include <json/json.h>
 
 #include <cstdint>
-#include <cstring>
 #include <string>
 #include <utility>
 #include <vector>
