@@ -59,15 +59,6 @@ struct PipeLinkGuard {
     Q_DISABLE_COPY(PipeLinkGuard)
 };
 
-/// Makes the native window without it ever showing on screen or task bar.
-void CreateHidden(QWidget& window) {
-    const SystemDesktop& desktop = SystemDesktop::Native();
-    const quintptr style = desktop.HideFromTaskbar(window.winId());
-    window.showMinimized();
-    window.hide();
-    desktop.RestoreTaskbarStyle(window.winId(), style);
-}
-
 } // namespace
 
 int UserApp::Run(int argc, char** argv) {
@@ -115,7 +106,7 @@ int UserApp::Run(int argc, char** argv) {
     const UDeviceScreenLock screenLock;
     application.setActivationWindow(&window, true);
     if (application.arguments().contains(QStringLiteral("-hide")))
-        CreateHidden(window);
+        SystemDesktop::Native().CreateHidden(window);
     else
         window.show();
     return QApplication::exec();

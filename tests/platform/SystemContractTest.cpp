@@ -62,7 +62,10 @@ TEST(SystemContract, DesktopActsLeaveGeometryAlone) {
     const SystemDesktop& system = SystemDesktop::Native();
     QWidget window;
     window.setGeometry(40, 50, 300, 200);
-    system.RestoreTaskbarStyle(window.winId(), system.HideFromTaskbar(window.winId()));
+    system.CreateHidden(window);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_TRUE(window.internalWinId());
+    window.setWindowState(Qt::WindowNoState);
     window.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
     const QRect before = window.geometry();

@@ -8,8 +8,7 @@
 class FakeDesktop : public SystemDesktop {
 public:
     void RaiseTopmost(WId window) const override { raised.push_back(window); }
-    quintptr HideFromTaskbar(WId) const override { return 0; }
-    void RestoreTaskbarStyle(WId, quintptr) const override {}
+    void CreateHidden(QWidget&) const override {}
     qint64 MillisecondsSinceInput() const override { return idleMs; }
 
     mutable std::vector<WId> raised;

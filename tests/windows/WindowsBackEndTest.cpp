@@ -56,18 +56,21 @@ TEST(WindowsDesktop, RaisesToTheTopmostBandAndNothingElse) {
     EXPECT_EQ(window.geometry(), geometry);
 }
 
-TEST(WindowsDesktop, ExtendedStyleIsTakenAndGivenBack) {
+TEST(WindowsDesktop, AHiddenWindowIsMadeOffTheTaskbarAndGetsItsStyleBack) {
     const LONG taskbar = WS_EX_APPWINDOW | WS_EX_TOOLWINDOW;
-    QWidget window;
+    struct Window : QWidget {
+        void showEvent(QShowEvent*) override { shownWith = ExtendedStyle(*this); }
+        LONG shownWith = 0;
+    } window;
     SetWindowLongW(reinterpret_cast<HWND>(window.winId()), GWL_EXSTYLE,
                    ExtendedStyle(window) | WS_EX_APPWINDOW);
     const LONG before = ExtendedStyle(window);
     ASSERT_EQ(before & taskbar, WS_EX_APPWINDOW);
 
-    const quintptr saved = SystemDesktop::Native().HideFromTaskbar(window.winId());
-    EXPECT_EQ(ExtendedStyle(window) & taskbar, WS_EX_TOOLWINDOW);
-    SystemDesktop::Native().RestoreTaskbarStyle(window.winId(), saved);
+    SystemDesktop::Native().CreateHidden(window);
+    EXPECT_EQ(window.shownWith & taskbar, WS_EX_TOOLWINDOW);
     EXPECT_EQ(ExtendedStyle(window), before);
+    EXPECT_FALSE(IsWindowVisible(reinterpret_cast<HWND>(window.winId())));
 }
 
 TEST(WindowsDesktop, InputEndsTheIdleTime) {

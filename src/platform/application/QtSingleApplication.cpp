@@ -26,7 +26,7 @@ QtSingleApplication::QtSingleApplication(const QString& id, int& argc, char** ar
                        .arg(SystemSession::Native().SessionId());
     m_lock = std::make_unique<QLockFile>(QDir::temp().filePath(m_serverName + QStringLiteral(".lock")));
     m_lock->setStaleLockTime(0); // held as long as its process lives, however long
-    if (!m_lock->tryLock())
+    if (!m_lock->tryLock() && !TakeOwnStaleLock())
         return;
 
     QLocalServer::removeServer(m_serverName); // what a crashed instance left
@@ -39,6 +39,15 @@ QtSingleApplication::QtSingleApplication(const QString& id, int& argc, char** ar
 
 QtSingleApplication::~QtSingleApplication() = default;
 
+bool QtSingleApplication::TakeOwnStaleLock() {
+    // Process numbers are used again: the lock of an instance that was killed may name this very process.
+    qint64 owner = 0;
+    QString host;
+    QString program;
+    return m_lock->getLockInfo(&owner, &host, &program) && owner == applicationPid() &&
+           m_lock->removeStaleLockFile() && m_lock->tryLock();
+}
+
 bool QtSingleApplication::sendMessage(const QString& message, int timeoutMs) {
     if (!isRunning())
         return false;
@@ -49,8 +58,14 @@ bool QtSingleApplication::sendMessage(const QString& message, int timeoutMs) {
     socket.connectToServer(m_serverName);
     if (!socket.waitForConnected(left()))
         return false;
-    QDataStream stream(&socket);
+    // One block, seen off: a named pipe has one write under way at a time, and waiting to read starts none.
+    QByteArray block;
+    QDataStream stream(&block, QIODevice::WriteOnly);
     stream << message.toUtf8();
+    socket.write(block);
+    while (socket.bytesToWrite() > 0)
+        if (!socket.waitForBytesWritten(left()))
+            return false;
     while (socket.bytesAvailable() == 0)
         if (!socket.waitForReadyRead(left()))
             return false;

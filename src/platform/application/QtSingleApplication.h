@@ -32,6 +32,7 @@ signals:
     void messageReceived(const QString& message);
 
 private:
+    bool TakeOwnStaleLock();
     void Accept();
 
     QString m_serverName;

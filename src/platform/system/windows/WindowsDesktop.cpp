@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <QWidget>
+
 namespace {
 
 HWND Handle(WId window) {
@@ -14,15 +16,13 @@ public:
         SetWindowPos(Handle(window), HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     }
 
-    quintptr HideFromTaskbar(WId window) const override {
-        const LONG style = GetWindowLongW(Handle(window), GWL_EXSTYLE);
-        SetWindowLongW(Handle(window), GWL_EXSTYLE,
-                       (style & ~LONG{WS_EX_APPWINDOW}) | LONG{WS_EX_TOOLWINDOW});
-        return static_cast<quintptr>(style);
-    }
-
-    void RestoreTaskbarStyle(WId window, quintptr style) const override {
-        SetWindowLongW(Handle(window), GWL_EXSTYLE, static_cast<LONG>(style));
+    void CreateHidden(QWidget& window) const override {
+        const HWND handle = Handle(window.winId());
+        const LONG style = GetWindowLongW(handle, GWL_EXSTYLE);
+        SetWindowLongW(handle, GWL_EXSTYLE, (style & ~LONG{WS_EX_APPWINDOW}) | LONG{WS_EX_TOOLWINDOW});
+        window.showMinimized();
+        window.hide();
+        SetWindowLongW(handle, GWL_EXSTYLE, style);
     }
 
     qint64 MillisecondsSinceInput() const override {

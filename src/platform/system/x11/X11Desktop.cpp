@@ -1,11 +1,9 @@
 #include "platform/system/SystemDesktop.h"
 
 #include <QGuiApplication>
-#include <algorithm>
+#include <QWidget>
 #include <cstdlib>
-#include <cstring>
 #include <memory>
-#include <vector>
 #include <xcb/screensaver.h>
 #include <xcb/xcb.h>
 
@@ -35,25 +33,9 @@ public:
         xcb_flush(m_connection);
     }
 
-    quintptr HideFromTaskbar(WId window) const override {
-        if (!Connect())
-            return 0;
-        std::vector<xcb_atom_t> states = States(window);
-        const bool wasHidden = std::count(states.begin(), states.end(), SkipTaskbar()) > 0;
-        if (!wasHidden) {
-            states.push_back(SkipTaskbar());
-            SetStates(window, states);
-        }
-        return wasHidden;
-    }
-
-    void RestoreTaskbarStyle(WId window, quintptr wasHidden) const override {
-        if (wasHidden || !Connect())
-            return;
-        std::vector<xcb_atom_t> states = States(window);
-        states.erase(std::remove(states.begin(), states.end(), SkipTaskbar()), states.end());
-        SetStates(window, states);
-    }
+    /// A window that was never mapped is on no task bar. Minimising it first would make it come up as an
+    /// icon, whenever it is shown.
+    void CreateHidden(QWidget& window) const override { window.winId(); }
 
     qint64 MillisecondsSinceInput() const override {
         if (!Connect())
@@ -71,34 +53,6 @@ private:
             m_root = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data->root;
         }
         return m_connection && !xcb_connection_has_error(m_connection);
-    }
-
-    xcb_atom_t Atom(const char* name) const {
-        const auto atom = Own(xcb_intern_atom_reply(
-            m_connection,
-            xcb_intern_atom(m_connection, 0, static_cast<std::uint16_t>(std::strlen(name)), name), nullptr));
-        return atom ? atom->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
-    }
-    xcb_atom_t SkipTaskbar() const { return Atom("_NET_WM_STATE_SKIP_TASKBAR"); }
-
-    std::vector<xcb_atom_t> States(WId window) const {
-        const auto property =
-            Own(xcb_get_property_reply(m_connection,
-                                       xcb_get_property(m_connection, 0, static_cast<xcb_window_t>(window),
-                                                        Atom("_NET_WM_STATE"), XCB_ATOM_ATOM, 0, 64),
-                                       nullptr));
-        if (!property)
-            return {};
-        const auto* atoms = static_cast<const xcb_atom_t*>(xcb_get_property_value(property.get()));
-        return {atoms, atoms + static_cast<std::size_t>(xcb_get_property_value_length(property.get())) /
-                                   sizeof *atoms};
-    }
-
-    void SetStates(WId window, const std::vector<xcb_atom_t>& states) const {
-        xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, static_cast<xcb_window_t>(window),
-                            Atom("_NET_WM_STATE"), XCB_ATOM_ATOM, 32,
-                            static_cast<std::uint32_t>(states.size()), states.data());
-        xcb_flush(m_connection);
     }
 
     mutable xcb_connection_t* m_connection = nullptr;
