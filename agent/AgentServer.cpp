@@ -151,8 +151,16 @@ void AgentServer::Write(int client, const std::string& bytes) {
 
 void AgentServer::DropClients() {
     for (const int client : Clients())
-        if (const auto found = m_clients.find(client); found != m_clients.end())
-            found->second.socket->disconnectFromServer();
+        if (const auto found = m_clients.find(client); found != m_clients.end()) {
+            // On Windows a socket that is closed with bytes still unwritten may use its writer after its end.
+            QLocalSocket* socket = found->second.socket;
+            while (socket->bytesToWrite() > 0 && socket->waitForBytesWritten(FlushTimeoutMs)) {
+            }
+            if (socket->bytesToWrite() > 0)
+                socket->abort();
+            else
+                socket->disconnectFromServer();
+        }
 }
 
 std::vector<int> AgentServer::Clients() const {

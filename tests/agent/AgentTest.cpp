@@ -19,7 +19,10 @@ namespace {
 /// A front end of which nothing but its end of the pipe exists.
 class Client {
 public:
-    explicit Client(const QString& pipe) { m_socket.connectToServer(pipe); }
+    explicit Client(const QString& pipe, qint64 readBufferSize = 0) {
+        m_socket.setReadBufferSize(readBufferSize);
+        m_socket.connectToServer(pipe);
+    }
 
     bool IsConnected() { return m_socket.state() == QLocalSocket::ConnectedState; }
     void Write(const std::string& bytes) { m_socket.write(bytes.data(), static_cast<qint64>(bytes.size())); }
@@ -259,7 +262,7 @@ TEST_F(AgentTest, ABadFrameEndsThatConnectionOnly) {
 }
 
 TEST_F(AgentTest, AClientThatDoesNotReadIsDropped) {
-    Client deaf(pipe), good(pipe);
+    Client deaf(pipe, 1), good(pipe);
     ASSERT_TRUE(WaitForLine("client 2 connected"));
     good.SkipGreeting();
     const std::string body(RyxPackage::MaxBodySize, 'x');
