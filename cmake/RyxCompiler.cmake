@@ -27,7 +27,7 @@ endif()
 
 if(RYX_SANITIZE)
     # Instrumented code makes GCC see uninitialised reads in the standard library that are none.
-    add_compile_options(-Wno-maybe-uninitialized)
+    add_compile_options($<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
     add_compile_options(-fsanitize=${RYX_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer -O1)
     add_link_options(-fsanitize=${RYX_SANITIZE})
 endif()
