@@ -137,14 +137,13 @@ bool Desktop::WaitForNoWindow(const std::string& title) const {
     return WaitUntil([&] { return !Find(title).has_value(); });
 }
 
-QImage Desktop::Screenshot() const {
-    const QSize size = Size();
-    XImage* picture =
-        XGetImage(m_display, DefaultRootWindow(m_display), 0, 0, static_cast<unsigned>(size.width()),
-                  static_cast<unsigned>(size.height()), AllPlanes, ZPixmap);
+QImage Desktop::Screenshot(const QRect& part) const {
+    XImage* picture = XGetImage(m_display, DefaultRootWindow(m_display), part.x(), part.y(),
+                                static_cast<unsigned>(part.width()), static_cast<unsigned>(part.height()),
+                                AllPlanes, ZPixmap);
     if (!picture)
         throw std::runtime_error("the screen cannot be read");
-    const QImage image = QImage(reinterpret_cast<uchar*>(picture->data), size.width(), size.height(),
+    const QImage image = QImage(reinterpret_cast<uchar*>(picture->data), part.width(), part.height(),
                                 picture->bytes_per_line, QImage::Format_RGB32)
                              .copy();
     XDestroyImage(picture);

@@ -41,7 +41,8 @@ public:
     bool WaitForWindow(const std::string& title) const;
     bool WaitForNoWindow(const std::string& title) const;
 
-    QImage Screenshot() const;
+    QImage Screenshot() const { return Screenshot({{0, 0}, Size()}); }
+    QImage Screenshot(const QRect& part) const;
 
     void Click(const QPoint& place);
     void MoveMouse(const QPoint& place);
