@@ -108,6 +108,12 @@ QVector<Scene> ShellScenes() {
              stage.Receive(2, Status(Connecting));
              stage.Window().resize(stage.Window().minimumSize());
          }},
+        {QStringLiteral("window-small"), true,
+         [](Stage& stage) {
+             stage.Receive(2, Status(Connected));
+             Settle();
+             stage.Window().resize(640, 360);
+         }},
         {QStringLiteral("header-long-name"), true,
          [](Stage& stage) {
              AppContextData::Instance()->deviceName = "Interactive display in the great lecture hall on the "
@@ -227,8 +233,20 @@ QVector<Scene> AllScenes() {
 }
 
 void Settle() {
-    for (int round = 0; round < 3; ++round) {
+    const auto places = [] {
+        QVector<QRect> all;
+        for (const QWidget* widget : QApplication::allWidgets())
+            all.append(widget->geometry());
+        return all;
+    };
+    // One layout may cause the next, and some systems tell of a new size a moment later.
+    constexpr int RestingRounds = 3, MostRounds = 100;
+    QVector<QRect> before;
+    for (int round = 0, resting = 0; round < MostRounds && resting < RestingRounds; ++round) {
         QCoreApplication::sendPostedEvents(nullptr, 0);
         QCoreApplication::processEvents();
+        const QVector<QRect> now = places();
+        resting = now == before ? resting + 1 : 0;
+        before = now;
     }
 }

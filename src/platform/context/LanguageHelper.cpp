@@ -31,6 +31,7 @@ public:
 
     void SetLanguage(const QString& code) {
         LoadInto(m_chosen, code);
+        m_rightToLeft = QLocale(code).textDirection() == Qt::RightToLeft;
         // Texts of Qt's own widgets, such as the menu of a line edit; where they are not installed, English.
         if (!m_qt.load(QStringLiteral("qtbase_") + code,
                        QLibraryInfo::location(QLibraryInfo::TranslationsPath))) {
@@ -42,6 +43,9 @@ public:
 
     QString translate(const char* context, const char* key, const char* disambiguation,
                       int n) const override {
+        // With every change of language, Qt asks this way how to lay out.
+        if (qstrcmp(key, "QT_LAYOUT_DIRECTION") == 0)
+            return m_rightToLeft ? QStringLiteral("RTL") : QStringLiteral("LTR");
         QString text = m_chosen.translate(Context, key, disambiguation, n);
         if (text.isNull())
             text = m_english.translate(Context, key, disambiguation, n);
@@ -54,6 +58,7 @@ private:
     QTranslator m_english;
     QTranslator m_chosen;
     QTranslator m_qt;
+    bool m_rightToLeft = false;
 };
 
 LanguageHelper::LanguageHelper() = default;
@@ -99,7 +104,6 @@ void LanguageHelper::SetLanguage(const QString& code) {
     if (first)
         m_translator = new KeyTranslator(qApp);
     m_translator->SetLanguage(m_language);
-    QApplication::setLayoutDirection(Locale().textDirection());
     if (first) {
         QCoreApplication::installTranslator(m_translator);
     } else {
