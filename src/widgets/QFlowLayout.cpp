@@ -71,8 +71,7 @@ int QFlowLayout::LayOut(const QRect& rect, Pass pass) const {
     const int areaEnd = area.x() + area.width();
     const int hSpacing = horizontalSpacing();
     const int vSpacing = verticalSpacing();
-    const Qt::LayoutDirection direction =
-        parentWidget() ? parentWidget()->layoutDirection() : QGuiApplication::layoutDirection();
+    const bool mirrored = parentWidget() ? parentWidget()->isRightToLeft() : QGuiApplication::isRightToLeft();
 
     int x = area.x();
     int y = area.y();
@@ -88,7 +87,7 @@ int QFlowLayout::LayOut(const QRect& rect, Pass pass) const {
             rowHeight = 0;
         }
         if (pass == Pass::Move)
-            item->setGeometry(QStyle::visualRect(direction, area, QRect(QPoint(x, y), hint)));
+            item->setGeometry({{mirrored ? area.x() + areaEnd - x - hint.width() : x, y}, hint});
         x += hint.width() + (hSpacing >= 0 ? hSpacing : StyleGap(*item, Qt::Horizontal));
         rowHeight = qMax(rowHeight, hint.height());
     }
