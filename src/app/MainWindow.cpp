@@ -49,6 +49,7 @@ MainWindow::~MainWindow() = default;
 void MainWindow::Initialize() {
     const bool enrolled = AppContextData::Instance()->enrolled;
     m_ui->stack->setCurrentWidget(enrolled ? m_ui->mainPage : static_cast<QWidget*>(m_ui->launcher));
+    (enrolled ? static_cast<QWidget*>(m_ui->menu) : m_ui->launcher)->setFocus();
     // An enrolled device has a link, which counts as down until the service says more.
     if (enrolled)
         ShowStatus(IotStatus::Disconnected);

@@ -98,7 +98,7 @@ QWidget* MakeFeatures(QWidget* parent) {
     return MakePage({"features",
                      QT_TRANSLATE_NOOP("URoomPage", "features_title"),
                      QT_TRANSLATE_NOOP("URoomPage", "features_sentence"),
-                     QT_TRANSLATE_NOOP("URoomPage", "room_note_nothing"),
+                     QT_TRANSLATE_NOOP("URoomPage", "room_note_state_only"),
                      {}},
                     parent, [](const QWidget* page) {
                         return QVector<RoomFact>{LinkState(page), Organisation()};
@@ -109,7 +109,7 @@ QWidget* MakeLiveChannels(QWidget* parent) {
     return MakePage({"live",
                      QT_TRANSLATE_NOOP("URoomPage", "live_title"),
                      QT_TRANSLATE_NOOP("URoomPage", "live_sentence"),
-                     QT_TRANSLATE_NOOP("URoomPage", "room_note_nothing"),
+                     QT_TRANSLATE_NOOP("URoomPage", "room_note_state_only"),
                      {}},
                     parent, [](const QWidget* page) {
                         return QVector<RoomFact>{LinkState(page), Organisation()};

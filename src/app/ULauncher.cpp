@@ -75,6 +75,7 @@ ULauncher::ULauncher(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(scroll);
+    setFocusProxy(m_enrol);
     Retranslate();
 }
 

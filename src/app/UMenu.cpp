@@ -66,6 +66,7 @@ UMenu::UMenu(QWidget* parent) : QWidget(parent), m_scroll(new GestureScrollArea)
 
     connect(m_scroll->verticalScrollBar(), &QScrollBar::rangeChanged, this, &UMenu::UpdateWidth);
     m_entries[0]->setChecked(true);
+    setFocusProxy(m_entries[0]);
     Retranslate();
     new PipeEventWatcher(this, [this](PipeKey key, const std::string& body) { OnPipeReceive(key, body); });
 }

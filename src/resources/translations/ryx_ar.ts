@@ -232,8 +232,8 @@
         <translation>الإبلاغ عن مشكلة</translation>
     </message>
     <message>
-        <source>room_note_nothing</source>
-        <translation>لا يوجد ما يُدار هنا بعد.</translation>
+        <source>room_note_state_only</source>
+        <translation>حاليًا تعرض هذه الصفحة الحالة الراهنة فقط.</translation>
     </message>
     <message>
         <source>settings_language</source>

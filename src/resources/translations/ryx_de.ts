@@ -232,8 +232,8 @@
         <translation>Problem melden</translation>
     </message>
     <message>
-        <source>room_note_nothing</source>
-        <translation>Hier gibt es noch nichts zu verwalten.</translation>
+        <source>room_note_state_only</source>
+        <translation>Vorerst zeigt diese Seite nur den Stand der Dinge.</translation>
     </message>
     <message>
         <source>settings_language</source>

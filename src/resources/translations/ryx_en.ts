@@ -232,8 +232,8 @@
         <translation>Report a problem</translation>
     </message>
     <message>
-        <source>room_note_nothing</source>
-        <translation>There is nothing to manage here yet.</translation>
+        <source>room_note_state_only</source>
+        <translation>For now this page only shows how things stand.</translation>
     </message>
     <message>
         <source>settings_language</source>

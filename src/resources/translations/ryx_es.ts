@@ -232,8 +232,8 @@
         <translation>Notificar un problema</translation>
     </message>
     <message>
-        <source>room_note_nothing</source>
-        <translation>Aún no hay nada que administrar aquí.</translation>
+        <source>room_note_state_only</source>
+        <translation>Por ahora, esta página solo muestra el estado actual.</translation>
     </message>
     <message>
         <source>settings_language</source>

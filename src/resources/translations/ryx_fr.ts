@@ -232,8 +232,8 @@
         <translation>Signaler un problème</translation>
     </message>
     <message>
-        <source>room_note_nothing</source>
-        <translation>Il n’y a encore rien à gérer ici.</translation>
+        <source>room_note_state_only</source>
+        <translation>Pour l’instant, cette page ne fait qu’afficher l’état actuel.</translation>
     </message>
     <message>
         <source>settings_language</source>

@@ -232,8 +232,8 @@
         <translation>問題を報告</translation>
     </message>
     <message>
-        <source>room_note_nothing</source>
-        <translation>ここで管理するものはまだありません。</translation>
+        <source>room_note_state_only</source>
+        <translation>現在のところ、このページには状態のみが表示されます。</translation>
     </message>
     <message>
         <source>settings_language</source>

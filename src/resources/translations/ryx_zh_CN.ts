@@ -232,8 +232,8 @@
         <translation>报告问题</translation>
     </message>
     <message>
-        <source>room_note_nothing</source>
-        <translation>此处暂无可管理的内容。</translation>
+        <source>room_note_state_only</source>
+        <translation>目前此页面仅显示当前状态。</translation>
     </message>
     <message>
         <source>settings_language</source>
