@@ -63,6 +63,7 @@ struct PipeLinkGuard {
 
 int UserApp::Run(int argc, char** argv) {
     SystemSession::Native().InitializeCom();
+    SystemDesktop::Native().PrepareApplication();
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QtSingleApplication application(QStringLiteral("velmora_ryx_windows_shell"), argc, argv);
@@ -71,6 +72,7 @@ int UserApp::Run(int argc, char** argv) {
         return 0;
     }
     application.setProperty("IsUser", true);
+    SystemDesktop::Native().AllowTakingForeground();
 
     const LoggerGuard logger(true, "User");
     QSharedMemory marker;

@@ -7,6 +7,8 @@
 /// A desktop that does nothing but remember, with a scripted idle time.
 class FakeDesktop : public SystemDesktop {
 public:
+    void PrepareApplication() const override {}
+    void AllowTakingForeground() const override {}
     void RaiseTopmost(WId window) const override { raised.push_back(window); }
     void CreateHidden(QWidget&) const override {}
     qint64 MillisecondsSinceInput() const override { return idleMs; }

@@ -10,6 +10,12 @@ class SystemDesktop {
 public:
     virtual ~SystemDesktop() = default;
 
+    /// Before the application object is made: leaves out what Qt would load and this program never uses.
+    virtual void PrepareApplication() const = 0;
+
+    /// Once the application object is there: its windows may take the foreground from other programs.
+    virtual void AllowTakingForeground() const = 0;
+
     /// Lifts the window to the topmost band above all others, without moving, resizing or activating it.
     virtual void RaiseTopmost(WId window) const = 0;
 

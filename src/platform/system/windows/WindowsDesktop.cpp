@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <QWidget>
+#include <QtPlatformHeaders/QWindowsWindowFunctions>
 
 namespace {
 
@@ -12,6 +13,12 @@ HWND Handle(WId window) {
 
 class WindowsDesktop final : public SystemDesktop {
 public:
+    void PrepareApplication() const override {}
+
+    void AllowTakingForeground() const override {
+        QWindowsWindowFunctions::setWindowActivationBehavior(QWindowsWindowFunctions::AlwaysActivateWindow);
+    }
+
     void RaiseTopmost(WId window) const override {
         SetWindowPos(Handle(window), HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     }
