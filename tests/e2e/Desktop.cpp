@@ -218,6 +218,9 @@ void Desktop::ShowForeignWindow(const std::string& title, const QRect& place, bo
     XSizeHints hints{};
     hints.flags = USPosition | USSize;
     XSetWMNormalHints(m_display, window, &hints);
+    // A window that can be asked to close, or the window manager ends the whole program to close it.
+    ::Atom closing = AtomOf("WM_DELETE_WINDOW");
+    XSetWMProtocols(m_display, window, &closing, 1);
     if (onTop) {
         const ::Atom above = AtomOf("_NET_WM_STATE_ABOVE");
         XChangeProperty(m_display, window, AtomOf("_NET_WM_STATE"), XA_ATOM, 32, PropModeReplace,

@@ -69,7 +69,7 @@ bool Play(const QDir& folder, const std::string& scenario) {
         [&] {
             const auto first = product.FocusedBox();
             screen.Type("12345");
-            return WaitUntil([&] { return product.FocusedBox() > *first + 300; });
+            return WaitUntil([&] { return product.FocusedBox() > first.value() + 300; });
         },
         "3-password.png");
     tour.Step("The sixth digit is typed: the service is told that the screen is unlocked", [&] {
