@@ -49,7 +49,7 @@ MainWindow::~MainWindow() = default;
 void MainWindow::Initialize() {
     const bool enrolled = AppContextData::Instance()->enrolled;
     m_ui->stack->setCurrentWidget(enrolled ? m_ui->mainPage : static_cast<QWidget*>(m_ui->launcher));
-    (enrolled ? static_cast<QWidget*>(m_ui->menu) : m_ui->launcher)->setFocus();
+    FocusPage();
     // An enrolled device has a link, which counts as down until the service says more.
     if (enrolled)
         ShowStatus(IotStatus::Disconnected);
@@ -192,9 +192,20 @@ void MainWindow::ShowMainPage() {
     m_ui->stack->setCurrentWidget(m_ui->mainPage);
 }
 
+// Where the keyboard starts: what one came for, and not the cross that was pressed last.
+void MainWindow::FocusPage() {
+    if (m_ui->stack->currentWidget() == m_ui->mainPage)
+        m_ui->menu->setFocus();
+    else
+        m_ui->stack->currentWidget()->setFocus();
+}
+
 void MainWindow::Open() {
-    if (isHidden())
+    if (isHidden()) {
+        restoreGeometry(m_geometry); // some window managers would place it anew
+        FocusPage();
         show();
+    }
     setWindowState(windowState() & ~Qt::WindowMinimized);
     raise();
     activateWindow();
@@ -205,6 +216,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
         m_ui->stack->setCurrentWidget(m_ui->launcher);
         m_ui->menu->SwitchTo(0);
     }
+    m_geometry = saveGeometry();
     hide();
     event->ignore();
 }

@@ -53,6 +53,7 @@ private:
 
     void ShowMainPage();
     void LeaveFeedbackPage();
+    void FocusPage();
     void Notify(const QString& message);
     void PlaceExitButton();
 
@@ -62,4 +63,5 @@ private:
     UTrayIcon* m_tray;
     UToast* m_toast;
     QWidget* m_beforeFeedback = nullptr;
+    QByteArray m_geometry; // when it was last closed
 };

@@ -65,8 +65,7 @@ UMenu::UMenu(QWidget* parent) : QWidget(parent), m_scroll(new GestureScrollArea)
     layout->addWidget(m_scroll);
 
     connect(m_scroll->verticalScrollBar(), &QScrollBar::rangeChanged, this, &UMenu::UpdateWidth);
-    m_entries[0]->setChecked(true);
-    setFocusProxy(m_entries[0]);
+    Select(0);
     Retranslate();
     new PipeEventWatcher(this, [this](PipeKey key, const std::string& body) { OnPipeReceive(key, body); });
 }
@@ -79,8 +78,11 @@ void UMenu::SwitchTo(int index) {
 }
 
 void UMenu::Select(int index) {
+    if (index < 0 || index >= MenuEntryCount)
+        return;
     for (int other = 0; other < MenuEntryCount; ++other)
         m_entries[static_cast<size_t>(other)]->setChecked(other == index);
+    setFocusProxy(m_entries[static_cast<size_t>(index)]);
 }
 
 int UMenu::Current() const {

@@ -98,6 +98,7 @@ void URoomPage::AddWidget(QWidget* widget) {
 
 void URoomPage::ShowBackButton() {
     m_back->show();
+    setFocusProxy(m_back);
 }
 
 void URoomPage::Refresh() {

@@ -103,6 +103,7 @@ TEST_F(Shell, ClosingAnEnrolledDevicesWindowKeepsThePage) {
     ActivateTray(QSystemTrayIcon::Trigger);
     EXPECT_EQ(StackPage(), QStringLiteral("mainPage"));
     EXPECT_EQ(BodyPage(), static_cast<int>(MenuEntry::About));
+    EXPECT_EQ(Window().focusWidget(), &Entry("menu_about"));
 }
 
 TEST_F(Shell, TrayOpensOnSingleClickAlone) {
