@@ -258,11 +258,9 @@ TEST_F(EndToEndTest, AKilledFrontEndDoesNotHinderTheNext) {
 }
 
 TEST_F(EndToEndTest, AnImpostorIsRefusedAndToldNothing) {
-    if (RunsUnderLauncher())
-        GTEST_SKIP() << "a second account is needed";
     product->Configure("agentAccount", "daemon");
     std::vector<std::string> asAnother;
-    if (::geteuid() == 0) {
+    if (::geteuid() == 0 && !RunsUnderLauncher()) { // root is the system's own account here
         asAnother = {"setpriv", "--reuid=nobody", "--regid=nogroup", "--clear-groups", "--pdeathsig=KILL"};
         // Another user may not be able to reach this build's folder.
         const QString copy = QString::fromStdString(product->Folder()) + QStringLiteral("/agent");

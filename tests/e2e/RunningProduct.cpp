@@ -192,7 +192,7 @@ std::string RunningProduct::Log() const {
     for (const QString& name : folder.entryList(QDir::Files, QDir::Name)) {
         QFile file(folder.filePath(name));
         if (file.open(QIODevice::ReadOnly))
-            log += file.readAll().toStdString();
+            log += file.readAll().replace("\r\n", "\n").toStdString();
     }
     return log;
 }
