@@ -48,7 +48,6 @@ AgentServer::~AgentServer() {
         client.socket->disconnect(this);
         if (client.socket->bytesToWrite() > 0)
             client.socket->waitForBytesWritten(FlushTimeoutMs);
-        delete client.socket; // before the server, whose child it is, so that no signal finds us half gone
     }
 }
 

@@ -11,6 +11,7 @@
 #include <QLocalSocket>
 #include <QSignalSpy>
 #include <QtTest>
+#include <fstream>
 #include <gtest/gtest.h>
 #include <sstream>
 
@@ -233,6 +234,17 @@ TEST_F(AgentTest, AScenarioWithABadLineIsNotBegun) {
     EXPECT_NE(lines.str().find("error: test:4: send wants a key"), std::string::npos);
     EXPECT_EQ(lines.str().find("say first"), std::string::npos);
     EXPECT_TRUE(PlayScenario("# nothing to do\n"));
+}
+
+TEST_F(AgentTest, TheScenariosThatComeWithItAreUnderstood) {
+    const QDir folder(QStringLiteral(RYX_SCENARIOS));
+    const QStringList names = folder.entryList({QStringLiteral("*.scenario")});
+    EXPECT_FALSE(names.isEmpty());
+    for (const QString& name : names) {
+        std::ifstream file(folder.filePath(name).toStdString());
+        ASSERT_TRUE(file);
+        EXPECT_TRUE(interpreter.AddScenario(file, name.toStdString())) << lines.str();
+    }
 }
 
 TEST_F(AgentTest, AConsoleGoesOnAfterAFailureButNotAfterQuit) {
