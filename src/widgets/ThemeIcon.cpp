@@ -40,7 +40,11 @@ public:
     Engine(const QString& name, const ThemeIcon::Colors& colors) : m_name(name), m_colors(colors) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
-        Paint(*painter, rect, m_name, Color(mode, state));
+        // By way of the cache: reading the drawing again for every paint would be felt.
+        const qreal scale = painter->device()->devicePixelRatioF();
+        QPixmap picture = pixmap(rect.size() * scale, mode, state);
+        picture.setDevicePixelRatio(scale);
+        painter->drawPixmap(rect.topLeft(), picture);
     }
 
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
