@@ -45,6 +45,7 @@ bool Play(const QDir& folder, const std::string& scenario) {
     Desktop screen;
     RunningProduct product(screen);
     Tour tour(folder, product);
+    product.Configure("organisation", "Lakeside School");
 
     tour.Step("The agent service listens", [&] { return product.StartAgent({"--scenario", scenario}); });
     tour.Step("The front end shows its window", [&] {
