@@ -34,6 +34,7 @@ Desktop::Desktop(const std::string& display) : m_name(display) {
         throw std::runtime_error("the X display " + m_name + " has no XTEST extension");
     if (display.empty())
         StartWindowManager();
+    XSelectInput(m_display, DefaultRootWindow(m_display), SubstructureNotifyMask);
 }
 
 Desktop::~Desktop() {
@@ -135,6 +136,17 @@ bool Desktop::WaitForWindow(const std::string& title) const {
 
 bool Desktop::WaitForNoWindow(const std::string& title) const {
     return WaitUntil([&] { return !Find(title).has_value(); });
+}
+
+bool Desktop::HasAnyAppeared() {
+    XSync(m_display, False);
+    bool appeared = false;
+    XEvent event{};
+    while (XPending(m_display) > 0) {
+        XNextEvent(m_display, &event);
+        appeared = appeared || event.type == MapNotify;
+    }
+    return appeared;
 }
 
 QImage Desktop::Screenshot(const QRect& part) const {

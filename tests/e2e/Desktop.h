@@ -41,6 +41,9 @@ public:
     bool WaitForWindow(const std::string& title) const;
     bool WaitForNoWindow(const std::string& title) const;
 
+    /// Whether any window has appeared since the last call, however briefly.
+    bool HasAnyAppeared();
+
     QImage Screenshot() const { return Screenshot({{0, 0}, Size()}); }
     QImage Screenshot(const QRect& part) const;
 
