@@ -8,19 +8,26 @@ foreach(plugin IN LISTS plugins)
 endforeach()
 
 # Exactly the libraries that the programs and plug-ins ask for; what the SDK does not have is Windows' own.
+# (CMake's own GET_RUNTIME_DEPENDENCIES looks for names in lower case, which this machine's files do not have.)
 list(TRANSFORM plugins PREPEND "${RYX_WINDOWS_SDK}/plugins/" OUTPUT_VARIABLE pluginFiles)
 list(TRANSFORM pluginFiles APPEND ".dll")
 install(CODE "
-    set(CMAKE_GET_RUNTIME_DEPENDENCIES_PLATFORM windows+pe)
-    set(CMAKE_GET_RUNTIME_DEPENDENCIES_TOOL objdump)
-    set(CMAKE_GET_RUNTIME_DEPENDENCIES_COMMAND \"${CMAKE_OBJDUMP}\")
-    file(GET_RUNTIME_DEPENDENCIES
-        EXECUTABLES \"$<TARGET_FILE:velmora-ryx>\"
-        LIBRARIES \"$<TARGET_FILE:ryx_user>\" ${pluginFiles}
-        DIRECTORIES \"${RYX_WINDOWS_SDK}/bin\"
-        RESOLVED_DEPENDENCIES_VAR libraries
-        UNRESOLVED_DEPENDENCIES_VAR ofWindows)
-    list(FILTER libraries INCLUDE REGEX \"^${RYX_WINDOWS_SDK}/\")
+    cmake_policy(SET CMP0057 NEW) # if(IN_LIST)
+    set(unread \"$<TARGET_FILE:velmora-ryx>\" \"$<TARGET_FILE:ryx_user>\" ${pluginFiles})
+    set(libraries)
+    while(unread)
+        list(POP_FRONT unread file)
+        execute_process(COMMAND \"${CMAKE_OBJDUMP}\" --private-headers \"\${file}\"
+            OUTPUT_VARIABLE headers COMMAND_ERROR_IS_FATAL ANY)
+        string(REGEX MATCHALL \"DLL Name: [^\\r\\n]+\" entries \"\${headers}\")
+        foreach(entry IN LISTS entries)
+            string(REPLACE \"DLL Name: \" \"${RYX_WINDOWS_SDK}/bin/\" library \"\${entry}\")
+            if(EXISTS \"\${library}\" AND NOT library IN_LIST libraries)
+                list(APPEND libraries \"\${library}\")
+                list(APPEND unread \"\${library}\")
+            endif()
+        endforeach()
+    endwhile()
     file(INSTALL DESTINATION \"\${CMAKE_INSTALL_PREFIX}\" TYPE SHARED_LIBRARY FILES \${libraries})
 ")
 
