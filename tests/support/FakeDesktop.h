@@ -12,6 +12,7 @@ public:
     void RaiseTopmost(WId window) const override { raised.push_back(window); }
     void CreateHidden(QWidget&) const override {}
     qint64 MillisecondsSinceInput() const override { return idleMs; }
+    std::optional<bool> IsTaskbarDark() const override { return std::nullopt; }
 
     mutable std::vector<WId> raised;
     qint64 idleMs = 0;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtGlobal>
+#include <optional>
 #include <qwindowdefs.h>
 
 class QWidget;
@@ -26,6 +27,10 @@ public:
     /// Milliseconds since the user last touched keyboard, mouse or screen in this session;
     /// -1 when the system cannot tell.
     virtual qint64 MillisecondsSinceInput() const = 0;
+
+    /// Whether the task bar, and the tray in it, is dark; empty where it looks as the other windows do.
+    /// May change at any time, unannounced.
+    virtual std::optional<bool> IsTaskbarDark() const = 0;
 
     static const SystemDesktop& Native();
 };

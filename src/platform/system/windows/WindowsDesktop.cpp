@@ -39,6 +39,14 @@ public:
         // Both are counts of milliseconds that wrap after 49 days; so does their difference.
         return static_cast<DWORD>(GetTickCount() - input.dwTime);
     }
+
+    std::optional<bool> IsTaskbarDark() const override {
+        DWORD light = 1;
+        DWORD size = sizeof light;
+        RegGetValueW(HKEY_CURRENT_USER, L"Software\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize",
+                     L"SystemUsesLightTheme", RRF_RT_REG_DWORD, nullptr, &light, &size);
+        return light == 0;
+    }
 };
 
 } // namespace

@@ -54,6 +54,8 @@ public:
         return info ? qint64{info->ms_since_user_input} : -1;
     }
 
+    std::optional<bool> IsTaskbarDark() const override { return std::nullopt; }
+
 private:
     /// The back end's own connection: asking must not disturb the order of Qt's requests.
     bool Connect() const {
