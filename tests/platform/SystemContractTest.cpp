@@ -28,6 +28,7 @@ TEST(SystemContract, PipeServerIsThisAccount) {
 TEST(SystemContract, SharedMemoryKeyIsUsableAndOrphansGo) {
     const SystemSession& system = SystemSession::Native();
     const QString key = system.SharedMemoryKey(QStringLiteral("ryx-contract"));
+    system.ReleaseOrphanedSharedMemory(key); // of a process that was killed with the same key
     QSharedMemory first;
     first.setNativeKey(key);
     ASSERT_TRUE(first.create(4)) << first.errorString().toStdString();
