@@ -195,7 +195,7 @@ void MainWindow::ShowMainPage() {
 // Where the keyboard starts: what one came for, and not the cross that was pressed last.
 void MainWindow::FocusPage() {
     if (m_ui->stack->currentWidget() == m_ui->mainPage)
-        m_ui->menu->setFocus();
+        m_ui->menu->FocusSelected();
     else
         m_ui->stack->currentWidget()->setFocus();
 }

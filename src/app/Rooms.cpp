@@ -80,7 +80,7 @@ QWidget* MakeEnrolment(QWidget* parent) {
         {"enrolment",
          QT_TRANSLATE_NOOP("URoomPage", "enrolment_title"),
          QT_TRANSLATE_NOOP("URoomPage", "enrolment_sentence"),
-         "",
+         QT_TRANSLATE_NOOP("URoomPage", "room_note_state_only"),
          {}},
         parent, [](const QWidget* page) {
             const AppContextData& context = *AppContextData::Instance();

@@ -8,6 +8,7 @@
 #include "widgets/AccessibleRole.h"
 #include "widgets/GestureScrollArea.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -82,7 +83,13 @@ void UMenu::Select(int index) {
         return;
     for (int other = 0; other < MenuEntryCount; ++other)
         m_entries[static_cast<size_t>(other)]->setChecked(other == index);
-    setFocusProxy(m_entries[static_cast<size_t>(index)]);
+    if (isAncestorOf(QApplication::focusWidget()))
+        FocusSelected();
+}
+
+// Not by a focus proxy: Tab would then leave out the entries before it.
+void UMenu::FocusSelected() {
+    m_entries[static_cast<size_t>(Current())]->setFocus();
 }
 
 int UMenu::Current() const {

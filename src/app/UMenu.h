@@ -25,6 +25,9 @@ public:
 
     int Current() const;
 
+    /// Gives the selected entry the keyboard.
+    void FocusSelected();
+
     /// The live channels come and go; all other entries stay. When the selected entry goes, the first one
     /// is selected.
     void SetLiveChannelVisible(bool visible);
