@@ -27,11 +27,15 @@ TEST(SystemContract, PipeServerIsThisAccount) {
 
 TEST(SystemContract, SharedMemoryKeyIsUsableAndOrphansGo) {
     const SystemSession& system = SystemSession::Native();
-    const QString key = system.SharedMemoryKey(QStringLiteral("ryx-contract"));
-    system.ReleaseOrphanedSharedMemory(key); // of a process that was killed with the same key
     QSharedMemory first;
-    first.setNativeKey(key);
-    ASSERT_TRUE(first.create(4)) << first.errorString().toStdString();
+    QString key;
+    // Where a key is made of a file's number, another test's segment may happen to have it already.
+    for (int attempt = 0; attempt < 5 && !first.isAttached(); ++attempt) {
+        key = system.SharedMemoryKey(QStringLiteral("ryx-contract-%1").arg(attempt));
+        first.setNativeKey(key);
+        first.create(4);
+    }
+    ASSERT_TRUE(first.isAttached()) << first.errorString().toStdString();
     system.ReleaseOrphanedSharedMemory(key);
     QSharedMemory second;
     second.setNativeKey(key);
