@@ -1,11 +1,25 @@
 // Entry point of the Qt test programs: a real application object, off screen unless told otherwise, and
 // a temporary folder, configuration and log of its own.
-#include "support/LogCapture.h"
-
 #include <QApplication>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
+#include <memory>
+
+#ifdef __SANITIZE_ADDRESS__
+#include <sanitizer/lsan_interface.h>
+#endif
+
+namespace {
+
+std::unique_ptr<QApplication> MakeApplication(int& argc, char** argv) {
+#ifdef __SANITIZE_ADDRESS__
+    const __lsan::ScopedDisabler platformPluginKeepsItsScreen;
+#endif
+    return std::make_unique<QApplication>(argc, argv);
+}
+
+} // namespace
 
 int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
@@ -15,7 +29,7 @@ int main(int argc, char** argv) {
     qputenv("VELMORA_RYX_CONFIG", folder.filePath(QStringLiteral("ryx.json")).toLocal8Bit());
     qputenv("TMPDIR", folder.path().toLocal8Bit());
 
-    QApplication application(argc, argv);
+    const auto application = MakeApplication(argc, argv);
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }
