@@ -46,20 +46,20 @@ protected:
 
 struct Answer {
     const char* what;
-    bool cancellable;
     QVector<Qt::Key> keys;
+    bool cancellable;
     bool accepted;
 };
 
 TEST_F(Alert, IsAnsweredFromTheKeyboard) {
     const Answer answers[] = {
-        {"Return agrees", true, {Qt::Key_Return}, true},
-        {"Space presses the button with the focus", true, {Qt::Key_Space}, true},
-        {"Escape declines", true, {Qt::Key_Escape}, false},
-        {"Tab leads to the declining button", true, {Qt::Key_Tab, Qt::Key_Return}, false},
-        {"Tab twice leads back", true, {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Space}, true},
-        {"Escape is the only button", false, {Qt::Key_Escape}, true},
-        {"Tab stays on the only button", false, {Qt::Key_Tab, Qt::Key_Space}, true},
+        {"Return agrees", {Qt::Key_Return}, true, true},
+        {"Space presses the button with the focus", {Qt::Key_Space}, true, true},
+        {"Escape declines", {Qt::Key_Escape}, true, false},
+        {"Tab leads to the declining button", {Qt::Key_Tab, Qt::Key_Return}, true, false},
+        {"Tab twice leads back", {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Space}, true, true},
+        {"Escape is the only button", {Qt::Key_Escape}, false, true},
+        {"Tab stays on the only button", {Qt::Key_Tab, Qt::Key_Space}, false, true},
     };
     for (const Answer& answer : answers) {
         SCOPED_TRACE(answer.what);

@@ -38,69 +38,36 @@ private:
 
 struct Case {
     const char* what;
-    QVector<QSize> items;
     QRect area;
     int margin, hSpacing, vSpacing;
-    QVector<QPoint> places; // left to right
     int height;
+    QVector<QSize> items;
+    QVector<QPoint> places; // left to right
 };
 
 void PrintTo(const Case& arrangement, std::ostream* out) {
     *out << arrangement.what;
 }
 
+// clang-format off
 const Case Cases[] = {
-    {"no items measure to the margins", {}, {0, 0, 100, 50}, 7, 5, 5, {}, 14},
-    {"one row", {{30, 10}, {30, 20}}, {0, 0, 100, 50}, 0, 5, 5, {{0, 0}, {35, 0}}, 20},
-    {"an exact fit does not wrap",
-     {{30, 10}, {30, 10}, {30, 10}},
-     {0, 0, 100, 50},
-     0,
-     5,
-     5,
-     {{0, 0}, {35, 0}, {70, 0}},
-     10},
-    {"one pixel less wraps",
-     {{30, 10}, {30, 10}, {30, 10}},
-     {0, 0, 99, 50},
-     0,
-     5,
-     5,
-     {{0, 0}, {35, 0}, {0, 15}},
-     25},
-    {"a row is as high as its highest item",
-     {{40, 10}, {40, 30}, {40, 8}},
-     {0, 0, 100, 90},
-     0,
-     4,
-     6,
-     {{0, 0}, {44, 0}, {0, 36}},
-     44},
-    {"items touch without spacing",
-     {{50, 10}, {50, 10}, {50, 10}},
-     {0, 0, 100, 90},
-     0,
-     0,
-     0,
-     {{0, 0}, {50, 0}, {0, 10}},
-     20},
-    {"a wide item is alone on its row and keeps its width",
-     {{20, 10}, {150, 10}, {20, 10}},
-     {0, 0, 100, 90},
-     0,
-     5,
-     5,
-     {{0, 0}, {0, 15}, {0, 30}},
-     40},
-    {"margins and an area that starts elsewhere",
-     {{60, 10}, {60, 10}},
-     {10, 20, 100, 90},
-     8,
-     5,
-     5,
-     {{18, 28}, {18, 43}},
-     41},
+    {"no items measure to the margins", {0, 0, 100, 50}, 7, 5, 5, 14, {}, {}},
+    {"one row", {0, 0, 100, 50}, 0, 5, 5, 20,
+        {{30, 10}, {30, 20}}, {{0, 0}, {35, 0}}},
+    {"an exact fit does not wrap", {0, 0, 100, 50}, 0, 5, 5, 10,
+        {{30, 10}, {30, 10}, {30, 10}}, {{0, 0}, {35, 0}, {70, 0}}},
+    {"one pixel less wraps", {0, 0, 99, 50}, 0, 5, 5, 25,
+        {{30, 10}, {30, 10}, {30, 10}}, {{0, 0}, {35, 0}, {0, 15}}},
+    {"a row is as high as its highest item", {0, 0, 100, 90}, 0, 4, 6, 44,
+        {{40, 10}, {40, 30}, {40, 8}}, {{0, 0}, {44, 0}, {0, 36}}},
+    {"items touch without spacing", {0, 0, 100, 90}, 0, 0, 0, 20,
+        {{50, 10}, {50, 10}, {50, 10}}, {{0, 0}, {50, 0}, {0, 10}}},
+    {"a wide item is alone on its row and keeps its width", {0, 0, 100, 90}, 0, 5, 5, 40,
+        {{20, 10}, {150, 10}, {20, 10}}, {{0, 0}, {0, 15}, {0, 30}}},
+    {"margins and an area that starts elsewhere", {10, 20, 100, 90}, 8, 5, 5, 41,
+        {{60, 10}, {60, 10}}, {{18, 28}, {18, 43}}},
 };
+// clang-format on
 
 class Arrangement : public testing::TestWithParam<Case> {};
 
