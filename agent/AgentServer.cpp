@@ -39,7 +39,8 @@ bool IsServed(const QString& localName) {
 } // namespace
 
 AgentServer::AgentServer(EventLog& log) : m_log(log) {
-    connect(&m_server, &QLocalServer::newConnection, this, &AgentServer::Accept);
+    // Queued: on Windows a quick client is there before listen() has returned.
+    connect(&m_server, &QLocalServer::newConnection, this, &AgentServer::Accept, Qt::QueuedConnection);
 }
 
 AgentServer::~AgentServer() {

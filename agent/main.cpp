@@ -91,6 +91,7 @@ int main(int argc, char** argv) {
     // The reading thread may still wait for a line when the program ends; without this, it would hold the
     // lock of the C library's standard input then.
     std::ios::sync_with_stdio(false);
+    std::cin.tie(nullptr); // reading runs on a thread of its own and must not flush what this one writes
     QCoreApplication application(argc, argv);
     return Run(application);
 }
