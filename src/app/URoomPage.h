@@ -20,7 +20,7 @@ struct RoomFact {
     QString value;
 };
 
-/// A page that says what its room is for and what is known there now. Texts are translation keys.
+/// What a room's page says. Texts are translation keys.
 struct RoomContent {
     const char* icon = "";
     const char* title = "";
@@ -31,6 +31,7 @@ struct RoomContent {
     std::function<QVector<RoomFact>()> facts;
 };
 
+/// A page that says what its room is for and what is known there now.
 class URoomPage : public QWidget {
     Q_OBJECT
 
