@@ -1,6 +1,7 @@
 // Another program's window, for the end-to-end tests: foreign_window TITLE X Y WIDTH HEIGHT
 // It is topmost, takes the foreground, and does not close; it goes when its process is ended.
 #include <cstdlib>
+#include <cwchar>
 
 #include <windows.h>
 
