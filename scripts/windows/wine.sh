@@ -53,7 +53,8 @@ start_wine() {
     # A home of its own: a prefix links its user folders into the home, and fonts and menus are registered there.
     mkdir "$wine_dir/home"
     export HOME="$wine_dir/home"
-    unset XDG_CACHE_HOME XDG_CONFIG_HOME XDG_DATA_HOME XDG_RUNTIME_DIR WAYLAND_DISPLAY XAUTHORITY
+    # Below TMPDIR Wine's server is found; all programs of a prefix must meet at the same one.
+    unset XDG_CACHE_HOME XDG_CONFIG_HOME XDG_DATA_HOME XDG_RUNTIME_DIR WAYLAND_DISPLAY XAUTHORITY TMPDIR
 
     mkfifo "$wine_dir/display"
     Xvfb -displayfd 3 -screen 0 1920x1080x24 -nolisten tcp -noreset 3> "$wine_dir/display" \
