@@ -76,7 +76,7 @@ QWidget* PasswordPad::CreateKeypad() {
         grid->addWidget(key, row, column);
         return key;
     };
-    for (int digit = 0; digit <= 9; ++digit) {
+    for (const int digit : {1, 2, 3, 4, 5, 6, 7, 8, 9, 0}) { // the order in which Tab reaches them
         const int place = digit == 0 ? 10 : digit - 1;
         auto* key = add(QString::number(digit), place / 3, place % 3);
         connect(key, &QPushButton::clicked, this,

@@ -166,6 +166,18 @@ int RunningProduct::AgentLines(const std::string& text) {
     return CountOf(m_agent.Output(), text);
 }
 
+void RunningProduct::ShowForeignWindow(const std::string& title, const QRect& place) {
+    if (m_launcher.empty()) {
+        m_desktop.ShowForeignWindow(title, place, true);
+        return;
+    }
+    m_foreignPrograms.push_back(std::make_unique<ChildProcess>());
+    m_foreignPrograms.back()->Start(Command("RYX_E2E_FOREIGN", "foreign_window",
+                                            {title, std::to_string(place.x()), std::to_string(place.y()),
+                                             std::to_string(place.width()), std::to_string(place.height())}),
+                                    Environment());
+}
+
 void RunningProduct::StartFrontEnd(const std::vector<std::string>& arguments) {
     WriteConfiguration();
     m_frontEnd.Start(Command("RYX_E2E_FRONTEND", "velmora-ryx", arguments), Environment(),

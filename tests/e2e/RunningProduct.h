@@ -6,6 +6,7 @@
 #include <QColor>
 #include <QTemporaryDir>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -45,6 +46,10 @@ public:
     bool StartBoth();
     /// Starts the front end a second time and waits for that to end; its exit code, if it ended.
     std::optional<int> StartAgain(const std::vector<std::string>& arguments = {});
+
+    /// Shows another program's topmost window, which does not close. Where the programs need a launcher, so does
+    /// that one: RYX_E2E_FOREIGN names it.
+    void ShowForeignWindow(const std::string& title, const QRect& place);
 
     ChildProcess& Agent() { return m_agent; }
     ChildProcess& FrontEnd() { return m_frontEnd; }
@@ -92,5 +97,6 @@ private:
     std::string m_pipe;
     ChildProcess m_agent;
     ChildProcess m_frontEnd;
+    std::vector<std::unique_ptr<ChildProcess>> m_foreignPrograms;
     std::size_t m_agentRead = 0; // of the agent service's output, what AgentSays has passed
 };

@@ -42,7 +42,7 @@ private:
 };
 
 bool Play(const QDir& folder, const std::string& scenario) {
-    Desktop screen;
+    Desktop screen(qgetenv("RYX_E2E_DISPLAY").toStdString());
     RunningProduct product(screen);
     Tour tour(folder, product);
     product.Configure("organisation", "Lakeside School");
