@@ -29,9 +29,11 @@ TEST(SystemContract, SharedMemoryKeyIsUsableAndOrphansGo) {
     const SystemSession& system = SystemSession::Native();
     QSharedMemory first;
     QString key;
-    // Where a key is made of a file's number, another test's segment may happen to have it already.
+    // Where a key is made of a file's number, a segment of another process, ended or not, may have it
+    // already.
     for (int attempt = 0; attempt < 5 && !first.isAttached(); ++attempt) {
         key = system.SharedMemoryKey(QStringLiteral("ryx-contract-%1").arg(attempt));
+        system.ReleaseOrphanedSharedMemory(key);
         first.setNativeKey(key);
         first.create(4);
     }
