@@ -13,6 +13,7 @@
 #include "widgets/UToast.h"
 
 #include <QCloseEvent>
+#include <QScreen>
 #include <QStyle>
 
 namespace {
@@ -64,7 +65,15 @@ void MainWindow::Initialize() {
     setWindowTitle(QString::fromLatin1(Product::Name));
     setWindowIcon(m_tray->icon());
     setMinimumSize(SmallestWindow);
+    FitScreen();
     ApplyTheme();
+}
+
+// At 150 % and more, many a screen is smaller than the form.
+void MainWindow::FitScreen() {
+    const QSize room = screen()->availableSize();
+    const int titleBar = style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    resize(size().boundedTo({room.width(), room.height() - titleBar}));
 }
 
 void MainWindow::InitConnect() {

@@ -42,6 +42,7 @@ private:
     void Initialize();
     void InitConnect();
     void ConnectMainController();
+    void FitScreen();
     void ApplyTheme();
 
     void OnPipeDataReceived(PipeKey key, const std::string& body);

@@ -66,6 +66,7 @@ int UserApp::Run(int argc, char** argv) {
     SystemDesktop::Native().PrepareApplication();
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QtSingleApplication application(QStringLiteral("velmora_ryx_windows_shell"), argc, argv);
     if (application.isRunning()) {
         application.sendMessage(ForwardedArguments(application.arguments()), ForwardTimeoutMs);

@@ -7,6 +7,7 @@
 #include <QDialog>
 #include <QLabel>
 #include <QMenu>
+#include <QScreen>
 #include <QSystemTrayIcon>
 
 namespace {
@@ -41,6 +42,14 @@ TEST_F(ShellTest, StartsWhereTheDeviceStands) {
     EXPECT_TRUE(Find<QSystemTrayIcon>().isVisible());
     EXPECT_EQ(Find<QSystemTrayIcon>().toolTip(), QStringLiteral("Velmora RYX"));
     EXPECT_FALSE(Entry("menu_live_channels").isVisible());
+}
+
+TEST_F(ShellTest, StartsNoLargerThanTheScreen) {
+    Start(true);
+    const MainWindow window;
+    const QSize screen = window.screen()->availableSize();
+    EXPECT_EQ(window.width(), qMin(1280, screen.width()));
+    EXPECT_LE(window.height(), qMin(720, screen.height()));
 }
 
 TEST_F(ShellTest, ClosingHidesAndWithoutEnrolmentReturnsToTheLauncher) {

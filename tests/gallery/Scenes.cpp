@@ -206,6 +206,7 @@ Stage::Stage(bool enrolled) : m_controller(std::make_unique<MainController>()) {
     const QMap<QString, ControllerBase*> controllers{{QStringLiteral("ryx"), m_controller.get()}};
     qApp->setProperty("controllers", QVariant::fromValue(controllers));
     m_window = std::make_unique<MainWindow>();
+    m_window->resize(1280, 720); // also where the screen is smaller
     m_window->show();
     Settle();
 }
