@@ -2,6 +2,7 @@
 
 #include "widgets/GestureScrollArea.h"
 #include "widgets/UTextButton.h"
+#include "widgets/UTextLabel.h"
 #include "widgets/UThemePicture.h"
 
 #include <QEvent>
@@ -14,20 +15,12 @@ namespace {
 constexpr int TextWidth = 540;
 constexpr int NarrowestWithPicture = 960;
 
-QLabel* MakeLabel(const char* objectName) {
-    auto* label = new QLabel;
-    label->setObjectName(QString::fromLatin1(objectName));
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
-}
-
 } // namespace
 
 ULauncher::ULauncher(QWidget* parent)
     : QWidget(parent),
-      m_title(MakeLabel("launcherTitle")),
-      m_sentence(MakeLabel("launcherSentence")),
+      m_title(new UTextLabel("launcherTitle")),
+      m_sentence(new UTextLabel("launcherSentence")),
       m_enrol(new UTextButton(UTextButton::Look::Primary)),
       m_picture(new UThemePicture(QStringLiteral("launcher"), {440, 360})) {
     m_enrol->setObjectName(QStringLiteral("launcherEnrol"));
@@ -47,7 +40,7 @@ ULauncher::ULauncher(QWidget* parent)
         number->setObjectName(QStringLiteral("stepNumber"));
         number->setFixedSize(36, 36);
         number->setAlignment(Qt::AlignCenter);
-        m_steps[step] = MakeLabel("stepText");
+        m_steps[step] = new UTextLabel("stepText");
         auto* row = new QHBoxLayout;
         row->setSpacing(14);
         row->addWidget(number, 0, Qt::AlignTop);

@@ -4,6 +4,7 @@
 #include "widgets/GestureScrollArea.h"
 #include "widgets/UBackButton.h"
 #include "widgets/UIconLabel.h"
+#include "widgets/UTextLabel.h"
 
 #include <QEvent>
 #include <QGridLayout>
@@ -17,14 +18,6 @@ constexpr int Margin = 32;
 constexpr int NarrowMargin = 16;
 constexpr int NarrowWidth = 600;
 
-QLabel* MakeLabel(const char* objectName) {
-    auto* label = new QLabel;
-    label->setObjectName(QString::fromLatin1(objectName));
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
-}
-
 } // namespace
 
 URoomPage::URoomPage(QWidget* parent)
@@ -33,12 +26,12 @@ URoomPage::URoomPage(QWidget* parent)
       m_margins(nullptr),
       m_back(new UBackButton),
       m_icon(new UIconLabel(32)),
-      m_title(MakeLabel("pageTitle")),
-      m_sentence(MakeLabel("pageSentence")),
+      m_title(new UTextLabel("pageTitle")),
+      m_sentence(new UTextLabel("pageSentence")),
       m_card(new QFrame),
       m_rows(new QGridLayout(m_card)),
       m_own(new QVBoxLayout),
-      m_note(MakeLabel("pageNote")) {
+      m_note(new UTextLabel("pageNote")) {
     m_card->setObjectName(QStringLiteral("card"));
     m_rows->setContentsMargins(24, 12, 24, 12);
     m_rows->setHorizontalSpacing(16);
@@ -110,9 +103,9 @@ void URoomPage::Refresh() {
     int row = 0;
     for (const RoomFact& fact : facts) {
         auto* icon = new UIconLabel(22, fact.icon, QStringLiteral("textMuted"));
-        auto* label = MakeLabel("factLabel");
+        auto* label = new UTextLabel("factLabel");
         label->setText(fact.label);
-        auto* value = MakeLabel("factValue");
+        auto* value = new UTextLabel("factValue");
         value->setText(fact.value);
         value->setTextInteractionFlags(Qt::TextSelectableByMouse);
         // A value stands beside its label, whatever script it is written in.

@@ -3,6 +3,7 @@
 #include "widgets/AccessibleRole.h"
 #include "widgets/NoticeQueue.h"
 #include "widgets/UTextButton.h"
+#include "widgets/UTextLabel.h"
 
 #include <QApplication>
 #include <QGridLayout>
@@ -19,8 +20,8 @@ constexpr int CardWidth = 480;
 UAlert::UAlert(QWidget* parent)
     : QWidget(parent),
       m_owner(parent),
-      m_title(new QLabel),
-      m_content(new QLabel),
+      m_title(new UTextLabel("alertTitle")),
+      m_content(new UTextLabel("alertContent")),
       m_ok(new UTextButton(UTextButton::Look::Primary)),
       m_cancel(new UTextButton) {
     setAttribute(Qt::WA_StyledBackground);
@@ -30,12 +31,6 @@ UAlert::UAlert(QWidget* parent)
     card->setObjectName(QStringLiteral("alertCard"));
     card->setMaximumWidth(CardWidth);
     card->setMinimumWidth(qMin(CardWidth, 320));
-    m_title->setObjectName(QStringLiteral("alertTitle"));
-    m_content->setObjectName(QStringLiteral("alertContent"));
-    for (QLabel* label : {m_title, m_content}) {
-        label->setTextFormat(Qt::PlainText);
-        label->setWordWrap(true);
-    }
 
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(12);

@@ -4,6 +4,7 @@
 #include "widgets/AccessibleRole.h"
 #include "widgets/NoticeQueue.h"
 #include "widgets/UIconLabel.h"
+#include "widgets/UTextLabel.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -28,10 +29,7 @@ UToast::UToast(QWidget* parent, WhenBusy whenBusy)
       m_whenBusy(whenBusy),
       m_owner(parent),
       m_icon(new UIconLabel(IconSize, this)),
-      m_text(new QLabel(this)) {
-    m_text->setTextFormat(Qt::PlainText);
-    m_text->setWordWrap(true);
-    m_text->setObjectName(QStringLiteral("toastText"));
+      m_text(new UTextLabel("toastText", this)) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(20, 14, 24, 14);
     row->setSpacing(14);
