@@ -35,7 +35,9 @@ SentryGuard::SentryGuard(const std::string& release, const std::wstring& databas
         LOG(INFO) << "SentryGuard::SentryGuard sentry_init success";
 }
 
-SentryGuard::~SentryGuard() { sentry_close(); }
+SentryGuard::~SentryGuard() {
+    sentry_close();
+}
 
 #else
 

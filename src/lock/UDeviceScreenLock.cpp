@@ -173,6 +173,7 @@ void UDeviceScreenLock::CoverScreens() {
     setGeometry(QGuiApplication::primaryScreen()->geometry());
     m_covers.Show();
     m_desktop.RaiseTopmost(winId());
+    m_desktop.HoldKeyboard(*windowHandle(), true);
 }
 
 void UDeviceScreenLock::showEvent(QShowEvent* event) {
@@ -188,6 +189,7 @@ void UDeviceScreenLock::hideEvent(QHideEvent* event) {
     m_ui->passwordPart->Clear();
     m_backTimer.stop();
     m_covers.Hide();
+    m_desktop.HoldKeyboard(*windowHandle(), false);
     emit VisibleChanged(false);
     QWidget::hideEvent(event);
 }
@@ -202,7 +204,7 @@ void UDeviceScreenLock::changeEvent(QEvent* event) {
     // Another program took the focus: fetch it back, and with it the keyboard that could switch windows.
     if (event->type() == QEvent::ActivationChange && isVisible()) {
         if (isActiveWindow())
-            windowHandle()->setKeyboardGrabEnabled(true);
+            m_desktop.HoldKeyboard(*windowHandle(), true);
         else
             QTimer::singleShot(0, this, [this] {
                 if (isVisible())

@@ -47,8 +47,8 @@ public:
     /// Starts the front end a second time and waits for that to end; its exit code, if it ended.
     std::optional<int> StartAgain(const std::vector<std::string>& arguments = {});
 
-    /// Shows another program's topmost window, which does not close. Where the programs need a launcher, so does
-    /// that one: RYX_E2E_FOREIGN names it.
+    /// Shows another program's topmost window, which does not close. Where the programs need a launcher, so
+    /// does that one: RYX_E2E_FOREIGN names it.
     void ShowForeignWindow(const std::string& title, const QRect& place);
 
     ChildProcess& Agent() { return m_agent; }

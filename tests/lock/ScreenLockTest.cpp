@@ -106,6 +106,9 @@ TEST_F(ScreenLock, CoversThePrimaryScreenAboveEverything) {
 
     lock.close(); // Alt+F4
     EXPECT_TRUE(lock.isVisible());
+    EXPECT_TRUE(desktop.holdsKeyboard);
+    lock.hide();
+    EXPECT_FALSE(desktop.holdsKeyboard);
 }
 
 TEST_F(ScreenLock, EndTimesAreComparedAsTextAndTold) {

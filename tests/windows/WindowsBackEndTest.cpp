@@ -3,10 +3,13 @@
 #include "platform/system/SystemSession.h"
 #include "platform/system/windows/ProcessAccount.h"
 
+#include <QKeyEvent>
 #include <QWidget>
 #include <QtTest>
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <thread>
+#include <vector>
 
 #include <windows.h>
 
@@ -29,6 +32,21 @@ DWORD ProcessOfService(const wchar_t* name) {
     CloseServiceHandle(service);
     CloseServiceHandle(manager);
     return status.dwProcessId;
+}
+
+void SendKey(WORD key, bool down) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = key;
+    input.ki.dwFlags = down ? 0 : KEYEVENTF_KEYUP;
+    SendInput(1, &input, sizeof input);
+}
+
+/// Presses the keys one after the other, then releases them.
+void PressTogether(const std::vector<WORD>& keys) {
+    for (const WORD key : keys)
+        SendKey(key, true);
+    std::for_each(keys.rbegin(), keys.rend(), [](WORD key) { SendKey(key, false); });
 }
 
 /// Runs `act` on a thread that has not met COM yet.
@@ -71,6 +89,52 @@ TEST(WindowsDesktop, AHiddenWindowIsMadeOffTheTaskbarAndGetsItsStyleBack) {
     EXPECT_EQ(window.shownWith & taskbar, WS_EX_TOOLWINDOW);
     EXPECT_EQ(ExtendedStyle(window), before);
     EXPECT_FALSE(IsWindowVisible(reinterpret_cast<HWND>(window.winId())));
+}
+
+TEST(WindowsDesktop, AHeldKeyboardKeepsTheShellsKeysAndOnlyThose) {
+    struct Window : QWidget {
+        bool event(QEvent* event) override {
+            if (event->type() != QEvent::KeyPress)
+                return QWidget::event(event);
+            keys.push_back(static_cast<QKeyEvent*>(event)->nativeVirtualKey());
+            return true;
+        }
+        std::vector<DWORD> keys;
+    } window;
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    const std::vector<std::vector<WORD>> forShell{
+        {VK_LWIN},       {VK_LWIN, 'D'}, {VK_MENU, VK_TAB}, {VK_MENU, VK_ESCAPE}, {VK_CONTROL, VK_ESCAPE},
+        {VK_LAUNCH_APP1}};
+    // The D is a letter like any other when the Windows key has never gone down.
+    const std::vector<DWORD> seenWhileHeld{'D', VK_MENU, VK_MENU, VK_CONTROL, '5'};
+    const auto pressAll = [&] {
+        window.keys.clear();
+        for (const std::vector<WORD>& combination : forShell)
+            PressTogether(combination);
+        PressTogether({'5'});
+        return QTest::qWaitFor([&] { return !window.keys.empty() && window.keys.back() == '5'; });
+    };
+
+    SystemDesktop::Native().HoldKeyboard(*window.windowHandle(), true);
+    ASSERT_TRUE(pressAll());
+    EXPECT_EQ(window.keys, seenWhileHeld);
+    SystemDesktop::Native().HoldKeyboard(*window.windowHandle(), false);
+    ASSERT_TRUE(pressAll());
+    EXPECT_GT(window.keys.size(), seenWhileHeld.size());
+
+    // A Windows key that is already down counts, and comes up again.
+    window.keys.clear();
+    SendKey(VK_LWIN, true);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !window.keys.empty(); }));
+    SystemDesktop::Native().HoldKeyboard(*window.windowHandle(), true);
+    PressTogether({'D'});
+    SendKey(VK_LWIN, false);
+    PressTogether({'5'});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.keys.back() == '5'; }));
+    SystemDesktop::Native().HoldKeyboard(*window.windowHandle(), false);
+    EXPECT_EQ(window.keys, (std::vector<DWORD>{VK_LWIN, '5'}));
 }
 
 TEST(WindowsDesktop, InputEndsTheIdleTime) {

@@ -5,6 +5,7 @@
 #include <qwindowdefs.h>
 
 class QWidget;
+class QWindow;
 
 /// Native window and input facts and acts that Qt does not offer. GUI thread.
 class SystemDesktop {
@@ -19,6 +20,11 @@ public:
 
     /// Lifts the window to the topmost band above all others, without moving, resizing or activating it.
     virtual void RaiseTopmost(WId window) const = 0;
+
+    /// While held, no key opens a menu of the system's or switches windows. Ctrl+Alt+Del stays the system's.
+    /// X11 lets only a window hold the keyboard that can be seen, so ask again when it is; asking twice is
+    /// no harm.
+    virtual void HoldKeyboard(QWindow& window, bool hold) const = 0;
 
     /// Makes the native window of a program that starts unseen: it receives messages, and shows up neither
     /// on screen nor on the task bar.

@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <QWidget>
+#include <QWindow>
 #include <cstdlib>
 #include <memory>
 #include <xcb/screensaver.h>
@@ -41,6 +42,8 @@ public:
                              &above);
         xcb_flush(m_connection);
     }
+
+    void HoldKeyboard(QWindow& window, bool hold) const override { window.setKeyboardGrabEnabled(hold); }
 
     /// A window that was never mapped is on no task bar. Minimising it first would make it come up as an
     /// icon, whenever it is shown.
