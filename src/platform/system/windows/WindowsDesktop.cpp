@@ -58,16 +58,14 @@ public:
     }
 
     void HoldKeyboard(QWindow&, bool hold) const override {
-        if (hold == (m_keyboardHook != nullptr))
-            return;
-        if (hold) {
-            m_keyboardHook =
-                SetWindowsHookExW(WH_KEYBOARD_LL, SwallowShellKeys, GetModuleHandleW(nullptr), 0);
-            if (!m_keyboardHook)
-                LOG(WARNING) << "WindowsDesktop::HoldKeyboard error " << GetLastError();
-        } else {
+        // Asked again, the hook is made anew: Windows silently drops one that has been too slow.
+        if (m_keyboardHook)
             UnhookWindowsHookEx(std::exchange(m_keyboardHook, nullptr));
-        }
+        if (!hold)
+            return;
+        m_keyboardHook = SetWindowsHookExW(WH_KEYBOARD_LL, SwallowShellKeys, GetModuleHandleW(nullptr), 0);
+        if (!m_keyboardHook)
+            LOG(WARNING) << "WindowsDesktop::HoldKeyboard error " << GetLastError();
     }
 
     void CreateHidden(QWidget& window) const override {
