@@ -66,8 +66,10 @@ start_wine() {
         fail "The virtual screen did not start."
     fi
     export DISPLAY=":$number"
-    # Wine leaves the stacking of windows to the window manager; without one, nothing stays on top.
-    openbox --sm-disable > "$wine_dir/openbox.log" 2>&1 &
+    # Wine leaves the stacking of windows to the window manager; without one, nothing stays on top. It gets no keys
+    # of its own: on Windows, too, all keys come to Windows, and Alt+Tab is for the programs' hooks to swallow.
+    echo '<openbox_config xmlns="http://openbox.org/3.4/rc"><keyboard/></openbox_config>' > "$wine_dir/openbox.xml"
+    openbox --sm-disable --config-file "$wine_dir/openbox.xml" > "$wine_dir/openbox.log" 2>&1 &
     disown
 
     # No .NET and no HTML engine, so that Wine does not offer to download them; no entries in the desktop's menu;

@@ -160,7 +160,10 @@ void UDeviceScreenLock::OnPasswordCompleted() {
 void UDeviceScreenLock::OnUnlockTimer() {
     if (!m_endAt.empty() && !IsBeforeEnd())
         Release();
-    if (m_endAt.empty() && !isVisible())
+    if (isVisible()) // another program's window may have come above without taking the focus: nobody tells of
+                     // that
+        WindowStack::Instance()->Restack();
+    else if (m_endAt.empty())
         m_unlockTimer.stop();
 }
 

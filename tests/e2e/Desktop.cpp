@@ -130,6 +130,14 @@ std::optional<DesktopWindow> Desktop::Find(const std::string& title) const {
     return found;
 }
 
+std::string Desktop::TopmostTitle() const {
+    std::string title;
+    for (const DesktopWindow& window : Windows())
+        if (window.viewable && window.place.intersects(QRect(QPoint(0, 0), Size())))
+            title = window.title;
+    return title;
+}
+
 bool Desktop::WaitForWindow(const std::string& title) const {
     return WaitUntil([&] { return Find(title).has_value(); });
 }
@@ -219,6 +227,11 @@ void Desktop::Close(const DesktopWindow& window) {
 void Desktop::Activate(const DesktopWindow& window) {
     constexpr long fromPager = 2;
     SendToRoot(window.id, "_NET_ACTIVE_WINDOW", fromPager, CurrentTime, 0);
+}
+
+void Desktop::Raise(const DesktopWindow& window) {
+    XRaiseWindow(m_display, window.id);
+    XSync(m_display, False);
 }
 
 void Desktop::ShowForeignWindow(const std::string& title, const QRect& place, bool onTop) {

@@ -38,6 +38,8 @@ public:
     std::vector<DesktopWindow> Windows() const;
     /// The topmost window with this title that is viewable.
     std::optional<DesktopWindow> Find(const std::string& title) const;
+    /// Title of the topmost window that is viewable and lies on the screen; empty when there is none.
+    std::string TopmostTitle() const;
     bool WaitForWindow(const std::string& title) const;
     bool WaitForNoWindow(const std::string& title) const;
 
@@ -58,6 +60,9 @@ public:
     void Close(const DesktopWindow& window);
     /// Asks the window manager to activate a window, as a task bar does.
     void Activate(const DesktopWindow& window);
+
+    /// Lifts a window as its own program does that wants to be above, but not the focus.
+    void Raise(const DesktopWindow& window);
 
     /// Shows a plain window of this program, which the window manager keeps above others if `onTop`.
     void ShowForeignWindow(const std::string& title, const QRect& place, bool onTop);

@@ -171,11 +171,34 @@ void RunningProduct::ShowForeignWindow(const std::string& title, const QRect& pl
         m_desktop.ShowForeignWindow(title, place, true);
         return;
     }
-    m_foreignPrograms.push_back(std::make_unique<ChildProcess>());
-    m_foreignPrograms.back()->Start(Command("RYX_E2E_FOREIGN", "foreign_window",
-                                            {title, std::to_string(place.x()), std::to_string(place.y()),
-                                             std::to_string(place.width()), std::to_string(place.height())}),
-                                    Environment());
+    m_foreignPrograms[title].Start(Command("RYX_E2E_FOREIGN", "foreign_window",
+                                           {title, std::to_string(place.x()), std::to_string(place.y()),
+                                            std::to_string(place.width()), std::to_string(place.height())}),
+                                   Environment());
+}
+
+// Under Wine the program itself must ask: what the window manager lifts on its own account, Wine does not
+// always learn, and with it no other program.
+void RunningProduct::TellForeignProgram(const std::string& title, const std::string& command) {
+    ChildProcess& program = m_foreignPrograms.at(title);
+    const int done = CountOf(program.Output(), command);
+    program.Write(command + '\n');
+    if (!WaitUntil([&] { return CountOf(program.Output(), command) > done; }))
+        throw std::runtime_error("the window " + title + " does not follow");
+}
+
+void RunningProduct::ActivateForeignWindow(const std::string& title) {
+    if (m_launcher.empty())
+        m_desktop.Activate(m_desktop.Find(title).value());
+    else
+        TellForeignProgram(title, "activate");
+}
+
+void RunningProduct::RaiseForeignWindow(const std::string& title) {
+    if (m_launcher.empty())
+        m_desktop.Raise(m_desktop.Find(title).value());
+    else
+        TellForeignProgram(title, "raise");
 }
 
 void RunningProduct::StartFrontEnd(const std::vector<std::string>& arguments) {
@@ -236,7 +259,7 @@ bool RunningProduct::WaitForStatus(const QColor& color) const {
 QImage RunningProduct::LockPicture() const {
     const QRect screen(QPoint(0, 0), m_desktop.Size());
     const auto lock = m_desktop.Find(LockTitle);
-    if (!lock || lock->place != screen)
+    if (!lock || lock->place != screen || m_desktop.TopmostTitle() != LockTitle)
         return {};
     QImage picture = m_desktop.Screenshot();
     const QRgb background = LockBackground.rgb();

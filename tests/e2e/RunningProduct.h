@@ -6,7 +6,6 @@
 #include <QColor>
 #include <QTemporaryDir>
 #include <map>
-#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -50,6 +49,10 @@ public:
     /// Shows another program's topmost window, which does not close. Where the programs need a launcher, so
     /// does that one: RYX_E2E_FOREIGN names it.
     void ShowForeignWindow(const std::string& title, const QRect& place);
+    /// That window takes the focus.
+    void ActivateForeignWindow(const std::string& title);
+    /// That window comes above all others, and leaves the focus where it is.
+    void RaiseForeignWindow(const std::string& title);
 
     ChildProcess& Agent() { return m_agent; }
     ChildProcess& FrontEnd() { return m_frontEnd; }
@@ -86,6 +89,7 @@ private:
     std::vector<std::string> Command(const char* variable, const char* program,
                                      const std::vector<std::string>& arguments) const;
     std::vector<std::string> Environment() const;
+    void TellForeignProgram(const std::string& title, const std::string& command);
     std::string PathForPrograms(const std::string& path) const;
     void WriteConfiguration() const;
     QImage LockPicture() const;
@@ -97,6 +101,6 @@ private:
     std::string m_pipe;
     ChildProcess m_agent;
     ChildProcess m_frontEnd;
-    std::vector<std::unique_ptr<ChildProcess>> m_foreignPrograms;
+    std::map<std::string, ChildProcess> m_foreignPrograms; // by their windows' titles
     std::size_t m_agentRead = 0; // of the agent service's output, what AgentSays has passed
 };
