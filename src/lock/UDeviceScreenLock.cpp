@@ -160,8 +160,8 @@ void UDeviceScreenLock::OnPasswordCompleted() {
 void UDeviceScreenLock::OnUnlockTimer() {
     if (!m_endAt.empty() && !IsBeforeEnd())
         Release();
-    if (isVisible()) // another program's window may have come above without taking the focus: nobody tells of
-                     // that
+    // Nobody tells of another program's window that has come above without taking the focus.
+    if (isVisible())
         WindowStack::Instance()->Restack();
     else if (m_endAt.empty())
         m_unlockTimer.stop();
