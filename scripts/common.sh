@@ -24,7 +24,7 @@ as_root() {
 need_packages() {
     local missing=() package
     for package in "$@"; do
-        dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
+        [[ $(dpkg-query -W -f '${Status}' "$package" 2>/dev/null) = *"ok installed" ]] || missing+=("$package")
     done
     [ ${#missing[@]} = 0 ] && return
     say "installing: ${missing[*]}"
