@@ -22,6 +22,11 @@ ScreenCovers::ScreenCovers() {
 
 ScreenCovers::~ScreenCovers() = default;
 
+QRect ScreenCovers::WholePlace(const QScreen& screen) {
+    const bool isScaled = screen.devicePixelRatio() > 1;
+    return screen.geometry().adjusted(0, 0, isScaled, isScaled);
+}
+
 void ScreenCovers::Show() {
     Hide();
     for (const QScreen* screen : QGuiApplication::screens()) {
@@ -32,7 +37,7 @@ void ScreenCovers::Show() {
                                                    Qt::WindowDoesNotAcceptFocus);
         cover->setObjectName(QStringLiteral("ScreenCover"));
         cover->setProperty("TopLevel", 5);
-        cover->setGeometry(screen->geometry());
+        cover->setGeometry(WholePlace(*screen));
         WindowStack::Instance()->PushWindow(cover.get());
         cover->show();
         m_covers.push_back(std::move(cover));

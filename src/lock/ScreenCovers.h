@@ -1,9 +1,11 @@
 #pragma once
 
 #include <QObject>
+#include <QRect>
 #include <memory>
 #include <vector>
 
+class QScreen;
 class QWidget;
 
 /// Blank windows over every screen but the primary one, so that nothing can be used beside a lock.
@@ -14,6 +16,10 @@ class ScreenCovers : public QObject {
 public:
     ScreenCovers();
     ~ScreenCovers() override;
+
+    /// Where a window leaves no pixel of the screen open. Unlike the screen's own geometry, which is rounded
+    /// to device-independent pixels, it is never smaller than a screen that its scale does not divide.
+    static QRect WholePlace(const QScreen& screen);
 
     void Show();
     void Hide();

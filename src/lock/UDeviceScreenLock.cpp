@@ -173,7 +173,7 @@ void UDeviceScreenLock::OnIdle() {
 }
 
 void UDeviceScreenLock::CoverScreens() {
-    setGeometry(QGuiApplication::primaryScreen()->geometry());
+    setGeometry(ScreenCovers::WholePlace(*QGuiApplication::primaryScreen()));
     m_covers.Show();
     m_desktop.RaiseTopmost(winId());
     m_desktop.HoldKeyboard(*windowHandle(), true);

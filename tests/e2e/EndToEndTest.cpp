@@ -164,6 +164,13 @@ TEST_F(EndToEndTest, TheLockStaysAboveEverythingAndAgainstEveryAttempt) {
     EXPECT_TRUE(product->WaitForNoLock());
 }
 
+TEST_F(EndToEndTest, TheLockLeavesNoPixelOpenAtAScaleThatDoesNotDivideTheScreen) {
+    product->Scale(2.6);
+    ASSERT_TRUE(product->StartBoth());
+    product->Tell("lock");
+    EXPECT_TRUE(product->WaitForLock());
+}
+
 TEST_F(EndToEndTest, ARestartedServiceIsFoundAgain) {
     ASSERT_TRUE(product->StartBoth());
     product->Agent().Kill();

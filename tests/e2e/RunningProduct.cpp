@@ -134,7 +134,7 @@ std::vector<std::string> RunningProduct::Environment() const {
             "DBUS_SESSION_BUS_ADDRESS",
             "XDG_SESSION_ID",
             "QT_QPA_PLATFORM",
-            "QT_SCALE_FACTOR",
+            "QT_SCALE_FACTOR=" + std::to_string(m_scale),
             "QT_IM_MODULE",
             "XMODIFIERS"};
 }
@@ -259,7 +259,7 @@ bool RunningProduct::WaitForStatus(const QColor& color) const {
 QImage RunningProduct::LockPicture() const {
     const QRect screen(QPoint(0, 0), m_desktop.Size());
     const auto lock = m_desktop.Find(LockTitle);
-    if (!lock || lock->place != screen || m_desktop.TopmostTitle() != LockTitle)
+    if (!lock || !lock->place.contains(screen) || m_desktop.TopmostTitle() != LockTitle)
         return {};
     QImage picture = m_desktop.Screenshot();
     const QRgb background = LockBackground.rgb();

@@ -28,6 +28,8 @@ public:
 
     /// Adds a text to the configuration; counts from the next start of the front end.
     void Configure(const std::string& key, const std::string& value);
+    /// The desktop's scale, such as 1.5; counts from the next start of the front end.
+    void Scale(double scale) { m_scale = scale; }
 
     /// Starts the agent service, behind the words of `launcher` if there are any, and waits until it listens.
     bool StartAgent(const std::vector<std::string>& arguments = {},
@@ -99,6 +101,7 @@ private:
     std::vector<std::string> m_launcher;
     std::map<std::string, std::string> m_configuration;
     std::string m_pipe;
+    double m_scale = 1;
     ChildProcess m_agent;
     ChildProcess m_frontEnd;
     std::map<std::string, ChildProcess> m_foreignPrograms; // by their windows' titles
