@@ -1,9 +1,12 @@
 #include "RunningProduct.h"
 
+#include "platform/context/ProductConstants.h"
 #include "platform/system/SystemPipe.h"
+#include "platform/system/SystemSession.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <cstdlib>
@@ -92,7 +95,13 @@ RunningProduct::RunningProduct(Desktop& desktop)
                        {"language", "en"}};
 }
 
-RunningProduct::~RunningProduct() = default;
+RunningProduct::~RunningProduct() {
+    m_frontEnd.Kill();
+    // Its shared memory outlives it on Linux; the folder that names it goes now.
+    const SystemSession& system = SystemSession::Native();
+    const QFileInfo key(system.SharedMemoryKey(QString::fromLatin1(Product::ShellMarker)));
+    system.ReleaseOrphanedSharedMemory(m_folder.filePath(key.fileName()));
+}
 
 std::string RunningProduct::PathForPrograms(const std::string& path) const {
     return m_launcher.empty() ? path : "Z:" + path;

@@ -10,6 +10,7 @@
 #include <QWidget>
 #include <QtTest>
 #include <gtest/gtest.h>
+#include <memory>
 
 TEST(SystemContract, PipeServerIsThisAccount) {
     const SystemPipe& system = SystemPipe::Native();
@@ -27,23 +28,25 @@ TEST(SystemContract, PipeServerIsThisAccount) {
 
 TEST(SystemContract, SharedMemoryKeyIsUsableAndOrphansGo) {
     const SystemSession& system = SystemSession::Native();
-    QSharedMemory first;
+    std::unique_ptr<QSharedMemory> first;
     QString key;
-    // Where a key is made of a file's number, a segment of another process, ended or not, may have it
-    // already.
-    for (int attempt = 0; attempt < 5 && !first.isAttached(); ++attempt) {
-        key = system.SharedMemoryKey(QStringLiteral("ryx-contract-%1").arg(attempt));
+    // Where a key is made of a file's number, a segment of another process may have it already: an ended
+    // one's is released at the second attempt, when the file is there, and a running one's needs another
+    // file. An object whose creation has failed takes no other key.
+    for (int attempt = 0; attempt < 10 && !(first && first->isAttached()); ++attempt) {
+        key = system.SharedMemoryKey(QStringLiteral("ryx-contract-%1").arg(attempt / 2));
         system.ReleaseOrphanedSharedMemory(key);
-        first.setNativeKey(key);
-        first.create(4);
+        first = std::make_unique<QSharedMemory>();
+        first->setNativeKey(key);
+        first->create(4);
     }
-    ASSERT_TRUE(first.isAttached()) << first.errorString().toStdString();
+    ASSERT_TRUE(first->isAttached()) << first->errorString().toStdString();
     system.ReleaseOrphanedSharedMemory(key);
     QSharedMemory second;
     second.setNativeKey(key);
     EXPECT_TRUE(second.attach()) << "a segment in use must stay";
     second.detach();
-    first.detach();
+    first->detach();
     EXPECT_FALSE(second.attach());
 }
 
