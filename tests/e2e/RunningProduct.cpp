@@ -140,7 +140,7 @@ std::vector<std::string> RunningProduct::Environment() const {
             "TZ=RYX" + std::to_string(-hoursToNoon),
             "WAYLAND_DISPLAY",
             "SESSION_MANAGER",
-            "DBUS_SESSION_BUS_ADDRESS",
+            "DBUS_SESSION_BUS_ADDRESS=disabled:", // without it each program starts a bus that stays
             "XDG_SESSION_ID",
             "QT_QPA_PLATFORM",
             "QT_SCALE_FACTOR=" + std::to_string(m_scale),
