@@ -69,6 +69,16 @@ void Desktop::StartWindowManager() {
     };
     if (!WaitUntil([&] { return manages() || !m_windowManager.IsRunning(); }) || !manages())
         throw std::runtime_error("openbox did not start");
+
+    // It has told that it is there before it is ready: a window that asks to be shown then is forgotten.
+    ShowForeignWindow("Probe", QRect(0, 0, 100, 100), false);
+    const bool ready = WaitUntil([this] {
+        XMapWindow(m_display, m_foreignWindows.back());
+        return Find("Probe").has_value();
+    });
+    if (!ready)
+        throw std::runtime_error("openbox shows no window");
+    CloseForeignWindows();
 }
 
 QSize Desktop::Size() const {
