@@ -270,6 +270,9 @@ QImage RunningProduct::LockPicture() const {
     const auto lock = m_desktop.Find(LockTitle);
     if (!lock || !lock->place.contains(screen) || m_desktop.TopmostTitle() != LockTitle)
         return {};
+    // No further beyond it than rounding needs; scaled, the contents may need more than a small screen has.
+    if (m_scale <= 1 && !screen.adjusted(0, 0, 2, 2).contains(lock->place))
+        return {};
     QImage picture = m_desktop.Screenshot();
     const QRgb background = LockBackground.rgb();
     for (const QPoint& corner :
