@@ -27,93 +27,72 @@ QString ReadText(const QString& path) {
     return QString::fromUtf8(file.readAll());
 }
 
-void CollectKeys(const QString& text, const char* pattern, QSet<QString>& keys) {
+QSet<QString> Matches(const QString& text, const char* pattern) {
+    QSet<QString> found;
     auto matches = QRegularExpression(QString::fromLatin1(pattern)).globalMatch(text);
     while (matches.hasNext())
-        keys.insert(matches.next().captured(1));
+        found.insert(matches.next().captured(1));
+    return found;
 }
 
-/// Every text that the code or a form hands to translation.
-QSet<QString> KeysInUse() {
+/// Every text that the code or a form of the folder hands to translation.
+QSet<QString> KeysInUse(const QString& folder) {
     QSet<QString> keys;
-    QDirIterator files(Sources, {QStringLiteral("*.cpp"), QStringLiteral("*.h"), QStringLiteral("*.ui")},
+    QDirIterator files(folder, {QStringLiteral("*.cpp"), QStringLiteral("*.h"), QStringLiteral("*.ui")},
                        QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext()) {
-        const QString path = files.next();
-        QString text = ReadText(path);
-        if (path.endsWith(QLatin1String(".ui"))) {
-            CollectKeys(text, R"re(<string>([^<]+)</string>)re", keys);
-            continue;
-        }
-        text.remove(QRegularExpression(QStringLiteral("(?m)^\\s*//.*$")));
-        CollectKeys(text, R"re(\b(?:tr|QT_TR_NOOP)\(\s*"([^"]+)")re", keys);
-        CollectKeys(text, R"re(\b(?:translate|QT_TRANSLATE_NOOP)\(\s*"\w+",\s*"([^"]+)")re", keys);
+        QString text = ReadText(files.next());
+        text.remove(QRegularExpression(QStringLiteral("(?m)^\\s*//.*$|\"\\s*\n\\s*\"")));
+        keys += Matches(text, R"re(\b(?:tr|Text|QT_TR_NOOP)\(\s*"([^"]+)")re");
+        keys += Matches(text, R"re(\b(?:translate|QT_TRANSLATE_NOOP)\(\s*"\w*",\s*"([^"]+)")re");
+        keys += Matches(text, R"re(<string>([^<]+)</string>)re");
     }
     return keys;
 }
 
-struct Message {
-    QString text;
-    bool finished = true;
-};
-
-QMap<QString, Message> ReadTranslations(const QString& language) {
-    const QString path = Sources + QStringLiteral("/resources/translations/ryx_%1.ts").arg(language);
-    QMap<QString, Message> messages;
-    const QByteArray content = ReadText(path).toUtf8();
+/// Adds the folder's texts in a language to those of the folders before it.
+void ReadTexts(const QString& folder, const QString& language, QMap<QString, QString>& texts) {
+    const QString path =
+        QStringLiteral("%1/translations/%2_%3.ts").arg(folder, QFileInfo(folder).fileName(), language);
+    const QString content = QFile::exists(path) ? ReadText(path) : QString();
+    EXPECT_FALSE(content.contains(QLatin1String("type=\"unfinished\""))) << path.toStdString();
+    const QSet<QString> used = KeysInUse(folder);
     QXmlStreamReader xml(content);
-    QString key;
     while (!xml.atEnd()) {
-        xml.readNext();
-        if (!xml.isStartElement())
+        if (xml.readNext() != QXmlStreamReader::StartElement || xml.name() != QLatin1String("source"))
             continue;
-        if (xml.name() == QLatin1String("source")) {
-            key = xml.readElementText();
-        } else if (xml.name() == QLatin1String("translation")) {
-            const bool finished = !xml.attributes().hasAttribute(QStringLiteral("type"));
-            EXPECT_FALSE(messages.contains(key))
-                << key.toStdString() << " stands twice in " << path.toStdString();
-            messages.insert(key, {xml.readElementText(), finished});
-        }
+        const QString key = xml.readElementText();
+        SCOPED_TRACE((path + QLatin1Char(' ') + key).toStdString());
+        EXPECT_TRUE(used.contains(key)) << "the folder does not use this key";
+        EXPECT_FALSE(texts.contains(key)) << "the key stands twice";
+        xml.readNextStartElement();
+        texts.insert(key, xml.readElementText());
+        EXPECT_FALSE(texts[key].trimmed().isEmpty());
     }
-    EXPECT_FALSE(xml.hasError()) << path.toStdString() << ": " << xml.errorString().toStdString();
-    return messages;
+    EXPECT_TRUE(content.isEmpty() || !xml.hasError()) << xml.errorString().toStdString();
 }
 
-QSet<QString> Placeholders(const QString& text) {
-    QSet<QString> found;
-    CollectKeys(text, "%([0-9Ln])", found);
-    return found;
-}
-
-TEST(Translations, AreCompleteInEveryLanguageAndNotMore) {
-    const QSet<QString> used = KeysInUse();
-    ASSERT_GT(used.size(), 40) << "the sources were not found in " << Sources.toStdString();
-    const QMap<QString, Message> english = ReadTranslations(QStringLiteral("en"));
+TEST(Translations, AreCompleteAndBuiltInInEveryLanguageAndNotMore) {
+    QMap<QString, QString> english;
     for (const LanguageHelper::Entry& language : LanguageHelper::Languages()) {
         SCOPED_TRACE(language.code.toStdString());
-        const QMap<QString, Message> messages = ReadTranslations(language.code);
-        for (const QString& key : used)
-            EXPECT_TRUE(messages.contains(key)) << "missing: " << key.toStdString();
-        for (auto message = messages.begin(); message != messages.end(); ++message) {
-            SCOPED_TRACE(message.key().toStdString());
-            EXPECT_TRUE(used.contains(message.key())) << "no code uses this key";
-            EXPECT_TRUE(message->finished);
-            EXPECT_FALSE(message->text.trimmed().isEmpty());
-            EXPECT_EQ(Placeholders(message->text), Placeholders(english.value(message.key()).text));
+        QSet<QString> used;
+        QMap<QString, QString> texts;
+        for (const QFileInfo& folder : QDir(Sources).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+            used += KeysInUse(folder.filePath());
+            ReadTexts(folder.filePath(), language.code, texts);
         }
-    }
-}
-
-TEST(Translations, AreBuiltInAndFoundFromEveryClass) {
-    for (const LanguageHelper::Entry& language : LanguageHelper::Languages()) {
+        ASSERT_GT(used.size(), 40) << "the sources were not found in " << Sources.toStdString();
+        if (english.isEmpty())
+            english = texts;
         LanguageHelper::Instance()->SetLanguage(language.code);
         EXPECT_EQ(LanguageHelper::Instance()->Language(), language.code);
-        const QMap<QString, Message> messages = ReadTranslations(language.code);
-        for (auto message = messages.begin(); message != messages.end(); ++message)
-            EXPECT_EQ(QCoreApplication::translate("AnyClass", message.key().toUtf8()), message->text);
+        for (const QString& key : used) {
+            SCOPED_TRACE(key.toStdString());
+            EXPECT_EQ(QCoreApplication::translate("AnyClass", key.toUtf8()), texts.value(key));
+            EXPECT_EQ(Matches(texts.value(key), "%([0-9Ln])"), Matches(english.value(key), "%([0-9Ln])"));
+        }
     }
-    LanguageHelper::Instance()->SetLanguage(QStringLiteral("en"));
     EXPECT_EQ(QCoreApplication::translate("AnyClass", "no such key"), QStringLiteral("no such key"));
 }
 

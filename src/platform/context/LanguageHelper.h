@@ -9,8 +9,8 @@
 class KeyTranslator;
 
 /// The language in use. Texts are translation keys, and a key means the same wherever it is used: the
-/// .ts files hold each key once, in one context, whatever class's tr() asks for it. What a language leaves
-/// out is shown in English. GUI thread.
+/// .ts files hold each key once, in one context, whoever's tr() or Text() asks for it. What a language
+/// leaves out is shown in English. GUI thread.
 class LanguageHelper : public QObject {
     Q_OBJECT
 

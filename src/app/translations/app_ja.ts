@@ -12,18 +12,6 @@
         <translation>Velmora RYX について</translation>
     </message>
     <message>
-        <source>button_back</source>
-        <translation>戻る</translation>
-    </message>
-    <message>
-        <source>button_close</source>
-        <translation>ウィンドウを閉じる</translation>
-    </message>
-    <message>
-        <source>button_ok</source>
-        <translation>OK</translation>
-    </message>
-    <message>
         <source>enrolment_sentence</source>
         <translation>このデバイスが属する組織と管理者を確認できます。</translation>
     </message>
@@ -136,30 +124,6 @@
         <translation>ライブチャンネル</translation>
     </message>
     <message>
-        <source>loading</source>
-        <translation>お待ちください…</translation>
-    </message>
-    <message>
-        <source>lock_digit_name</source>
-        <translation>6 桁中 %1 桁目</translation>
-    </message>
-    <message>
-        <source>lock_erase_digit</source>
-        <translation>最後の数字を消去</translation>
-    </message>
-    <message>
-        <source>lock_password_title</source>
-        <translation>6 桁のパスワードを入力してください</translation>
-    </message>
-    <message>
-        <source>lock_show_password</source>
-        <translation>パスワードを表示</translation>
-    </message>
-    <message>
-        <source>lock_window_title</source>
-        <translation>画面ロック</translation>
-    </message>
-    <message>
         <source>menu_about</source>
         <translation>このアプリについて</translation>
     </message>
@@ -214,18 +178,6 @@
     <message>
         <source>Please contact IT administrator</source>
         <translation>IT 管理者にお問い合わせください</translation>
-    </message>
-    <message>
-        <source>remote_x_btn_enter_pwd</source>
-        <translation>パスワードを入力</translation>
-    </message>
-    <message>
-        <source>remote_x_screen_lock_msg</source>
-        <translation>%1 により、この画面は %2 までロックされています。</translation>
-    </message>
-    <message>
-        <source>remote_x_screen_lock_msg_without_time</source>
-        <translation>%1 により、この画面はロックされています。</translation>
     </message>
     <message>
         <source>Report a problem</source>

@@ -12,18 +12,6 @@
         <translation>À propos de Velmora RYX</translation>
     </message>
     <message>
-        <source>button_back</source>
-        <translation>Retour</translation>
-    </message>
-    <message>
-        <source>button_close</source>
-        <translation>Fermer la fenêtre</translation>
-    </message>
-    <message>
-        <source>button_ok</source>
-        <translation>OK</translation>
-    </message>
-    <message>
         <source>enrolment_sentence</source>
         <translation>Vous voyez ici à quelle organisation appartient cet appareil et qui l’administre.</translation>
     </message>
@@ -136,30 +124,6 @@
         <translation>Chaînes en direct</translation>
     </message>
     <message>
-        <source>loading</source>
-        <translation>Veuillez patienter …</translation>
-    </message>
-    <message>
-        <source>lock_digit_name</source>
-        <translation>Chiffre %1 sur 6</translation>
-    </message>
-    <message>
-        <source>lock_erase_digit</source>
-        <translation>Effacer le dernier chiffre</translation>
-    </message>
-    <message>
-        <source>lock_password_title</source>
-        <translation>Saisissez le mot de passe à six chiffres</translation>
-    </message>
-    <message>
-        <source>lock_show_password</source>
-        <translation>Afficher le mot de passe</translation>
-    </message>
-    <message>
-        <source>lock_window_title</source>
-        <translation>Verrouillage de l’écran</translation>
-    </message>
-    <message>
         <source>menu_about</source>
         <translation>À propos</translation>
     </message>
@@ -214,18 +178,6 @@
     <message>
         <source>Please contact IT administrator</source>
         <translation>Veuillez contacter l’administrateur informatique</translation>
-    </message>
-    <message>
-        <source>remote_x_btn_enter_pwd</source>
-        <translation>Saisir le mot de passe</translation>
-    </message>
-    <message>
-        <source>remote_x_screen_lock_msg</source>
-        <translation>%1 a verrouillé cet écran jusqu’à %2.</translation>
-    </message>
-    <message>
-        <source>remote_x_screen_lock_msg_without_time</source>
-        <translation>%1 a verrouillé cet écran.</translation>
     </message>
     <message>
         <source>Report a problem</source>

@@ -12,18 +12,6 @@
         <translation>Über Velmora RYX</translation>
     </message>
     <message>
-        <source>button_back</source>
-        <translation>Zurück</translation>
-    </message>
-    <message>
-        <source>button_close</source>
-        <translation>Fenster schließen</translation>
-    </message>
-    <message>
-        <source>button_ok</source>
-        <translation>OK</translation>
-    </message>
-    <message>
         <source>enrolment_sentence</source>
         <translation>Hier sehen Sie, zu welcher Organisation dieses Gerät gehört und wer es verwaltet.</translation>
     </message>
@@ -136,30 +124,6 @@
         <translation>Live-Kanäle</translation>
     </message>
     <message>
-        <source>loading</source>
-        <translation>Bitte warten …</translation>
-    </message>
-    <message>
-        <source>lock_digit_name</source>
-        <translation>Ziffer %1 von 6</translation>
-    </message>
-    <message>
-        <source>lock_erase_digit</source>
-        <translation>Letzte Ziffer löschen</translation>
-    </message>
-    <message>
-        <source>lock_password_title</source>
-        <translation>Sechsstelliges Passwort eingeben</translation>
-    </message>
-    <message>
-        <source>lock_show_password</source>
-        <translation>Passwort anzeigen</translation>
-    </message>
-    <message>
-        <source>lock_window_title</source>
-        <translation>Bildschirmsperre</translation>
-    </message>
-    <message>
         <source>menu_about</source>
         <translation>Info</translation>
     </message>
@@ -214,18 +178,6 @@
     <message>
         <source>Please contact IT administrator</source>
         <translation>Bitte wenden Sie sich an die IT-Administration</translation>
-    </message>
-    <message>
-        <source>remote_x_btn_enter_pwd</source>
-        <translation>Passwort eingeben</translation>
-    </message>
-    <message>
-        <source>remote_x_screen_lock_msg</source>
-        <translation>%1 hat diesen Bildschirm bis %2 Uhr gesperrt.</translation>
-    </message>
-    <message>
-        <source>remote_x_screen_lock_msg_without_time</source>
-        <translation>%1 hat diesen Bildschirm gesperrt.</translation>
     </message>
     <message>
         <source>Report a problem</source>

@@ -12,18 +12,6 @@
         <translation>About Velmora RYX</translation>
     </message>
     <message>
-        <source>button_back</source>
-        <translation>Back</translation>
-    </message>
-    <message>
-        <source>button_close</source>
-        <translation>Close window</translation>
-    </message>
-    <message>
-        <source>button_ok</source>
-        <translation>OK</translation>
-    </message>
-    <message>
         <source>enrolment_sentence</source>
         <translation>Here you see which organisation this device belongs to and who administers it.</translation>
     </message>
@@ -136,30 +124,6 @@
         <translation>Live channels</translation>
     </message>
     <message>
-        <source>loading</source>
-        <translation>Please wait …</translation>
-    </message>
-    <message>
-        <source>lock_digit_name</source>
-        <translation>Digit %1 of 6</translation>
-    </message>
-    <message>
-        <source>lock_erase_digit</source>
-        <translation>Erase the last digit</translation>
-    </message>
-    <message>
-        <source>lock_password_title</source>
-        <translation>Enter the six-digit password</translation>
-    </message>
-    <message>
-        <source>lock_show_password</source>
-        <translation>Show password</translation>
-    </message>
-    <message>
-        <source>lock_window_title</source>
-        <translation>Screen lock</translation>
-    </message>
-    <message>
         <source>menu_about</source>
         <translation>About</translation>
     </message>
@@ -214,18 +178,6 @@
     <message>
         <source>Please contact IT administrator</source>
         <translation>Please contact IT administrator</translation>
-    </message>
-    <message>
-        <source>remote_x_btn_enter_pwd</source>
-        <translation>Enter password</translation>
-    </message>
-    <message>
-        <source>remote_x_screen_lock_msg</source>
-        <translation>%1 has locked this screen until %2.</translation>
-    </message>
-    <message>
-        <source>remote_x_screen_lock_msg_without_time</source>
-        <translation>%1 has locked this screen.</translation>
     </message>
     <message>
         <source>Report a problem</source>

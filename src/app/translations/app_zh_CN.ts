@@ -12,18 +12,6 @@
         <translation>关于 Velmora RYX</translation>
     </message>
     <message>
-        <source>button_back</source>
-        <translation>返回</translation>
-    </message>
-    <message>
-        <source>button_close</source>
-        <translation>关闭窗口</translation>
-    </message>
-    <message>
-        <source>button_ok</source>
-        <translation>确定</translation>
-    </message>
-    <message>
         <source>enrolment_sentence</source>
         <translation>在此查看此设备所属的组织及其管理员。</translation>
     </message>
@@ -136,30 +124,6 @@
         <translation>直播频道</translation>
     </message>
     <message>
-        <source>loading</source>
-        <translation>请稍候……</translation>
-    </message>
-    <message>
-        <source>lock_digit_name</source>
-        <translation>第 %1 位，共 6 位</translation>
-    </message>
-    <message>
-        <source>lock_erase_digit</source>
-        <translation>删除最后一位</translation>
-    </message>
-    <message>
-        <source>lock_password_title</source>
-        <translation>输入六位数字密码</translation>
-    </message>
-    <message>
-        <source>lock_show_password</source>
-        <translation>显示密码</translation>
-    </message>
-    <message>
-        <source>lock_window_title</source>
-        <translation>屏幕锁定</translation>
-    </message>
-    <message>
         <source>menu_about</source>
         <translation>关于</translation>
     </message>
@@ -214,18 +178,6 @@
     <message>
         <source>Please contact IT administrator</source>
         <translation>请联系 IT 管理员</translation>
-    </message>
-    <message>
-        <source>remote_x_btn_enter_pwd</source>
-        <translation>输入密码</translation>
-    </message>
-    <message>
-        <source>remote_x_screen_lock_msg</source>
-        <translation>%1 已锁定此屏幕，直到 %2。</translation>
-    </message>
-    <message>
-        <source>remote_x_screen_lock_msg_without_time</source>
-        <translation>%1 已锁定此屏幕。</translation>
     </message>
     <message>
         <source>Report a problem</source>

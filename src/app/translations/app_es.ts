@@ -12,18 +12,6 @@
         <translation>Acerca de Velmora RYX</translation>
     </message>
     <message>
-        <source>button_back</source>
-        <translation>Atrás</translation>
-    </message>
-    <message>
-        <source>button_close</source>
-        <translation>Cerrar la ventana</translation>
-    </message>
-    <message>
-        <source>button_ok</source>
-        <translation>Aceptar</translation>
-    </message>
-    <message>
         <source>enrolment_sentence</source>
         <translation>Aquí se ve a qué organización pertenece este dispositivo y quién lo administra.</translation>
     </message>
@@ -136,30 +124,6 @@
         <translation>Canales en directo</translation>
     </message>
     <message>
-        <source>loading</source>
-        <translation>Espere, por favor…</translation>
-    </message>
-    <message>
-        <source>lock_digit_name</source>
-        <translation>Dígito %1 de 6</translation>
-    </message>
-    <message>
-        <source>lock_erase_digit</source>
-        <translation>Borrar el último dígito</translation>
-    </message>
-    <message>
-        <source>lock_password_title</source>
-        <translation>Introduzca la contraseña de seis dígitos</translation>
-    </message>
-    <message>
-        <source>lock_show_password</source>
-        <translation>Mostrar la contraseña</translation>
-    </message>
-    <message>
-        <source>lock_window_title</source>
-        <translation>Bloqueo de pantalla</translation>
-    </message>
-    <message>
         <source>menu_about</source>
         <translation>Acerca de</translation>
     </message>
@@ -214,18 +178,6 @@
     <message>
         <source>Please contact IT administrator</source>
         <translation>Póngase en contacto con el administrador de TI</translation>
-    </message>
-    <message>
-        <source>remote_x_btn_enter_pwd</source>
-        <translation>Introducir la contraseña</translation>
-    </message>
-    <message>
-        <source>remote_x_screen_lock_msg</source>
-        <translation>%1 ha bloqueado esta pantalla hasta las %2.</translation>
-    </message>
-    <message>
-        <source>remote_x_screen_lock_msg_without_time</source>
-        <translation>%1 ha bloqueado esta pantalla.</translation>
     </message>
     <message>
         <source>Report a problem</source>

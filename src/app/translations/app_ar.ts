@@ -12,18 +12,6 @@
         <translation>حول Velmora RYX</translation>
     </message>
     <message>
-        <source>button_back</source>
-        <translation>رجوع</translation>
-    </message>
-    <message>
-        <source>button_close</source>
-        <translation>إغلاق النافذة</translation>
-    </message>
-    <message>
-        <source>button_ok</source>
-        <translation>موافق</translation>
-    </message>
-    <message>
         <source>enrolment_sentence</source>
         <translation>هنا ترى المؤسسة التي يتبع لها هذا الجهاز ومن يديره.</translation>
     </message>
@@ -136,30 +124,6 @@
         <translation>القنوات المباشرة</translation>
     </message>
     <message>
-        <source>loading</source>
-        <translation>يُرجى الانتظار…</translation>
-    </message>
-    <message>
-        <source>lock_digit_name</source>
-        <translation>الرقم %1 من 6</translation>
-    </message>
-    <message>
-        <source>lock_erase_digit</source>
-        <translation>مسح الرقم الأخير</translation>
-    </message>
-    <message>
-        <source>lock_password_title</source>
-        <translation>أدخل كلمة المرور المكوّنة من ستة أرقام</translation>
-    </message>
-    <message>
-        <source>lock_show_password</source>
-        <translation>إظهار كلمة المرور</translation>
-    </message>
-    <message>
-        <source>lock_window_title</source>
-        <translation>قفل الشاشة</translation>
-    </message>
-    <message>
         <source>menu_about</source>
         <translation>حول</translation>
     </message>
@@ -214,18 +178,6 @@
     <message>
         <source>Please contact IT administrator</source>
         <translation>يُرجى التواصل مع مسؤول تقنية المعلومات</translation>
-    </message>
-    <message>
-        <source>remote_x_btn_enter_pwd</source>
-        <translation>إدخال كلمة المرور</translation>
-    </message>
-    <message>
-        <source>remote_x_screen_lock_msg</source>
-        <translation>قفل %1 هذه الشاشة حتى الساعة %2.</translation>
-    </message>
-    <message>
-        <source>remote_x_screen_lock_msg_without_time</source>
-        <translation>قفل %1 هذه الشاشة.</translation>
     </message>
     <message>
         <source>Report a problem</source>

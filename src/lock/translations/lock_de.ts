@@ -1,0 +1,39 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>Ryx</name>
+    <message>
+        <source>lock_digit_name</source>
+        <translation>Ziffer %1 von 6</translation>
+    </message>
+    <message>
+        <source>lock_erase_digit</source>
+        <translation>Letzte Ziffer löschen</translation>
+    </message>
+    <message>
+        <source>lock_password_title</source>
+        <translation>Sechsstelliges Passwort eingeben</translation>
+    </message>
+    <message>
+        <source>lock_show_password</source>
+        <translation>Passwort anzeigen</translation>
+    </message>
+    <message>
+        <source>lock_window_title</source>
+        <translation>Bildschirmsperre</translation>
+    </message>
+    <message>
+        <source>remote_x_btn_enter_pwd</source>
+        <translation>Passwort eingeben</translation>
+    </message>
+    <message>
+        <source>remote_x_screen_lock_msg</source>
+        <translation>%1 hat diesen Bildschirm bis %2 Uhr gesperrt.</translation>
+    </message>
+    <message>
+        <source>remote_x_screen_lock_msg_without_time</source>
+        <translation>%1 hat diesen Bildschirm gesperrt.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,39 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name>Ryx</name>
+    <message>
+        <source>lock_digit_name</source>
+        <translation>Digit %1 of 6</translation>
+    </message>
+    <message>
+        <source>lock_erase_digit</source>
+        <translation>Erase the last digit</translation>
+    </message>
+    <message>
+        <source>lock_password_title</source>
+        <translation>Enter the six-digit password</translation>
+    </message>
+    <message>
+        <source>lock_show_password</source>
+        <translation>Show password</translation>
+    </message>
+    <message>
+        <source>lock_window_title</source>
+        <translation>Screen lock</translation>
+    </message>
+    <message>
+        <source>remote_x_btn_enter_pwd</source>
+        <translation>Enter password</translation>
+    </message>
+    <message>
+        <source>remote_x_screen_lock_msg</source>
+        <translation>%1 has locked this screen until %2.</translation>
+    </message>
+    <message>
+        <source>remote_x_screen_lock_msg_without_time</source>
+        <translation>%1 has locked this screen.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,39 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>Ryx</name>
+    <message>
+        <source>lock_digit_name</source>
+        <translation>6 桁中 %1 桁目</translation>
+    </message>
+    <message>
+        <source>lock_erase_digit</source>
+        <translation>最後の数字を消去</translation>
+    </message>
+    <message>
+        <source>lock_password_title</source>
+        <translation>6 桁のパスワードを入力してください</translation>
+    </message>
+    <message>
+        <source>lock_show_password</source>
+        <translation>パスワードを表示</translation>
+    </message>
+    <message>
+        <source>lock_window_title</source>
+        <translation>画面ロック</translation>
+    </message>
+    <message>
+        <source>remote_x_btn_enter_pwd</source>
+        <translation>パスワードを入力</translation>
+    </message>
+    <message>
+        <source>remote_x_screen_lock_msg</source>
+        <translation>%1 により、この画面は %2 までロックされています。</translation>
+    </message>
+    <message>
+        <source>remote_x_screen_lock_msg_without_time</source>
+        <translation>%1 により、この画面はロックされています。</translation>
+    </message>
+</context>
+</TS>
