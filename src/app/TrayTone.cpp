@@ -1,21 +1,21 @@
 #include "app/TrayTone.h"
 
 #include "platform/context/Theme.h"
-#include "platform/system/SystemDesktop.h"
+#include "platform/system/SystemAppearance.h"
 
 namespace {
 
 constexpr int LookAgainMs = 5000;
 
 bool IsTrayDark() {
-    return SystemDesktop::Native().IsTaskbarDark().value_or(Theme::Instance()->IsDesktopDark());
+    return SystemAppearance::Native().IsTaskbarDark().value_or(Theme::Instance()->IsDesktopDark());
 }
 
 } // namespace
 
 TrayTone::TrayTone(QObject* parent) : QObject(parent), m_dark(IsTrayDark()) {
     connect(&m_lookAgain, &QTimer::timeout, this, &TrayTone::Look);
-    if (SystemDesktop::Native().IsTaskbarDark())
+    if (SystemAppearance::Native().IsTaskbarDark())
         m_lookAgain.start(LookAgainMs);
 }
 

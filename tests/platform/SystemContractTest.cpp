@@ -1,7 +1,8 @@
 // What every operating system's back end must do alike.
-#include "platform/system/SystemDesktop.h"
+#include "platform/system/SystemInput.h"
 #include "platform/system/SystemPipe.h"
 #include "platform/system/SystemSession.h"
+#include "platform/system/SystemWindows.h"
 
 #include <QDir>
 #include <QLocalServer>
@@ -69,7 +70,7 @@ TEST(SystemContract, HResultErrorTellsCodeAndHasWords) {
 }
 
 TEST(SystemContract, AWindowMadeHiddenShowsAndRisesAtItsSize) {
-    const SystemDesktop& system = SystemDesktop::Native();
+    const SystemWindows& system = SystemWindows::Native();
     QWidget window;
     window.setGeometry(40, 50, 300, 200);
     system.CreateHidden(window);
@@ -81,5 +82,5 @@ TEST(SystemContract, AWindowMadeHiddenShowsAndRisesAtItsSize) {
     system.RaiseTopmost(window.winId());
     QCoreApplication::processEvents();
     EXPECT_EQ(window.size(), QSize(300, 200)); // its place is the window manager's to choose
-    EXPECT_GE(system.MillisecondsSinceInput(), -1);
+    EXPECT_GE(SystemInput::Native().MillisecondsSinceInput(), -1);
 }

@@ -1,21 +1,34 @@
 #pragma once
 
-#include "platform/system/SystemDesktop.h"
+#include "platform/system/SystemInput.h"
+#include "platform/system/SystemWindows.h"
 
+#include <gtest/gtest.h>
 #include <vector>
 
-/// A desktop that does nothing but remember, with a scripted idle time.
-class FakeDesktop : public SystemDesktop {
+/// Windows that do nothing but remember what was asked of them.
+class FakeWindows : public SystemWindows {
 public:
-    void PrepareApplication() const override {}
     void AllowTakingForeground() const override {}
-    void RaiseTopmost(WId window) const override { raised.push_back(window); }
-    void HoldKeyboard(QWindow&, bool hold) const override { holdsKeyboard = hold; }
     void CreateHidden(QWidget&) const override {}
-    qint64 MillisecondsSinceInput() const override { return idleMs; }
-    std::optional<bool> IsTaskbarDark() const override { return std::nullopt; }
+    void RaiseTopmost(WId window) const override { order = {window}; }
+    void PlaceBelow(WId window, WId above) const override {
+        EXPECT_EQ(order.empty() ? 0 : order.back(), above);
+        order.push_back(window);
+    }
 
-    mutable std::vector<WId> raised;
-    mutable bool holdsKeyboard = false;
+    mutable std::vector<WId> order; // the highest first
+};
+
+/// An input that remembers who has the keyboard, with a scripted idle time.
+class FakeInput : public SystemInput {
+public:
+    qint64 MillisecondsSinceInput() const override { return idleMs; }
+
+    mutable QWindow* keyboard = nullptr; // who has it
     qint64 idleMs = 0;
+
+protected:
+    void TakeKeyboard(QWindow& window) const override { keyboard = &window; }
+    void FreeKeyboard(QWindow&) const override { keyboard = nullptr; }
 };

@@ -1,9 +1,13 @@
 // What only Windows has to do: the calls whose effect another program can see.
-#include "platform/system/SystemDesktop.h"
+#include "platform/system/SystemInput.h"
 #include "platform/system/SystemSession.h"
+#include "platform/system/SystemWindows.h"
 #include "platform/system/windows/ProcessAccount.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QKeyEvent>
+#include <QTemporaryFile>
 #include <QWidget>
 #include <QtTest>
 #include <algorithm>
@@ -13,6 +17,7 @@
 
 #include <windows.h>
 
+#include <aclapi.h>
 #include <objbase.h>
 
 namespace {
@@ -57,7 +62,7 @@ void OnFreshThread(Act act) {
 
 } // namespace
 
-TEST(WindowsDesktop, RaisesToTheTopmostBandAndNothingElse) {
+TEST(WindowsWindows, RaisesToTheTopmostBandAndNothingElse) {
     QWidget window;
     window.setGeometry(40, 50, 300, 200);
     window.show();
@@ -66,7 +71,7 @@ TEST(WindowsDesktop, RaisesToTheTopmostBandAndNothingElse) {
     const HWND foreground = GetForegroundWindow();
     const QRect geometry = window.geometry();
 
-    SystemDesktop::Native().RaiseTopmost(window.winId());
+    SystemWindows::Native().RaiseTopmost(window.winId());
 
     EXPECT_EQ(ExtendedStyle(window) & WS_EX_TOPMOST, WS_EX_TOPMOST);
     EXPECT_EQ(GetForegroundWindow(), foreground);
@@ -74,7 +79,7 @@ TEST(WindowsDesktop, RaisesToTheTopmostBandAndNothingElse) {
     EXPECT_EQ(window.geometry(), geometry);
 }
 
-TEST(WindowsDesktop, AHiddenWindowIsMadeOffTheTaskbarAndGetsItsStyleBack) {
+TEST(WindowsWindows, AHiddenWindowIsMadeOffTheTaskbarAndGetsItsStyleBack) {
     const LONG taskbar = WS_EX_APPWINDOW | WS_EX_TOOLWINDOW;
     struct Window : QWidget {
         void showEvent(QShowEvent*) override { shownWith = ExtendedStyle(*this); }
@@ -85,13 +90,13 @@ TEST(WindowsDesktop, AHiddenWindowIsMadeOffTheTaskbarAndGetsItsStyleBack) {
     const LONG before = ExtendedStyle(window);
     ASSERT_EQ(before & taskbar, WS_EX_APPWINDOW);
 
-    SystemDesktop::Native().CreateHidden(window);
+    SystemWindows::Native().CreateHidden(window);
     EXPECT_EQ(window.shownWith & taskbar, WS_EX_TOOLWINDOW);
     EXPECT_EQ(ExtendedStyle(window), before);
     EXPECT_FALSE(IsWindowVisible(reinterpret_cast<HWND>(window.winId())));
 }
 
-TEST(WindowsDesktop, AHeldKeyboardKeepsTheShellsKeysAndOnlyThose) {
+TEST(WindowsInput, AHeldKeyboardKeepsTheShellsKeysAndOnlyThose) {
     struct Window : QWidget {
         bool event(QEvent* event) override {
             if (event->type() != QEvent::KeyPress)
@@ -117,10 +122,10 @@ TEST(WindowsDesktop, AHeldKeyboardKeepsTheShellsKeysAndOnlyThose) {
         return QTest::qWaitFor([&] { return !window.keys.empty() && window.keys.back() == '5'; });
     };
 
-    SystemDesktop::Native().HoldKeyboard(*window.windowHandle(), true);
+    SystemInput::Native().HoldKeyboard(*window.windowHandle());
     ASSERT_TRUE(pressAll());
     EXPECT_EQ(window.keys, seenWhileHeld);
-    SystemDesktop::Native().HoldKeyboard(*window.windowHandle(), false);
+    SystemInput::Native().ReleaseKeyboard(*window.windowHandle());
     ASSERT_TRUE(pressAll());
     EXPECT_GT(window.keys.size(), seenWhileHeld.size());
 
@@ -128,37 +133,45 @@ TEST(WindowsDesktop, AHeldKeyboardKeepsTheShellsKeysAndOnlyThose) {
     window.keys.clear();
     SendKey(VK_LWIN, true);
     ASSERT_TRUE(QTest::qWaitFor([&] { return !window.keys.empty(); }));
-    SystemDesktop::Native().HoldKeyboard(*window.windowHandle(), true);
+    SystemInput::Native().HoldKeyboard(*window.windowHandle());
     PressTogether({'D'});
     SendKey(VK_LWIN, false);
     PressTogether({'5'});
     EXPECT_TRUE(QTest::qWaitFor([&] { return window.keys.back() == '5'; }));
-    SystemDesktop::Native().HoldKeyboard(*window.windowHandle(), false);
+    SystemInput::Native().ReleaseKeyboard(*window.windowHandle());
     EXPECT_EQ(window.keys, (std::vector<DWORD>{VK_LWIN, '5'}));
 }
 
-TEST(WindowsDesktop, InputEndsTheIdleTime) {
-    const SystemDesktop& desktop = SystemDesktop::Native();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return desktop.MillisecondsSinceInput() > 300; }));
+TEST(WindowsInput, InputEndsTheIdleTime) {
+    const SystemInput& input = SystemInput::Native();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return input.MillisecondsSinceInput() > 300; }));
     INPUT move{};
     move.type = INPUT_MOUSE;
     move.mi.dx = 1;
     move.mi.dwFlags = MOUSEEVENTF_MOVE;
     ASSERT_EQ(SendInput(1, &move, sizeof move), 1u);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return desktop.MillisecondsSinceInput() < 300; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return input.MillisecondsSinceInput() < 300; }));
 }
 
-TEST(WindowsSession, ComIsInitialisedOncePerThreadOrSaysWhyNot) {
+APTTYPE Apartment() {
+    APTTYPE type{};
+    APTTYPEQUALIFIER qualifier{};
+    EXPECT_EQ(CoGetApartmentType(&type, &qualifier), S_OK);
+    return type;
+}
+
+TEST(WindowsSession, ComIsMultithreadedForTheProcessAndSingleThreadedForTheGui) {
     OnFreshThread([] {
         EXPECT_NO_THROW(SystemSession::Native().InitializeCom());
-        EXPECT_NO_THROW(SystemSession::Native().InitializeCom()) << "a second time is no error";
-        APTTYPE type{};
-        APTTYPEQUALIFIER qualifier{};
-        EXPECT_EQ(CoGetApartmentType(&type, &qualifier), S_OK);
-        EXPECT_EQ(type, APTTYPE_MTA);
-        CoUninitialize();
-        CoUninitialize();
+        EXPECT_EQ(Apartment(), APTTYPE_MTA) << "the process's, although the thread has given its own up";
     });
+    OnFreshThread([] { EXPECT_EQ(Apartment(), APTTYPE_MTA); });
+    const APTTYPE gui = Apartment();
+    EXPECT_TRUE(gui == APTTYPE_MAINSTA || gui == APTTYPE_STA) << gui;
+
+    QGuiApplication::clipboard()->setText(QStringLiteral("Grüße, 漢字"));
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("Grüße, 漢字"));
+
     OnFreshThread([] {
         ASSERT_EQ(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED), S_OK);
         try {
@@ -172,6 +185,27 @@ TEST(WindowsSession, ComIsInitialisedOncePerThreadOrSaysWhyNot) {
         }
         CoUninitialize();
     });
+}
+
+TEST(WindowsSession, APrivateFileIsForItsOwnerAndTheAdministratorsAlone) {
+    QTemporaryFile file;
+    ASSERT_TRUE(file.open());
+    ASSERT_TRUE(SystemSession::Native().KeepPrivate(file.fileName()));
+    PSECURITY_DESCRIPTOR descriptor = nullptr;
+    PACL list = nullptr;
+    ASSERT_EQ(GetNamedSecurityInfoW(const_cast<wchar_t*>(file.fileName().toStdWString().c_str()),
+                                    SE_FILE_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr, &list,
+                                    nullptr, &descriptor),
+              ERROR_SUCCESS);
+    ASSERT_TRUE(list);
+    for (DWORD i = 0; i < list->AceCount; ++i) {
+        void* entry = nullptr;
+        ASSERT_TRUE(GetAce(list, i, &entry));
+        const PSID account = &static_cast<ACCESS_ALLOWED_ACE*>(entry)->SidStart;
+        EXPECT_FALSE(IsWellKnownSid(account, WinWorldSid) || IsWellKnownSid(account, WinBuiltinUsersSid) ||
+                     IsWellKnownSid(account, WinAuthenticatedUserSid));
+    }
+    LocalFree(descriptor);
 }
 
 TEST(WindowsSession, AnsiTextIsInTheCodePageOfFileFunctions) {

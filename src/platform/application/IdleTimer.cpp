@@ -1,10 +1,10 @@
 #include "platform/application/IdleTimer.h"
 
-#include "platform/system/SystemDesktop.h"
+#include "platform/system/SystemInput.h"
 
-IdleTimer::IdleTimer(QObject* parent) : IdleTimer(SystemDesktop::Native(), parent) {}
+IdleTimer::IdleTimer(QObject* parent) : IdleTimer(SystemInput::Native(), parent) {}
 
-IdleTimer::IdleTimer(const SystemDesktop& desktop, QObject* parent) : QObject(parent), m_desktop(desktop) {
+IdleTimer::IdleTimer(const SystemInput& input, QObject* parent) : QObject(parent), m_input(input) {
     m_check.setSingleShot(true);
     m_check.setTimerType(Qt::VeryCoarseTimer);
     connect(&m_check, &QTimer::timeout, this, &IdleTimer::Check);
@@ -20,7 +20,7 @@ void IdleTimer::Stop() {
 }
 
 void IdleTimer::Check() {
-    const qint64 idle = m_desktop.MillisecondsSinceInput();
+    const qint64 idle = m_input.MillisecondsSinceInput();
     if (idle >= 0 && idle < m_limitMs)
         m_check.start(static_cast<int>(m_limitMs - idle)); // the earliest moment it can be now
     else

@@ -3,7 +3,7 @@
 #include <QObject>
 #include <QTimer>
 
-class SystemDesktop;
+class SystemInput;
 
 /// Tells once when the user has not touched keyboard, mouse or screen for a while. GUI thread.
 class IdleTimer : public QObject {
@@ -11,7 +11,7 @@ class IdleTimer : public QObject {
 
 public:
     explicit IdleTimer(QObject* parent = nullptr);
-    IdleTimer(const SystemDesktop& desktop, QObject* parent);
+    IdleTimer(const SystemInput& input, QObject* parent);
 
     /// Starts, or starts again: Timeout comes after `seconds` without user input, counted from now at
     /// the earliest.
@@ -25,7 +25,7 @@ signals:
 private:
     void Check();
 
-    const SystemDesktop& m_desktop;
+    const SystemInput& m_input;
     QTimer m_check{this};
     qint64 m_limitMs = 0;
 };

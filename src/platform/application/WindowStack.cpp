@@ -1,6 +1,6 @@
 #include "platform/application/WindowStack.h"
 
-#include "platform/system/SystemDesktop.h"
+#include "platform/system/SystemWindows.h"
 
 #include <QEvent>
 #include <QVariant>
@@ -16,9 +16,9 @@ int Level(const QPointer<QWidget>& window) {
 
 } // namespace
 
-WindowStack::WindowStack() : WindowStack(SystemDesktop::Native()) {}
+WindowStack::WindowStack() : WindowStack(SystemWindows::Native()) {}
 
-WindowStack::WindowStack(const SystemDesktop& desktop) : m_desktop(desktop) {}
+WindowStack::WindowStack(const SystemWindows& system) : m_system(system) {}
 
 WindowStack* WindowStack::Instance() {
     static WindowStack stack;
@@ -27,16 +27,29 @@ WindowStack* WindowStack::Instance() {
 
 void WindowStack::PushWindow(QWidget* window) {
     m_windows.erase(std::remove(m_windows.begin(), m_windows.end(), nullptr), m_windows.end());
-    m_windows.emplace_back(window);
+    m_windows.emplace(m_windows.begin(), window); // above those of its own level
     std::stable_sort(m_windows.begin(), m_windows.end(),
-                     [](const auto& a, const auto& b) { return Level(a) < Level(b); });
+                     [](const auto& a, const auto& b) { return Level(a) > Level(b); });
     window->installEventFilter(this);
 }
 
+QWidget* WindowStack::Highest() const {
+    const auto shown = std::find_if(m_windows.begin(), m_windows.end(),
+                                    [](const auto& window) { return window && window->isVisible(); });
+    return shown == m_windows.end() ? nullptr : shown->data();
+}
+
 void WindowStack::Restack() {
-    for (const QPointer<QWidget>& window : m_windows)
-        if (window && window->isVisible())
-            m_desktop.RaiseTopmost(window->winId());
+    const QWidget* above = nullptr;
+    for (const QPointer<QWidget>& window : m_windows) {
+        if (!window || !window->isVisible())
+            continue;
+        if (above)
+            m_system.PlaceBelow(window->winId(), above->winId());
+        else
+            m_system.RaiseTopmost(window->winId());
+        above = window;
+    }
 }
 
 bool WindowStack::eventFilter(QObject* watched, QEvent* event) {

@@ -5,7 +5,7 @@
 #include <vector>
 
 class QWidget;
-class SystemDesktop;
+class SystemWindows;
 
 /// Keeps the product's topmost windows in order: of those on screen, the one with the higher dynamic
 /// property "TopLevel" stays above, whatever is shown or activated later. GUI thread.
@@ -14,20 +14,24 @@ class WindowStack : public QObject {
 
 public:
     WindowStack();
-    explicit WindowStack(const SystemDesktop& desktop);
+    explicit WindowStack(const SystemWindows& system);
 
     static WindowStack* Instance();
 
     /// Registers a top-level window, until it is destroyed.
     void PushWindow(QWidget* window);
 
-    /// Lifts all registered windows that are on screen, the lowest first.
+    /// The registered window on screen with the highest level; null when none is there.
+    QWidget* Highest() const;
+
+    /// Lifts the highest window that is on screen and places the others below it, each below the next
+    /// higher one, so that none shows above its betters even for a moment.
     void Restack();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    const SystemDesktop& m_desktop;
-    std::vector<QPointer<QWidget>> m_windows;
+    const SystemWindows& m_system;
+    std::vector<QPointer<QWidget>> m_windows; // the highest first
     bool m_restackPosted = false;
 };

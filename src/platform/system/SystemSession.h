@@ -22,8 +22,16 @@ public:
     /// Number of the user session; 0 where the system has no such number.
     virtual quint32 SessionId() const = 0;
 
-    /// Makes the calling thread ready for COM. Throws HResultError; does nothing where there is no COM.
+    /// Makes the process ready for COM: it gets a multithreaded apartment, which every thread that does not
+    /// say otherwise works in and which stays until the process ends; the calling thread keeps the choice of
+    /// an apartment of its own. Throws HResultError; does nothing where there is no COM.
     virtual void InitializeCom() const = 0;
+
+    /// Before the application object is made: leaves out what Qt would load and this program never uses.
+    virtual void PrepareApplication() const = 0;
+
+    /// Lets nobody but this user and the administrators open the file; false when that fails.
+    virtual bool KeepPrivate(const QString& file) const = 0;
 
     /// The native key of a shared-memory segment with the product's `name`.
     virtual QString SharedMemoryKey(const QString& name) const = 0;

@@ -2,12 +2,17 @@
 
 #include <windows.h>
 
+#include <QDir>
 #include <knownfolders.h>
 #include <memory>
 #include <objbase.h>
+#include <sddl.h>
 #include <shlobj.h>
 
 namespace {
+
+/// An access list: everything for the system, the administrators and the file's owner, nothing inherited.
+constexpr wchar_t SystemAdministratorsOwner[] = L"D:P(A;;FA;;;SY)(A;;FA;;;BA)(A;;FA;;;OW)";
 
 /// "C:\ProgramData\Velmora RYX", with the separators that Qt uses.
 QString SharedFolder() {
@@ -30,6 +35,26 @@ public:
         const HRESULT result = CoInitializeEx(nullptr, COINIT_MULTITHREADED);
         if (FAILED(result))
             throw HResultError("CoInitializeEx", result);
+        // The apartment must outlive this thread's part in it: Qt needs the thread single-threaded for the
+        // clipboard, dropped files and file dialogs.
+        CO_MTA_USAGE_COOKIE forever{};
+        const HRESULT kept = CoIncrementMTAUsage(&forever);
+        if (FAILED(kept))
+            throw HResultError("CoIncrementMTAUsage", kept);
+        CoUninitialize();
+    }
+
+    void PrepareApplication() const override {}
+
+    bool KeepPrivate(const QString& file) const override {
+        PSECURITY_DESCRIPTOR descriptor = nullptr;
+        if (!ConvertStringSecurityDescriptorToSecurityDescriptorW(SystemAdministratorsOwner, SDDL_REVISION_1,
+                                                                  &descriptor, nullptr))
+            return false;
+        const std::unique_ptr<void, decltype(&LocalFree)> owner(descriptor, &LocalFree);
+        return SetFileSecurityW(QDir::toNativeSeparators(file).toStdWString().c_str(),
+                                DACL_SECURITY_INFORMATION | PROTECTED_DACL_SECURITY_INFORMATION,
+                                descriptor) != FALSE;
     }
 
     QString SharedMemoryKey(const QString& name) const override { return name; }

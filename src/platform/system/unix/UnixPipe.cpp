@@ -17,7 +17,7 @@ QString AccountName(uid_t user) {
 }
 
 /// Named pipes are local sockets in the temporary folder here.
-class X11Pipe final : public SystemPipe {
+class UnixPipe final : public SystemPipe {
 public:
     QString LocalName(const QString& pipeName) const override {
         static const QString prefix = QStringLiteral("\\\\.\\pipe\\");
@@ -38,6 +38,6 @@ public:
 } // namespace
 
 const SystemPipe& SystemPipe::Native() {
-    static const X11Pipe pipe;
+    static const UnixPipe pipe;
     return pipe;
 }
