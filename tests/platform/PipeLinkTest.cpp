@@ -188,18 +188,71 @@ TEST_F(PipeLink, AFloodIsHeldBackLoggedAndDeliveredWhole) {
     }
 }
 
-TEST_F(PipeLink, MessagesArriveInADialogThatAReceiverOpens) {
+TEST_F(PipeLink, MessagesArriveInADialogThatAReceiverOpensAndKeepTheirOrderForAll) {
     bool entered = false;
     controller.act = [&] {
         if (std::exchange(entered, true))
             return;
         EXPECT_TRUE(WaitForMessages(3)) << "an event loop of the receiver's own";
     };
+    RecordingController next;
+    next.SetService(&link);
+    struct Recorder : QObject {
+        void OnPipeDataReceived(PipeKey key, const std::string& body) {
+            messages.emplace_back(static_cast<int>(key), body);
+        }
+        Messages messages;
+    } subscriber;
+    link.Subscribe(&subscriber, &Recorder::OnPipeDataReceived);
+    Messages byEvent;
+    PipeEventWatcher watcher(&subscriber, [&](PipeKey key, const std::string& body) {
+        byEvent.emplace_back(static_cast<int>(key), body);
+    });
     service.Write(RyxPackage::PackageData(PipeKey::ContextReply, "1") +
                   RyxPackage::PackageData(PipeKey::ContextReply, "2") +
                   RyxPackage::PackageData(PipeKey::ContextReply, "3"));
-    ASSERT_TRUE(WaitForMessages(3));
-    EXPECT_EQ(controller.messages, (Messages{{1, "1"}, {1, "2"}, {1, "3"}}));
+    ASSERT_TRUE(Wait([&] { return byEvent.size() == 3; }));
+    const Messages inOrder{{1, "1"}, {1, "2"}, {1, "3"}};
+    EXPECT_EQ(controller.messages, inOrder);
+    EXPECT_EQ(next.messages, inOrder);
+    EXPECT_EQ(subscriber.messages, inOrder);
+    EXPECT_EQ(byEvent, inOrder);
+}
+
+TEST_F(PipeLink, WhatLiesInTheSocketAtADropComesBeforeIt) {
+    // The GUI thread is busy until the service has gone, so that reading has paused with frames left.
+    const std::string body(RyxPackage::MaxBodySize, 'f');
+    std::vector<std::size_t> arrivedAtChange;
+    QObject::connect(&link, &PipeClientService::ConnectChanged,
+                     [&] { arrivedAtChange.push_back(controller.messages.size()); });
+    bool entered = false;
+    controller.act = [&] {
+        if (std::exchange(entered, true))
+            return;
+        for (int i = 0; i < 2; ++i)
+            service.Send(PipeKey::ContextReply, body);
+        for (int i = 0; i < 100; ++i)
+            service.Send(PipeKey::ContextReply, "small");
+        EXPECT_TRUE(service.WriteUntil([&] { return service.BytesToWrite() == 0; }));
+        service.Drop();
+        link.Send(PipeKey::ContextRequest); // to a service that has gone
+    };
+    service.Send(PipeKey::ContextReply, "first");
+    ASSERT_TRUE(Wait([&] { return !arrivedAtChange.empty(); }));
+    EXPECT_EQ(arrivedAtChange.front(), 103u);
+}
+
+TEST_F(PipeLink, AReceiverThatThrowsAtAChangeOfTheLinkIsLoggedToo) {
+    struct Thrower : ControllerBase {
+        void OnConnectChanged(bool) override { throw std::runtime_error("no"); }
+    } thrower;
+    thrower.SetService(&link);
+    RecordingController last;
+    last.SetService(&link);
+    service.Drop();
+    ASSERT_TRUE(Wait([&] { return last.changes.size() == 2; }));
+    EXPECT_EQ(log.Count("disconnected refused by ControllerBase: no"), 1);
+    EXPECT_EQ(log.Count("connected refused by ControllerBase: no"), 2);
 }
 
 TEST_F(PipeLink, AServiceThatStopsReadingIsNotFedForEver) {

@@ -35,6 +35,7 @@ public:
             m_socket->waitForBytesWritten(10);
         return done();
     }
+    qint64 BytesToWrite() const { return m_socket->bytesToWrite(); }
     void Drop();
     /// Leaves what arrives from now on in the pipe.
     void StopReading();

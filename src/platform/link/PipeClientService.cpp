@@ -1,11 +1,13 @@
 #include "platform/link/PipeClientService.h"
 
 #include "entity/RyxEntity.h"
+#include "platform/context/LogText.h"
 #include "platform/link/ControllerBase.h"
 #include "platform/link/PipeReceiveEvent.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QScopedValueRollback>
 #include <algorithm>
 #include <glog/logging.h>
 
@@ -53,7 +55,7 @@ void PipeClientService::Stop() {
     QMetaObject::invokeMethod(m_connection, &PipeConnection::Close, Qt::BlockingQueuedConnection);
     m_thread.quit();
     m_thread.wait();
-    m_exchange.SetUp(false);
+    m_exchange.Close();
     m_connection = nullptr;
 }
 
@@ -81,12 +83,28 @@ bool PipeClientService::Send(const std::string& packet) {
 }
 
 void PipeClientService::AddController(ControllerBase* controller) {
+    ForgetTheGone();
     m_controllers.push_back(controller);
 }
 
 void PipeClientService::RemoveController(ControllerBase* controller) {
-    m_controllers.erase(std::remove(m_controllers.begin(), m_controllers.end(), controller),
+    std::replace(m_controllers.begin(), m_controllers.end(), controller,
+                 static_cast<ControllerBase*>(nullptr));
+}
+
+void PipeClientService::AddSubscriber(Subscriber subscriber) {
+    ForgetTheGone();
+    m_subscribers.push_back(std::move(subscriber));
+}
+
+void PipeClientService::ForgetTheGone() {
+    if (m_turn)
+        return;
+    m_controllers.erase(std::remove(m_controllers.begin(), m_controllers.end(), nullptr),
                         m_controllers.end());
+    m_subscribers.erase(std::remove_if(m_subscribers.begin(), m_subscribers.end(),
+                                       [](const Subscriber& subscriber) { return !subscriber.receiver; }),
+                        m_subscribers.end());
 }
 
 bool PipeClientService::event(QEvent* event) {
@@ -130,25 +148,72 @@ bool PipeClientService::TakeWaiting() {
     return !m_waiting.empty();
 }
 
+// Before anything new is told, the receivers behind one that runs an event loop of its own are told what it
+// has kept from them: nobody sees the messages in another order.
+void PipeClientService::DeliverInTurn(const std::function<bool(std::size_t)>& tell) {
+    FinishTurn();
+    Turn turn{tell};
+    const QScopedValueRollback<Turn*> innermost(m_turn, &turn);
+    FinishTurn();
+}
+
+void PipeClientService::FinishTurn() {
+    Turn* turn = m_turn;
+    while (turn && turn->tell(turn->next++)) {
+    }
+}
+
 void PipeClientService::Deliver(PipeKey key, const std::string& body) {
-    const std::vector<ControllerBase*> controllers = m_controllers;
-    for (ControllerBase* controller : controllers)
-        Guard(key, controller->metaObject()->className(), [&] { controller->OnPipeDataReceived(key, body); });
-    Guard(key, "a DataReceived slot", [&] { emit DataReceived(key, body); });
-    PipeReceiveEvent event(key, body);
-    Guard(key, "an event filter", [&] { QCoreApplication::sendEvent(QCoreApplication::instance(), &event); });
+    const std::size_t controllers = m_controllers.size();
+    const std::size_t subscribers = m_subscribers.size();
+    DeliverInTurn([&](std::size_t number) {
+        if (number < controllers) {
+            if (ControllerBase* controller = m_controllers[number])
+                Guard(key, controller->metaObject()->className(),
+                      [&] { controller->OnPipeDataReceived(key, body); });
+        } else if (number < controllers + subscribers) {
+            const Subscriber& subscriber = m_subscribers[number - controllers];
+            if (subscriber.receiver)
+                subscriber.handle(key, body);
+        } else if (number == controllers + subscribers) {
+            Guard(key, "a DataReceived slot", [&] { emit DataReceived(key, body); });
+        } else if (number == controllers + subscribers + 1) {
+            PipeReceiveEvent event(key, body);
+            Guard(key, "an event filter",
+                  [&] { QCoreApplication::sendEvent(QCoreApplication::instance(), &event); });
+        } else {
+            return false;
+        }
+        return true;
+    });
 }
 
 void PipeClientService::DeliverConnectChange(bool connected) {
-    LOG(INFO) << "PipeClientService::DeliverConnectChange " << (connected ? "connected" : "disconnected");
-    const std::vector<ControllerBase*> controllers = m_controllers;
-    for (ControllerBase* controller : controllers)
-        controller->OnConnectChanged(connected);
-    emit ConnectChanged(connected);
+    const char* change = connected ? "connected" : "disconnected";
+    LOG(INFO) << "PipeClientService::DeliverConnectChange " << change;
+    const std::size_t controllers = m_controllers.size();
+    DeliverInTurn([&](std::size_t number) {
+        if (number < controllers) {
+            if (ControllerBase* controller = m_controllers[number])
+                Guard(change, controller->metaObject()->className(),
+                      [&] { controller->OnConnectChanged(connected); });
+        } else if (number == controllers) {
+            Guard(change, "a ConnectChanged slot", [&] { emit ConnectChanged(connected); });
+        } else {
+            return false;
+        }
+        return true;
+    });
 }
 
 void PipeClientService::LogRefused(PipeKey key, const char* receiver, const char* reason) {
     const char* name = PipeKeyName(key);
-    LOG(WARNING) << "PipeClientService::Deliver key " << static_cast<std::int32_t>(key) << " ("
-                 << (name ? name : "unknown") << ") refused by " << receiver << ": " << reason;
+    LogRefused("key " + std::to_string(static_cast<std::int32_t>(key)) + " (" + (name ? name : "unknown") +
+                   ')',
+               receiver, reason);
+}
+
+void PipeClientService::LogRefused(const std::string& what, const char* receiver, const char* reason) {
+    LOG(WARNING) << "PipeClientService::Deliver " << what << " refused by " << receiver << ": "
+                 << LogText(std::string(reason));
 }

@@ -6,9 +6,11 @@
 #include "platform/system/SystemPipe.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QThread>
 #include <deque>
 #include <exception>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -22,7 +24,8 @@ Q_DECLARE_METATYPE(PipeKey)
 /// to the controllers, through DataReceived, and as a PipeReceiveEvent to the application object.
 ///
 /// Delivery is the one place where what a receiver throws is caught: it is logged with key and reason,
-/// and the next receiver still gets the message.
+/// and the next receiver still gets the message. A receiver that runs an event loop of its own delays
+/// nobody: before the next message arrives there, the other receivers get the one that it has taken.
 class PipeClientService : public QObject {
     Q_OBJECT
 
@@ -41,7 +44,7 @@ public:
     /// Ends the link; what was sent before is still written if the service reads it at once.
     void Stop();
 
-    bool IsConnected() const { return m_exchange.IsUp(); }
+    bool IsConnected() const { return m_exchange.IsOpen(); }
 
     /// Each returns true when the message was handed to the pipe, false when the link is down, the
     /// service has stopped reading, or the message is no valid frame. Nothing is retried.
@@ -54,27 +57,29 @@ public:
     void AddController(ControllerBase* controller);
     void RemoveController(ControllerBase* controller);
 
-    /// Connects DataReceived to a member of `receiver`; what the member throws stays with it.
+    /// Hands every message to a member of `receiver`, as long as that lives, together with DataReceived;
+    /// what the member throws stays with it.
     template <class Receiver>
     void Subscribe(Receiver* receiver, void (Receiver::*slot)(PipeKey, const std::string&)) {
-        connect(this, &PipeClientService::DataReceived, receiver,
-                [receiver, slot](PipeKey key, const std::string& body) {
-                    Guard(key, receiver->metaObject()->className(), [&] { (receiver->*slot)(key, body); });
-                });
+        AddSubscriber({receiver, [receiver, slot](PipeKey key, const std::string& body) {
+                           Guard(key, receiver->metaObject()->className(),
+                                 [&] { (receiver->*slot)(key, body); });
+                       }});
     }
 
     /// Delivers one message to every receiver, as if it had just arrived.
     void Deliver(PipeKey key, const std::string& body);
 
-    /// Runs one receiver's handling of a message, and logs what it throws.
-    template <class Handle>
-    static void Guard(PipeKey key, const char* receiver, Handle&& handle) {
+    /// Runs one receiver's handling of `what`, a message's key or a change of the link, and logs what it
+    /// throws.
+    template <class What, class Handle>
+    static void Guard(What what, const char* receiver, Handle&& handle) {
         try {
             handle();
         } catch (const std::exception& error) {
-            LogRefused(key, receiver, error.what());
+            LogRefused(what, receiver, error.what());
         } catch (...) {
-            LogRefused(key, receiver, "unknown exception");
+            LogRefused(what, receiver, "unknown exception");
         }
     }
 
@@ -87,11 +92,26 @@ protected:
     bool event(QEvent* event) override;
 
 private:
+    struct Subscriber {
+        QPointer<QObject> receiver;
+        std::function<void(PipeKey key, const std::string& body)> handle;
+    };
+    /// Something on its way to its receivers: `tell` tells the one with the number; false behind the last.
+    struct Turn {
+        const std::function<bool(std::size_t)>& tell;
+        std::size_t next = 0;
+    };
+
     void WakeToDeliver();
     void DeliverWaiting();
     bool TakeWaiting();
     void DeliverConnectChange(bool connected);
+    void DeliverInTurn(const std::function<bool(std::size_t)>& tell);
+    void FinishTurn();
+    void AddSubscriber(Subscriber subscriber);
+    void ForgetTheGone();
     static void LogRefused(PipeKey key, const char* receiver, const char* reason);
+    static void LogRefused(const std::string& what, const char* receiver, const char* reason);
 
     const SystemPipe& m_system;
     PipeServer m_server;
@@ -100,5 +120,8 @@ private:
     PipeConnection* m_connection = nullptr; // lives on m_thread, which deletes it when it ends
     std::deque<PipeExchange::Event> m_waiting;
     bool m_wakePosted = false;
+    // During a delivery they only grow, and what goes leaves its place empty.
     std::vector<ControllerBase*> m_controllers;
+    std::deque<Subscriber> m_subscribers;
+    Turn* m_turn = nullptr; // the innermost delivery under way
 };

@@ -1,5 +1,6 @@
 #include "platform/link/PipeConnection.h"
 
+#include "platform/context/LogText.h"
 #include "platform/system/SystemPipe.h"
 
 #include <array>
@@ -42,7 +43,7 @@ void PipeConnection::Open() {
 void PipeConnection::Close() {
     m_retry.stop();
     m_socket.disconnect(this);
-    WritePackets();
+    FlushPackets();
     m_up = false;
     if (m_socket.bytesToWrite() > 0)
         m_socket.waitForBytesWritten(CloseTimeoutMs);
@@ -55,25 +56,30 @@ void PipeConnection::OnConnected() {
         const QString account = peer.account.isEmpty() ? QStringLiteral("an unknown account") : peer.account;
         if (std::exchange(m_refused, account) != account)
             LOG(WARNING) << "PipeConnection::OnConnected refused " << m_server.name.toStdString()
-                         << ": it is served by " << account.toStdString();
+                         << ": it is served by " << LogText(account);
         m_socket.abort();
         return;
     }
     m_refused.clear();
     m_backoff.Reset();
     m_decoder.Reset();
+    m_waiting = false;
     m_up = true;
-    m_exchange.SetUp(true);
+    m_exchange.Open();
     Push(PipeExchange::Event::Kind::Connected);
 }
 
 void PipeConnection::OnDropped() {
-    if (std::exchange(m_up, false)) {
+    if (m_up) {
+        // What lies in the socket at its end is little enough to be taken also where reading has paused.
+        while (m_socket.bytesAvailable() > 0 && ReadSome()) {
+        }
+        m_up = false;
         if (m_decoder.PendingSize() > 0)
             LOG(WARNING) << "PipeConnection::OnDropped inside a frame: " << m_decoder.PendingSize()
                          << " bytes of it had arrived";
         m_decoder.Reset();
-        if (const std::size_t unsent = m_exchange.SetUp(false))
+        if (const std::size_t unsent = m_exchange.Close())
             LOG(WARNING) << "PipeConnection::OnDropped with " << unsent << " bytes unsent";
         Push(PipeExchange::Event::Kind::Dropped);
     }
@@ -86,39 +92,51 @@ void PipeConnection::Retry() {
 }
 
 void PipeConnection::ReadFrames() {
-    if (!m_up)
-        return;
-    std::array<char, 64 * 1024> bytes;
-    while (m_socket.bytesAvailable() > 0) {
-        if (m_exchange.PauseReading()) {
+    while (m_up && m_socket.bytesAvailable() > 0) {
+        if (m_exchange.MustPause()) {
             if (!std::exchange(m_waiting, true))
                 LOG(WARNING) << "PipeConnection::ReadFrames waits: the service sends faster than "
                                 "messages are handled";
             return;
         }
-        m_waiting = false;
-        const qint64 count = m_socket.read(bytes.data(), static_cast<qint64>(bytes.size()));
-        if (count <= 0)
+        if (!ReadSome())
             return;
-        m_decoder.Append(bytes.data(), static_cast<std::size_t>(count));
-
-        std::vector<PipeExchange::Event> events;
-        PipeExchange::Event event;
-        FrameDecoder::Result result;
-        while ((result = m_decoder.Next(event.frame)) == FrameDecoder::Result::Frame)
-            events.push_back(std::move(event));
-        Push(std::move(events));
-        if (result == FrameDecoder::Result::TooLong) {
-            LOG(ERROR) << "PipeConnection::ReadFrames ends the connection: a frame claims "
-                       << m_decoder.ClaimedBodySize() << " bytes, the limit is " << RyxPackage::MaxBodySize;
-            m_decoder.Reset();
-            m_socket.abort();
-            return;
-        }
+        if (std::exchange(m_waiting, false))
+            WritePackets();
     }
 }
 
+bool PipeConnection::ReadSome() {
+    std::array<char, 64 * 1024> bytes;
+    const qint64 count = m_socket.read(bytes.data(), static_cast<qint64>(bytes.size()));
+    if (count <= 0)
+        return false;
+    m_decoder.Append(bytes.data(), static_cast<std::size_t>(count));
+
+    std::vector<PipeExchange::Event> events;
+    PipeExchange::Event event;
+    FrameDecoder::Result result;
+    while ((result = m_decoder.Next(event.frame)) == FrameDecoder::Result::Frame)
+        events.push_back(std::move(event));
+    Push(std::move(events));
+    if (result != FrameDecoder::Result::TooLong)
+        return true;
+    LOG(ERROR) << "PipeConnection::ReadFrames ends the connection: a frame claims "
+               << m_decoder.ClaimedBodySize() << " bytes, the limit is " << RyxPackage::MaxBodySize;
+    m_decoder.Reset();
+    m_socket.abort();
+    return false;
+}
+
 void PipeConnection::WritePackets() {
+    // A write to a service that has gone closes the socket, with what it had sent before: that is read first.
+    while (m_up && !m_waiting && m_socket.waitForReadyRead(0))
+        ReadFrames();
+    if (!m_waiting)
+        FlushPackets();
+}
+
+void PipeConnection::FlushPackets() {
     const std::string packets = m_exchange.TakePackets();
     if (!m_up || packets.empty())
         return;

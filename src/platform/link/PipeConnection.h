@@ -41,6 +41,10 @@ private:
     void OnConnected();
     void OnDropped();
     void Retry();
+    void FlushPackets();
+    /// Reads what lies in the socket, at most 64 KiB, and hands over its whole frames; false when there was
+    /// nothing or the stream could not be followed.
+    bool ReadSome();
     void Push(PipeExchange::Event::Kind kind);
     void Push(std::vector<PipeExchange::Event>&& events);
 

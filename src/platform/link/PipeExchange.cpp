@@ -16,7 +16,7 @@ bool PipeExchange::PushEvents(std::vector<Event>&& events) {
     return wasEmpty && !m_events.empty();
 }
 
-bool PipeExchange::PauseReading() {
+bool PipeExchange::MustPause() {
     std::lock_guard<std::mutex> lock(m_mutex);
     m_paused = m_eventBytes >= IncomingLimit;
     return m_paused;
@@ -36,7 +36,7 @@ bool PipeExchange::TakeEvents(std::deque<Event>& out) {
 
 PipeExchange::Queued PipeExchange::PushPacket(const std::string& packet) {
     std::lock_guard<std::mutex> lock(m_mutex);
-    if (!m_up || m_packets.size() + m_unwritten + packet.size() > OutgoingLimit)
+    if (!m_open || m_packets.size() + m_unwritten + packet.size() > OutgoingLimit)
         return Queued::Refused;
     const bool first = m_packets.empty();
     m_packets += packet;
@@ -53,14 +53,19 @@ void PipeExchange::SetUnwritten(std::size_t bytes) {
     m_unwritten = bytes;
 }
 
-std::size_t PipeExchange::SetUp(bool up) {
+void PipeExchange::Open() {
     std::lock_guard<std::mutex> lock(m_mutex);
-    m_up = up;
+    m_open = true;
+}
+
+std::size_t PipeExchange::Close() {
+    std::lock_guard<std::mutex> lock(m_mutex);
+    m_open = false;
     m_unwritten = 0;
     return std::exchange(m_packets, {}).size();
 }
 
-bool PipeExchange::IsUp() const {
+bool PipeExchange::IsOpen() const {
     std::lock_guard<std::mutex> lock(m_mutex);
-    return m_up;
+    return m_open;
 }

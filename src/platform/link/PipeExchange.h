@@ -29,7 +29,7 @@ public:
     bool PushEvents(std::vector<Event>&& events);
     /// I/O thread: true when unread bytes have reached the limit; the GUI thread then calls for more
     /// once TakeEvents has emptied the queue.
-    bool PauseReading();
+    bool MustPause();
     bool HasEvents() const;
     /// GUI thread: moves everything that waits into the empty `out`. True when reading was paused.
     bool TakeEvents(std::deque<Event>& out);
@@ -41,9 +41,12 @@ public:
     /// I/O thread: bytes it has taken and the pipe has not yet accepted; they count against the limit.
     void SetUnwritten(std::size_t bytes);
 
-    /// I/O thread: opens or closes the link for PushPacket; closing drops what waits and returns its size.
-    std::size_t SetUp(bool up);
-    bool IsUp() const;
+    /// I/O thread: from now on PushPacket takes frames.
+    void Open();
+    /// I/O thread: PushPacket refuses from now on; drops the frames that wait and returns their size in
+    /// bytes.
+    std::size_t Close();
+    bool IsOpen() const;
 
 private:
     mutable std::mutex m_mutex;
@@ -51,6 +54,6 @@ private:
     std::size_t m_eventBytes = 0;
     std::string m_packets;
     std::size_t m_unwritten = 0;
-    bool m_up = false;
+    bool m_open = false;
     bool m_paused = false;
 };
