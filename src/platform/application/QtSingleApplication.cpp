@@ -13,6 +13,7 @@
 namespace {
 
 constexpr char Acknowledgement = '\x06';
+constexpr int AnswerTimeoutMs = 1000;
 constexpr int MaxMessageBytes = 1024 * 1024;
 
 } // namespace
@@ -26,26 +27,50 @@ QtSingleApplication::QtSingleApplication(const QString& id, int& argc, char** ar
                        .arg(SystemSession::Native().SessionId());
     m_lock = std::make_unique<QLockFile>(QDir::temp().filePath(m_serverName + QStringLiteral(".lock")));
     m_lock->setStaleLockTime(0); // held as long as its process lives, however long
-    if (!m_lock->tryLock() && !TakeOwnStaleLock())
-        return;
+    m_isRunning = !m_lock->tryLock() && IsAnotherRunning();
+    if (!m_isRunning)
+        Listen();
+}
 
+QtSingleApplication::~QtSingleApplication() = default;
+
+bool QtSingleApplication::IsAnotherRunning() {
+    const QLockFile::LockError error = m_lock->error();
+    qint64 owner = 0;
+    QString host;
+    QString program;
+    if (error == QLockFile::LockFailedError && m_lock->getLockInfo(&owner, &host, &program)) {
+        // The lock of a process that has ended is taken by QLockFile itself. Process numbers are used again:
+        // that of an instance that was killed may be this very process's.
+        if (owner != applicationPid())
+            return true;
+        if (m_lock->removeStaleLockFile() && m_lock->tryLock())
+            return false;
+    }
+    if (Answers())
+        return true;
+    if (error == QLockFile::LockFailedError && m_lock->removeStaleLockFile() && m_lock->tryLock())
+        m_startProblem = QStringLiteral("replaced a damaged lock file");
+    else
+        m_startProblem = error == QLockFile::PermissionError ? QStringLiteral("may not write its lock file")
+                                                             : QStringLiteral("cannot write its lock file");
+    m_startProblem += QStringLiteral(" in ") + QDir::tempPath();
+    return false;
+}
+
+bool QtSingleApplication::Answers() const {
+    QLocalSocket socket;
+    socket.connectToServer(m_serverName);
+    return socket.waitForConnected(AnswerTimeoutMs);
+}
+
+void QtSingleApplication::Listen() {
     QLocalServer::removeServer(m_serverName); // what a crashed instance left
     m_server = std::make_unique<QLocalServer>();
     m_server->setSocketOptions(QLocalServer::UserAccessOption);
     connect(m_server.get(), &QLocalServer::newConnection, this, &QtSingleApplication::Accept);
     if (!m_server->listen(m_serverName))
-        LOG(WARNING) << "QtSingleApplication cannot listen: " << m_server->errorString().toStdString();
-}
-
-QtSingleApplication::~QtSingleApplication() = default;
-
-bool QtSingleApplication::TakeOwnStaleLock() {
-    // Process numbers are used again: the lock of an instance that was killed may name this very process.
-    qint64 owner = 0;
-    QString host;
-    QString program;
-    return m_lock->getLockInfo(&owner, &host, &program) && owner == applicationPid() &&
-           m_lock->removeStaleLockFile() && m_lock->tryLock();
+        m_startProblem += QStringLiteral("; cannot listen: ") + m_server->errorString();
 }
 
 bool QtSingleApplication::sendMessage(const QString& message, int timeoutMs) {
@@ -96,7 +121,7 @@ void QtSingleApplication::Accept() {
         socket->putChar(Acknowledgement);
         socket->flush();
         emit messageReceived(QString::fromUtf8(message));
-        if (m_activateOnMessage && m_window && m_window->isVisible()) {
+        if (m_activateOnMessage && message.isEmpty() && m_window && m_window->isVisible()) {
             m_window->setWindowState(m_window->windowState() & ~Qt::WindowMinimized);
             m_window->raise();
             m_window->activateWindow();

@@ -9,7 +9,9 @@
 class QWidget;
 
 /// An application of which one instance runs per user session; later ones can send it a text and end.
-/// The first to be constructed is the one that listens. GUI thread.
+/// The first to be constructed is the one that listens. Running is only what answers, or whose lock file
+/// names a process that lives: whatever else keeps the lock file from being taken is no reason not to start.
+/// GUI thread.
 class QtSingleApplication : public QApplication {
     Q_OBJECT
 
@@ -18,13 +20,17 @@ public:
     ~QtSingleApplication() override;
 
     /// True when another process of this session is the running instance.
-    bool isRunning() const { return !m_server; }
+    bool isRunning() const { return m_isRunning; }
+
+    /// What kept this instance from being the only one for certain, for the log, which is not open when it
+    /// happens; empty when nothing did.
+    const QString& StartProblem() const { return m_startProblem; }
 
     /// Sends `message` to the running instance; false when it did not take it within `timeoutMs`.
     bool sendMessage(const QString& message, int timeoutMs);
 
     /// The window that stands for the application; with `activateOnMessage` it comes to the front, if it
-    /// is on screen, whenever a message arrives.
+    /// is on screen, whenever an empty message arrives.
     void setActivationWindow(QWidget* window, bool activateOnMessage);
     QWidget* activationWindow() const { return m_window; }
 
@@ -32,10 +38,14 @@ signals:
     void messageReceived(const QString& message);
 
 private:
-    bool TakeOwnStaleLock();
+    bool IsAnotherRunning();
+    bool Answers() const;
+    void Listen();
     void Accept();
 
     QString m_serverName;
+    bool m_isRunning = false;
+    QString m_startProblem;
     std::unique_ptr<QLockFile> m_lock;
     std::unique_ptr<QLocalServer> m_server;
     QPointer<QWidget> m_window;
