@@ -1,4 +1,5 @@
 #include "platform/context/Logging.h"
+#include "platform/context/LogText.h"
 
 #include <QDir>
 #include <QFile>
@@ -40,4 +41,24 @@ TEST(Logging, KeepsTheNewestFilesAndEndsTwiceInPeace) {
     const QByteArray text = newest.readAll();
     EXPECT_TRUE(text.contains("first line"));
     EXPECT_TRUE(text.contains("an error belongs"));
+    const auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
+    EXPECT_FALSE(newest.permissions() & others) << "a log is its user's";
+}
+
+TEST(Logging, TextFromOutsideStaysOnItsLine) {
+    const struct {
+        std::string text;
+        std::string line;
+    } cases[] = {
+        {"Zoë – 漢 😀", "Zoë – 漢 😀"},
+        {"a\nI20260302 forged", "a\uFFFDI20260302 forged"},
+        {"\r\n\t\x1b[2J\x7f", "\uFFFD\uFFFD\uFFFD\uFFFD[2J\uFFFD"},
+        {"a\u0085b\u2028c\u202ed", "a\uFFFDb\uFFFDc\uFFFDd"},
+        {"\xff\xfe", "\uFFFD\uFFFD"},
+        {std::string(500, 'x'), std::string(500, 'x')},
+        {std::string(501, 'x'), std::string(500, 'x') + "…"},
+        {std::string(499, 'x') + "😀", std::string(499, 'x') + "…"},
+    };
+    for (const auto& row : cases)
+        EXPECT_EQ(LogText(row.text), row.line);
 }

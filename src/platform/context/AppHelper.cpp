@@ -3,6 +3,7 @@
 #include "platform/context/AppConfigData.h"
 #include "platform/context/AppContextData.h"
 #include "platform/context/LanguageHelper.h"
+#include "platform/context/LogText.h"
 #include "platform/context/ProductConstants.h"
 #include "platform/context/Theme.h"
 #include "platform/link/PipeClientService.h"
@@ -20,10 +21,10 @@ void AppHelper::InitLanguage() {
 void AppHelper::LoadConfig() {
     const AppConfigData& config = *AppConfigData::Instance();
     for (const std::string& note : config.loadNotes)
-        LOG(WARNING) << "AppHelper::LoadConfig " << note;
+        LOG(WARNING) << "AppHelper::LoadConfig " << LogText(note);
     AppContextData& context = *AppContextData::Instance();
-    context.enrolled = config.enrolled;
-    context.deviceName = config.deviceName;
+    context.SetEnrolled(config.enrolled);
+    context.SetDeviceName(config.deviceName);
     const std::string pipe = config.pipeName.empty() ? Product::ServicePipe : config.pipeName;
     PipeClientService::Instance()->SetServer(
         {QString::fromStdString(pipe), QString::fromStdString(config.agentAccount)});

@@ -1,5 +1,8 @@
 #include "platform/context/Logging.h"
 
+#include "platform/system/SystemSession.h"
+
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <glog/logging.h>
@@ -7,10 +10,11 @@
 
 namespace {
 
-/// Writes through glog's own log files and removes the oldest ones each time a new one was begun.
-class PrunedLogFiles : public google::base::Logger {
+/// Writes through glog's own log files. Each time a new one was begun, it becomes readable by its user and
+/// the administrators only, and the oldest ones go.
+class OwnLogFiles : public google::base::Logger {
 public:
-    PrunedLogFiles(google::base::Logger* files, const QString& dir, const QString& name, int keep)
+    OwnLogFiles(google::base::Logger* files, const QString& dir, const QString& name, int keep)
         : m_files(files), m_dir(dir), m_pattern(name + QStringLiteral(".*")), m_keep(keep) {}
 
     google::base::Logger* Files() const { return m_files; }
@@ -19,16 +23,20 @@ public:
         const auto before = m_files->LogSize();
         m_files->Write(forceFlush, timestamp, message, length);
         if (before == 0 || m_files->LogSize() <= before)
-            Prune();
+            OnNewFile();
     }
     void Flush() override { m_files->Flush(); }
     google::uint32 LogSize() override { return m_files->LogSize(); }
 
 private:
-    void Prune() const {
+    void OnNewFile() const {
         // The time in the names makes the order of names the order of age.
         const QStringList names =
             m_dir.entryList({m_pattern}, QDir::Files | QDir::NoSymLinks, QDir::Name | QDir::Reversed);
+        const QString mine = QLatin1Char('.') + QString::number(QCoreApplication::applicationPid());
+        for (const QString& name : names)
+            if (name.endsWith(mine))
+                SystemSession::Native().KeepPrivate(m_dir.filePath(name));
         for (int i = m_keep; i < names.size(); ++i)
             QFile::remove(m_dir.filePath(names[i]));
     }
@@ -39,7 +47,7 @@ private:
     int m_keep;
 };
 
-std::unique_ptr<PrunedLogFiles> activeFiles;
+std::unique_ptr<OwnLogFiles> activeFiles;
 
 } // namespace
 
@@ -51,15 +59,16 @@ void InitLogger(const std::string& name, const std::string& dir, const unsigned&
     google::InitGoogleLogging(programName.c_str());
     FLAGS_max_log_size = static_cast<google::uint32>(maxFileMegabytes);
     FLAGS_logbufsecs = 0;
+    FLAGS_logfile_mode = 0600;
     FLAGS_stop_logging_if_full_disk = true;
     for (int severity = google::GLOG_WARNING; severity < google::NUM_SEVERITIES; ++severity)
         google::SetLogDestination(severity, ""); // one file holds all severities
     google::SetLogSymlink(google::GLOG_INFO, "");
     google::SetLogDestination(google::GLOG_INFO, (dir + '/' + name + '.').c_str());
 
-    activeFiles = std::make_unique<PrunedLogFiles>(google::base::GetLogger(google::GLOG_INFO),
-                                                   QString::fromLocal8Bit(dir.c_str()),
-                                                   QString::fromStdString(name), static_cast<int>(maxFiles));
+    activeFiles = std::make_unique<OwnLogFiles>(google::base::GetLogger(google::GLOG_INFO),
+                                                QString::fromLocal8Bit(dir.c_str()),
+                                                QString::fromStdString(name), static_cast<int>(maxFiles));
     google::base::SetLogger(google::GLOG_INFO, activeFiles.get());
 }
 
