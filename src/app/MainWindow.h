@@ -1,13 +1,14 @@
 #pragma once
 
+#include "app/Notifier.h"
 #include "platform/application/RyxWindow.h"
 #include "platform/link/PipeKey.h"
 
 #include <memory>
 #include <string>
 
+class Navigator;
 class UExitButton;
-class UToast;
 class UTrayIcon;
 struct IotStatusEntity;
 
@@ -24,7 +25,7 @@ public:
     MainWindow();
     ~MainWindow() override;
 
-    void ShowResult(const QString& result) override;
+    void Notify(NoticeKind kind, const QString& text) override;
     void OpenNetworkPage() override;
 
     /// Brings the feedback page to the front; its back button leads to where the user was.
@@ -47,22 +48,14 @@ private:
 
     void OnPipeDataReceived(PipeKey key, const std::string& body);
     void OnIotStatus(const IotStatusEntity& entity);
-    void ShowStatus(IotStatus status);
     void OnDisconnectWifi(const std::string& ssid);
-    void OnSwitchChannel();
-    void OnMenuChanged(int index);
-
-    void ShowMainPage();
-    void LeaveFeedbackPage();
-    void FocusPage();
-    void Notify(const QString& message);
     void PlaceExitButton();
 
     std::unique_ptr<Ui::MainWindow> m_ui;
     QString m_formStyleSheet;
     UExitButton* m_exit;
     UTrayIcon* m_tray;
-    UToast* m_toast;
-    QWidget* m_beforeFeedback = nullptr;
+    Notifier m_notifier;
+    Navigator* m_navigator = nullptr;
     QByteArray m_geometry; // when it was last closed
 };

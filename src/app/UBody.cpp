@@ -1,22 +1,18 @@
 #include "app/UBody.h"
 
-#include "app/Rooms.h"
+#include "app/Pages.h"
 
-#include <algorithm>
-
-UBody::UBody(QWidget* parent) : QStackedWidget(parent) {}
+UBody::UBody(QWidget* parent) : QStackedWidget(parent), m_pages(Pages().size()) {}
 
 void UBody::SwitchPage(int index) {
-    if (index < 0 || index >= MenuEntryCount)
+    const auto page = static_cast<size_t>(index);
+    if (page >= m_pages.size() || !Pages()[page].make)
         return;
-    QWidget*& page = m_pages[static_cast<size_t>(index)];
-    if (!page) {
-        page = Rooms::Make(static_cast<MenuEntry>(index), this);
-        if (!page)
-            return;
-        addWidget(page);
+    if (!m_pages[page]) {
+        m_pages[page] = Pages()[page].make(this);
+        addWidget(m_pages[page]);
     }
-    setCurrentWidget(page);
+    setCurrentWidget(m_pages[page]);
 }
 
 bool UBody::IsSwitchPage(int index) const {
@@ -24,11 +20,7 @@ bool UBody::IsSwitchPage(int index) const {
     return page && currentWidget() == page;
 }
 
-int UBody::CurrentPage() const {
-    const auto found = std::find(m_pages.begin(), m_pages.end(), currentWidget());
-    return currentWidget() && found != m_pages.end() ? static_cast<int>(found - m_pages.begin()) : -1;
-}
-
 QWidget* UBody::Page(int index) const {
-    return index >= 0 && index < MenuEntryCount ? m_pages[static_cast<size_t>(index)] : nullptr;
+    const auto page = static_cast<size_t>(index);
+    return page < m_pages.size() ? m_pages[page] : nullptr;
 }

@@ -1,8 +1,5 @@
 #include "app/UHeader.h"
 
-#include "app/StatusLook.h"
-#include "platform/context/AppConfigData.h"
-#include "platform/context/AppContextData.h"
 #include "platform/context/MachineHelper.h"
 #include "platform/context/Theme.h"
 #include "widgets/AccessibleRole.h"
@@ -33,6 +30,7 @@ UHeader::UHeader(QWidget* parent)
     m_dot->setObjectName(QStringLiteral("statusDot"));
     m_dot->setFixedSize(18, 18);
     m_statusWords->setObjectName(QStringLiteral("statusWords"));
+    m_statusWords->setTextFormat(Qt::PlainText);
     SetAccessibleRole(m_chip, QAccessible::StatusBar);
 
     auto* chip = new QHBoxLayout(m_chip);
@@ -67,26 +65,31 @@ UHeader::UHeader(QWidget* parent)
     column->addWidget(m_busy);
     setFixedHeight(76);
     ReserveEnd(0);
-    Retranslate();
+    connect(AppContextData::Instance(), &AppContextData::Changed, this, &UHeader::OnContextChanged);
+    ShowLook();
+    ShowDevice();
+}
+
+void UHeader::OnContextChanged(AppContextData::Field field) {
+    switch (field) {
+    case AppContextData::Field::Linked:
+        ShowLook();
+        break;
+    case AppContextData::Field::Enrolled:
+    case AppContextData::Field::SchoolCode:
+    case AppContextData::Field::DeviceName:
+        ShowDevice();
+        break;
+    default:
+        break;
+    }
 }
 
 void UHeader::UpdateStatus(int status) {
     if (!IsKnownIotStatus(status))
         return;
     m_status = static_cast<IotStatus>(status);
-    Retranslate();
-}
-
-void UHeader::UpdateDevice() {
-    const AppContextData& context = *AppContextData::Instance();
-    m_deviceName->SetText(QString::fromStdString(MachineHelper::GetDeviceName()));
-    QString organisation = QString::fromStdString(AppConfigData::Instance()->organisation);
-    if (!context.enrolled)
-        organisation = tr("header_no_organisation");
-    else if (organisation.isEmpty())
-        organisation = QString::fromStdString(context.schoolCode);
-    m_organisation->SetText(organisation);
-    m_organisation->setVisible(!organisation.isEmpty());
+    ShowLook();
 }
 
 void UHeader::SetBusy(bool busy) {
@@ -99,16 +102,29 @@ void UHeader::ReserveEnd(int width) {
 }
 
 void UHeader::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::LanguageChange)
-        Retranslate();
+    if (event->type() == QEvent::LanguageChange) {
+        ShowLook();
+        ShowDevice();
+    }
     QWidget::changeEvent(event);
 }
 
-void UHeader::Retranslate() {
+void UHeader::ShowLook() {
     const StatusLook look = StatusLook::Of(m_status);
+    if (look == m_look)
+        return;
+    m_look = look;
     Theme::SetProperty(m_dot, "state", look.property);
     m_statusIcon->SetIcon(look.icon, QStringLiteral("text"));
     m_statusWords->setText(look.words);
     m_chip->setAccessibleName(tr("header_status_name").arg(look.words));
-    UpdateDevice();
+}
+
+void UHeader::ShowDevice() {
+    m_deviceName->SetText(QString::fromStdString(MachineHelper::GetDeviceName()));
+    const QString organisation = AppContextData::Instance()->Enrolled()
+                                     ? QString::fromStdString(MachineHelper::GetOrganisationName())
+                                     : tr("header_no_organisation");
+    m_organisation->SetText(organisation);
+    m_organisation->setVisible(!organisation.isEmpty());
 }

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "platform/application/IotStatus.h"
+#include "platform/context/AppContextData.h"
+#include "widgets/StatusLook.h"
 
 #include <QWidget>
 
@@ -20,9 +22,6 @@ public:
     /// Shows a link state, given as the service's number; a number that names no state changes nothing.
     void UpdateStatus(int status);
 
-    /// Reads device name and organisation again.
-    void UpdateDevice();
-
     /// Shows that the window waits for an answer of the service.
     void SetBusy(bool busy);
 
@@ -33,9 +32,12 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    void Retranslate();
+    void OnContextChanged(AppContextData::Field field);
+    void ShowLook();
+    void ShowDevice();
 
     IotStatus m_status = IotStatus::NotEnrolled;
+    StatusLook m_look; // on screen
     UElidedLabel* m_deviceName;
     UElidedLabel* m_organisation;
     QWidget* m_chip;

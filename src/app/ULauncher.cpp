@@ -1,5 +1,6 @@
 #include "app/ULauncher.h"
 
+#include "platform/context/AppContextData.h"
 #include "widgets/GestureScrollArea.h"
 #include "widgets/UTextButton.h"
 #include "widgets/UTextLabel.h"
@@ -21,6 +22,7 @@ ULauncher::ULauncher(QWidget* parent)
     : QWidget(parent),
       m_title(new UTextLabel("launcherTitle")),
       m_sentence(new UTextLabel("launcherSentence")),
+      m_noService(new UTextLabel("launcherNoService")),
       m_enrol(new UTextButton(UTextButton::Look::Primary)),
       m_picture(new UThemePicture(QStringLiteral("launcher"), {440, 360})) {
     m_enrol->setObjectName(QStringLiteral("launcherEnrol"));
@@ -49,6 +51,7 @@ ULauncher::ULauncher(QWidget* parent)
     }
     column->addSpacing(16);
     column->addWidget(m_enrol, 0, Qt::AlignLeading);
+    column->addWidget(m_noService);
     column->addStretch();
 
     auto* page = new QWidget;
@@ -69,6 +72,9 @@ ULauncher::ULauncher(QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(scroll);
     setFocusProxy(m_enrol);
+    const auto follow = [this] { m_noService->setVisible(!AppContextData::Instance()->Linked()); };
+    connect(AppContextData::Instance(), &AppContextData::Changed, this, follow);
+    follow();
     Retranslate();
 }
 
@@ -90,5 +96,6 @@ void ULauncher::Retranslate() {
     m_steps[1]->setText(tr("launcher_step_enrol"));
     m_steps[2]->setText(tr("launcher_step_done"));
     m_enrol->setText(tr("launcher_button"));
+    m_noService->setText(tr("launcher_no_service"));
     setAccessibleName(m_title->text());
 }

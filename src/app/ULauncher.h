@@ -26,6 +26,7 @@ private:
 
     QLabel* m_title;
     QLabel* m_sentence;
+    QLabel* m_noService;
     std::array<QLabel*, 3> m_steps{};
     UTextButton* m_enrol;
     UThemePicture* m_picture;

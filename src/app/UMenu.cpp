@@ -1,9 +1,11 @@
 #include "app/UMenu.h"
 
+#include "app/Pages.h"
 #include "app/UMenuEntry.h"
 #include "entity/EnrollEntities.h"
 #include "entity/IotEntities.h"
 #include "platform/application/IotStatus.h"
+#include "platform/context/AppContextData.h"
 #include "platform/link/PipeEventWatcher.h"
 #include "widgets/AccessibleRole.h"
 #include "widgets/GestureScrollArea.h"
@@ -13,26 +15,12 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <utility>
 
 namespace {
 
 constexpr int NarrowestWidth = 232;
 constexpr int Margin = 12;
-
-struct EntryText {
-    const char* icon;
-    const char* name;
-};
-
-constexpr std::array<EntryText, MenuEntryCount> Entries = {{
-    {"enrolment", QT_TRANSLATE_NOOP("UMenu", "menu_enrolment")},
-    {"features", QT_TRANSLATE_NOOP("UMenu", "menu_features")},
-    {"live", QT_TRANSLATE_NOOP("UMenu", "menu_live_channels")},
-    {"network", QT_TRANSLATE_NOOP("UMenu", "menu_network")},
-    {"settings", QT_TRANSLATE_NOOP("UMenu", "menu_settings")},
-    {"about", QT_TRANSLATE_NOOP("UMenu", "menu_about")},
-    {"feedback", QT_TRANSLATE_NOOP("UMenu", "menu_feedback")},
-}};
 
 } // namespace
 
@@ -45,15 +33,17 @@ UMenu::UMenu(QWidget* parent) : QWidget(parent), m_scroll(new GestureScrollArea)
     auto* column = new QVBoxLayout(list);
     column->setContentsMargins(Margin, Margin, Margin, Margin);
     column->setSpacing(4);
-    for (int index = 0; index < MenuEntryCount; ++index) {
-        auto* entry = new UMenuEntry(QString::fromLatin1(Entries[static_cast<size_t>(index)].icon), list);
-        entry->setObjectName(QString::fromLatin1(Entries[static_cast<size_t>(index)].name));
-        m_entries[static_cast<size_t>(index)] = entry;
+    bool inLowerPart = false;
+    for (const PageEntry& page : Pages()) {
+        auto* entry = new UMenuEntry(QString::fromLatin1(page.icon), list);
+        entry->setObjectName(QString::fromLatin1(page.name));
+        const int index = static_cast<int>(m_entries.size());
+        m_entries.push_back(entry);
         connect(entry, &QPushButton::clicked, this, [this, index] {
             Select(index);
             emit MenuChanged(index);
         });
-        if (index == static_cast<int>(MenuEntry::About))
+        if (page.place != PagePlace::Upper && !std::exchange(inLowerPart, true))
             column->addStretch();
         column->addWidget(entry);
     }
@@ -68,21 +58,30 @@ UMenu::UMenu(QWidget* parent) : QWidget(parent), m_scroll(new GestureScrollArea)
     connect(m_scroll->verticalScrollBar(), &QScrollBar::rangeChanged, this, &UMenu::UpdateWidth);
     Select(0);
     Retranslate();
+    connect(AppContextData::Instance(), &AppContextData::Changed, this, [this](AppContextData::Field field) {
+        if (field == AppContextData::Field::Linked)
+            UpdateMarks();
+    });
     new PipeEventWatcher(this, [this](PipeKey key, const std::string& body) { OnPipeReceive(key, body); });
 }
 
+UMenuEntry* UMenu::Entry(const char* page) const {
+    return m_entries[static_cast<size_t>(PageIndex(page))];
+}
+
 void UMenu::SwitchTo(int index) {
-    if (index < 0 || index >= MenuEntryCount || index == Current())
+    if (static_cast<size_t>(index) >= m_entries.size() || index == Current())
         return;
     Select(index);
     emit MenuChanged(index);
 }
 
 void UMenu::Select(int index) {
-    if (index < 0 || index >= MenuEntryCount)
+    const auto selected = static_cast<size_t>(index);
+    if (selected >= m_entries.size())
         return;
-    for (int other = 0; other < MenuEntryCount; ++other)
-        m_entries[static_cast<size_t>(other)]->setChecked(other == index);
+    for (size_t entry = 0; entry < m_entries.size(); ++entry)
+        m_entries[entry]->setChecked(entry == selected);
     if (isAncestorOf(QApplication::focusWidget()))
         FocusSelected();
 }
@@ -99,9 +98,10 @@ int UMenu::Current() const {
 }
 
 void UMenu::SetLiveChannelVisible(bool visible) {
-    Entry(MenuEntry::LiveChannels)->setVisible(visible);
-    if (!visible && Entry(MenuEntry::LiveChannels)->isChecked())
-        SwitchTo(static_cast<int>(MenuEntry::Enrolment));
+    UMenuEntry* entry = Entry(PageId::LiveChannels);
+    entry->setVisible(visible);
+    if (!visible && entry->isChecked())
+        SwitchTo(0);
 }
 
 void UMenu::SetCompact(bool compact) {
@@ -129,11 +129,8 @@ void UMenu::OnPipeReceive(PipeKey key, const std::string& body) {
             return;
         const auto status = static_cast<IotStatus>(entity.status);
         m_disconnected = status == IotStatus::Disconnected;
-        if (status == IotStatus::NotEnrolled) {
-            // What an organisation sends or holds goes with it.
-            m_managed = false;
-            SetLiveChannelVisible(false);
-        }
+        if (status == IotStatus::NotEnrolled)
+            m_managed = false; // what an organisation holds goes with it
         UpdateMarks();
     } else if (key == PipeKey::SettingPermission) {
         PermissionInfo permissions;
@@ -145,19 +142,19 @@ void UMenu::OnPipeReceive(PipeKey key, const std::string& body) {
 
 void UMenu::Retranslate() {
     setAccessibleName(tr("menu_name"));
-    for (int index = 0; index < MenuEntryCount; ++index)
-        m_entries[static_cast<size_t>(index)]->SetName(tr(Entries[static_cast<size_t>(index)].name));
+    for (size_t entry = 0; entry < m_entries.size(); ++entry)
+        m_entries[entry]->SetName(tr(Pages()[entry].name));
     UpdateMarks();
     UpdateWidth();
 }
 
 void UMenu::UpdateMarks() {
-    Entry(MenuEntry::Network)
-        ->SetMark(m_disconnected ? QStringLiteral("warning") : QString(),
-                  m_disconnected ? tr("menu_mark_disconnected") : QString());
-    Entry(MenuEntry::Settings)
-        ->SetMark(m_managed ? QStringLiteral("managed") : QString(),
-                  m_managed ? tr("menu_mark_managed") : QString());
+    const auto mark = [this](const char* page, bool marked, const char* icon, const QString& meaning) {
+        Entry(page)->SetMark(marked ? QString::fromLatin1(icon) : QString(), marked ? meaning : QString());
+    };
+    mark(PageId::Network, m_disconnected || !AppContextData::Instance()->Linked(), "warning",
+         tr("menu_mark_disconnected"));
+    mark(PageId::Settings, m_managed, "managed", tr("menu_mark_managed"));
 }
 
 void UMenu::UpdateWidth() {

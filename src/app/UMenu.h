@@ -1,23 +1,22 @@
 #pragma once
 
-#include "app/MenuEntry.h"
 #include "platform/link/PipeKey.h"
 
 #include <QWidget>
-#include <array>
 #include <string>
+#include <vector>
 
 class GestureScrollArea;
 class UMenuEntry;
 
-/// The list of rooms at the side of the main page.
+/// The list of pages at the side of the main page. Indices are those of Pages().
 class UMenu : public QWidget {
     Q_OBJECT
 
 public:
     explicit UMenu(QWidget* parent = nullptr);
 
-    /// Selects an entry, as if the user had pressed it. Indices are those of MenuEntry; others do nothing.
+    /// Selects an entry, as if the user had pressed it. An index without an entry does nothing.
     void SwitchTo(int index);
 
     /// Selects an entry without telling anybody.
@@ -47,11 +46,11 @@ private:
     void Retranslate();
     void UpdateMarks();
     void UpdateWidth();
-    UMenuEntry* Entry(MenuEntry entry) const { return m_entries[static_cast<size_t>(entry)]; }
+    UMenuEntry* Entry(const char* page) const;
 
-    std::array<UMenuEntry*, MenuEntryCount> m_entries{};
+    std::vector<UMenuEntry*> m_entries;
     GestureScrollArea* m_scroll;
     bool m_compact = false;
-    bool m_disconnected = false;
+    bool m_disconnected = false; // the service said so
     bool m_managed = false;
 };

@@ -72,6 +72,8 @@ void UMenuEntry::SetName(const QString& name) {
 }
 
 void UMenuEntry::SetMark(const QString& icon, const QString& meaning) {
+    if (m_mark == icon && m_markMeaning == meaning)
+        return;
     m_mark = icon;
     m_markMeaning = meaning;
     setAccessibleDescription(meaning);

@@ -1,7 +1,7 @@
 #include "app/UTrayIcon.h"
 
-#include "app/StatusLook.h"
 #include "app/TrayTone.h"
+#include "platform/context/AppContextData.h"
 #include "platform/context/ProductConstants.h"
 #include "widgets/ThemeIcon.h"
 
@@ -24,6 +24,10 @@ UTrayIcon::UTrayIcon(QObject* parent)
     setIcon(IconFor(m_tone->Name()));
     connect(m_tone, &TrayTone::Changed, this, [this] { setIcon(IconFor(m_tone->Name())); });
     connect(this, &QSystemTrayIcon::messageClicked, this, &UTrayIcon::OpenRequested);
+    connect(AppContextData::Instance(), &AppContextData::Changed, this, [this](AppContextData::Field field) {
+        if (field == AppContextData::Field::Linked)
+            ShowLook();
+    });
     Retranslate();
 }
 
@@ -31,13 +35,20 @@ UTrayIcon::~UTrayIcon() = default;
 
 void UTrayIcon::ShowStatus(IotStatus status) {
     m_status = status;
-    Retranslate();
+    ShowLook();
+}
+
+void UTrayIcon::ShowLook() {
+    const StatusLook look = StatusLook::Of(m_status);
+    if (look == m_look)
+        return;
+    m_look = look;
+    m_state->setText(tr("tray_link_state").arg(look.words));
+    m_state->setIcon(ThemeIcon::Get(look.icon));
 }
 
 void UTrayIcon::Retranslate() {
-    const StatusLook look = StatusLook::Of(m_status);
-    m_state->setText(tr("tray_link_state").arg(look.words));
-    m_state->setIcon(ThemeIcon::Get(look.icon));
+    ShowLook();
     m_open->setText(tr("Open"));
     m_report->setText(tr("Report a problem"));
 }

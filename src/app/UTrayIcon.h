@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/application/IotStatus.h"
+#include "widgets/StatusLook.h"
 
 #include <QMenu>
 #include <QSystemTrayIcon>
@@ -28,7 +29,10 @@ signals:
     void ReportRequested();
 
 private:
+    void ShowLook();
+
     IotStatus m_status = IotStatus::NotEnrolled;
+    StatusLook m_look; // in the menu
     QMenu m_menu;
     QAction* m_state;
     QAction* m_open;

@@ -10,10 +10,11 @@
 #include "lock/UDeviceScreenLock.h"
 #include "platform/application/QtSingleApplication.h"
 #include "platform/context/AppHelper.h"
+#include "platform/context/LogText.h"
 #include "platform/context/ProductConstants.h"
 #include "platform/link/PipeClientService.h"
-#include "platform/system/SystemDesktop.h"
 #include "platform/system/SystemSession.h"
+#include "platform/system/SystemWindows.h"
 
 #include <QDir>
 #include <QMap>
@@ -63,9 +64,11 @@ struct PipeLinkGuard {
 
 int UserApp::Run(int argc, char** argv) {
     SystemSession::Native().InitializeCom();
-    SystemDesktop::Native().PrepareApplication();
+    SystemSession::Native().PrepareApplication();
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    // Windows that stay open would otherwise veto log-off and shutdown.
+    QGuiApplication::setFallbackSessionManagementEnabled(false);
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QtSingleApplication application(QStringLiteral("velmora_ryx_windows_shell"), argc, argv);
     if (application.isRunning()) {
@@ -73,9 +76,11 @@ int UserApp::Run(int argc, char** argv) {
         return 0;
     }
     application.setProperty("IsUser", true);
-    SystemDesktop::Native().AllowTakingForeground();
+    SystemWindows::Native().AllowTakingForeground();
 
     const LoggerGuard logger(true, "User");
+    LOG_IF(WARNING, !application.StartProblem().isEmpty())
+        << "UserApp::Run " << LogText(application.StartProblem());
     QSharedMemory marker;
     if (!TakeSessionMarker(marker)) {
         LOG(INFO) << "UserApp::Run application is already running!";
@@ -109,7 +114,7 @@ int UserApp::Run(int argc, char** argv) {
     const UDeviceScreenLock screenLock;
     application.setActivationWindow(&window, true);
     if (application.arguments().contains(QStringLiteral("-hide")))
-        SystemDesktop::Native().CreateHidden(window);
+        SystemWindows::Native().CreateHidden(window);
     else
         window.show();
     return QApplication::exec();
@@ -120,5 +125,5 @@ void UserApp::OnOtherInstanceMessageReceived(const QString& message) {
         if (QWidget* window = static_cast<QtSingleApplication*>(qApp)->activationWindow())
             window->show();
     LOG(INFO) << "UserApp::OnOtherInstanceMessageReceived Other instance commandline: "
-              << QString(message).replace(ArgumentSeparator, QStringLiteral(" ")).toStdString();
+              << LogText(QString(message).replace(ArgumentSeparator, QStringLiteral(" ")));
 }

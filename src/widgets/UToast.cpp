@@ -9,13 +9,14 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QMetaEnum>
+#include <array>
 
 namespace {
 
 constexpr int MaximumTextWidth = 560;
 constexpr int DistanceToEdge = 32;
 constexpr int IconSize = 24;
+constexpr std::array<const char*, 4> KindNames{"Info", "Success", "Warning", "Error"};
 
 // Slow readers read some fifteen characters a second, and need a moment to notice the toast.
 int ReadingTimeMs(const QString& message) {
@@ -81,7 +82,7 @@ void UToast::Request() {
 }
 
 void UToast::Present(const Notice& notice) {
-    const char* kind = QMetaEnum::fromType<Kind>().valueToKey(static_cast<int>(notice.kind));
+    const char* kind = KindNames[static_cast<size_t>(notice.kind)];
     m_icon->SetIcon(QString::fromLatin1(kind).toLower(), QStringLiteral("toast") + QLatin1String(kind));
     m_text->setText(notice.message);
     setAccessibleName(notice.message);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/application/NoticeKind.h"
+
 #include <QFrame>
 #include <QPointer>
 #include <QTimer>
@@ -19,8 +21,7 @@ class UToast : public QFrame {
     Q_OBJECT
 
 public:
-    enum class Kind { Info, Success, Warning, Error };
-    Q_ENUM(Kind)
+    using Kind = NoticeKind;
 
     /// What show() does while an earlier message of this same toast is on screen or waits for it.
     enum class WhenBusy { Queue, Replace };

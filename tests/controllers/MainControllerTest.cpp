@@ -13,7 +13,7 @@ namespace {
 class MainControllerTest : public testing::Test {
 protected:
     MainControllerTest() {
-        *AppContextData::Instance() = {};
+        AppContextData::Instance()->Reset();
         controller.SetService(&link);
     }
 
@@ -33,9 +33,9 @@ TEST_F(MainControllerTest, EachConnectAsksForContextAndUpdateInTheirOrder) {
         ASSERT_TRUE(service.WaitForClient());
         EXPECT_EQ(service.Receive().key, PipeKey::ContextRequest);
         EXPECT_EQ(service.Receive().key, PipeKey::OtaVersionInfo);
-        EXPECT_TRUE(context.linked);
+        EXPECT_TRUE(context.Linked());
         service.Drop();
-        ASSERT_TRUE(QTest::qWaitFor([this] { return !context.linked; }));
+        ASSERT_TRUE(QTest::qWaitFor([this] { return !context.Linked(); }));
     }
 }
 
@@ -45,15 +45,15 @@ TEST_F(MainControllerTest, KeepsWhatTheServicePushes) {
     link.Deliver(PipeKey::UnbindPasswordUpdate, "unbind-hash");
     link.Deliver(PipeKey::UnlockPasswordUpdate, "");
     link.Deliver(PipeKey::UnbindPasswordUpdate, "");
-    EXPECT_EQ(context.contextText, "context");
-    EXPECT_EQ(context.unlockPassword, "unlock-hash") << "an empty update keeps the password";
-    EXPECT_EQ(context.unbindPassword, "unbind-hash");
+    EXPECT_EQ(context.ContextText(), "context");
+    EXPECT_EQ(context.UnlockPassword(), "unlock-hash") << "an empty update keeps the password";
+    EXPECT_EQ(context.UnbindPassword(), "unbind-hash");
     EXPECT_EQ(log.Count("MainController::ProcessPasswordUnlock Unlock password update: unlock-hash\n"), 1);
     EXPECT_EQ(log.Count("MainController::ProcessPasswordUnlock Unlock password update: \n"), 1);
     EXPECT_EQ(log.Count("MainController::ProcessPasswordUnbind Unbind password update: unbind-hash\n"), 1);
 
     link.Deliver(PipeKey::ContextReply, "");
-    EXPECT_EQ(context.contextText, "") << "an empty context is a context";
+    EXPECT_EQ(context.ContextText(), "") << "an empty context is a context";
 }
 
 TEST_F(MainControllerTest, TurnsDeviceMessagesIntoSignals) {

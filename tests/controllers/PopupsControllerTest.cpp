@@ -19,8 +19,8 @@ TEST(PopupsController, SendsWhatOtherThreadsPostAndLetsOthersWatch) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return link.IsConnected(); }));
 
     struct Watcher : QObject {
-        bool eventFilter(QObject*, QEvent* event) override {
-            seen += event->type() == PipeSendEvent::eventType();
+        bool eventFilter(QObject* watched, QEvent* event) override {
+            seen += watched == qApp && event->type() == PipeSendEvent::eventType();
             return false;
         }
         int seen = 0;
@@ -29,6 +29,10 @@ TEST(PopupsController, SendsWhatOtherThreadsPostAndLetsOthersWatch) {
 
     IotStatusEntity entity;
     entity.status = 4;
+    // Posted to another object it is none of the controller's business.
+    QObject other;
+    PipeSendEvent elsewhere(PipeKey::Binding, entity);
+    QCoreApplication::sendEvent(&other, &elsewhere);
     std::thread thread([entity]() mutable {
         QCoreApplication::postEvent(QCoreApplication::instance(),
                                     new PipeSendEvent(PipeKey::PopupDetected, entity));

@@ -1,8 +1,7 @@
 #include "gallery/Scenes.h"
 
 #include "app/MainWindow.h"
-#include "app/MenuEntry.h"
-#include "app/UAppearance.h"
+#include "app/Pages.h"
 #include "app/ULauncher.h"
 #include "app/UMenu.h"
 #include "controllers/MainController.h"
@@ -32,22 +31,22 @@ constexpr int Connected = 2;
 constexpr int Disconnected = 4;
 constexpr int Connecting = 5;
 
-void GoTo(Stage& stage, MenuEntry entry) {
-    stage.Window().findChild<UMenu*>()->SwitchTo(static_cast<int>(entry));
+void GoTo(Stage& stage, const char* page) {
+    stage.Window().findChild<UMenu*>()->SwitchTo(PageIndex(page));
 }
 
-Scene Room(const QString& name, MenuEntry entry) {
-    return {name, true, [entry](Stage& stage) {
+Scene Page(const PageEntry& page) {
+    return {QStringLiteral("page-") + QLatin1String(page.id), true, [id = page.id](Stage& stage) {
                 stage.Receive(2, Status(Connected));
                 stage.Receive(46, R"({"liveChannelList": [{"id": 1, "name": "News"}]})");
-                GoTo(stage, entry);
+                GoTo(stage, id);
             }};
 }
 
 Scene Link(const QString& name, int status) {
     return {name, true, [status](Stage& stage) {
                 stage.Receive(2, Status(status));
-                GoTo(stage, MenuEntry::Network);
+                GoTo(stage, PageId::Network);
             }};
 }
 
@@ -76,22 +75,29 @@ UDeviceScreenLock& Lock(Stage& stage, const char* body) {
     return lock;
 }
 
+QVector<Scene> PageScenes() {
+    QVector<Scene> scenes;
+    for (const PageEntry& page : Pages())
+        scenes.append(Page(page));
+    return scenes;
+}
+
 QVector<Scene> ShellScenes() {
     return {
         {QStringLiteral("launcher"), false, [](Stage&) {}},
         {QStringLiteral("launcher-narrow"), false, [](Stage& stage) { stage.Window().resize(640, 480); }},
-        Room(QStringLiteral("page-enrolment"), MenuEntry::Enrolment),
-        Room(QStringLiteral("page-features"), MenuEntry::Features),
-        Room(QStringLiteral("page-live-channels"), MenuEntry::LiveChannels),
-        Room(QStringLiteral("page-network"), MenuEntry::Network),
-        Room(QStringLiteral("page-settings"), MenuEntry::Settings),
-        Room(QStringLiteral("page-about"), MenuEntry::About),
-        Room(QStringLiteral("page-feedback"), MenuEntry::Feedback),
         {QStringLiteral("page-enrolment-not-enrolled"), false,
          [](Stage& stage) { stage.Window().findChild<ULauncher*>()->EnrolRequested(); }},
         Link(QStringLiteral("link-connected"), Connected),
         Link(QStringLiteral("link-connecting"), Connecting),
         Link(QStringLiteral("link-disconnected"), Disconnected),
+        {QStringLiteral("link-no-service"), true,
+         [](Stage& stage) {
+             GoTo(stage, PageId::Network);
+             AppContextData::Instance()->SetLinked(false);
+         }},
+        {QStringLiteral("launcher-no-service"), false,
+         [](Stage&) { AppContextData::Instance()->SetLinked(false); }},
         {QStringLiteral("menu-managed-settings"), true,
          [](Stage& stage) {
              stage.Receive(2, Status(Connected));
@@ -115,10 +121,9 @@ QVector<Scene> ShellScenes() {
              stage.Window().resize(640, 360);
          }},
         {QStringLiteral("header-long-name"), true,
-         [](Stage& stage) {
-             AppContextData::Instance()->deviceName = "Interactive display in the great lecture hall on the "
-                                                      "second floor of the northern building, left side";
-             stage.Window().UpdateDeviceInfo();
+         [](Stage&) {
+             AppContextData::Instance()->SetDeviceName("Interactive display in the great lecture hall on the "
+                                                       "second floor of the northern building, left side");
          }},
         {QStringLiteral("busy-binding"), true,
          [](Stage& stage) {
@@ -127,7 +132,7 @@ QVector<Scene> ShellScenes() {
          }},
         {QStringLiteral("settings-language-list"), true,
          [](Stage& stage) {
-             GoTo(stage, MenuEntry::Settings);
+             GoTo(stage, PageId::Settings);
              Settle();
              auto* box = stage.Window().findChild<QComboBox*>(QStringLiteral("languageBox"));
              box->showPopup();
@@ -145,10 +150,8 @@ QVector<Scene> NoticeScenes() {
     return {
         {QStringLiteral("toast-wifi"), true, [](Stage& stage) { stage.Receive(74, "Staff network"); }},
         {QStringLiteral("toast-channel"), true, [](Stage& stage) { stage.Receive(75); }},
-        {QStringLiteral("toast-usb-success"), true,
-         [](Stage& stage) { stage.Window().ShowResult(QStringLiteral("usb_bind_success")); }},
-        {QStringLiteral("toast-usb-failed"), true,
-         [](Stage& stage) { stage.Window().ShowResult(QStringLiteral("usb_bind_failed")); }},
+        Toast(QStringLiteral("toast-success"), UToast::Kind::Success, "launcher_step_done"),
+        Toast(QStringLiteral("toast-error"), UToast::Kind::Error, "menu_mark_disconnected"),
         Toast(QStringLiteral("toast-long"), UToast::Kind::Info, "launcher_sentence"),
         {QStringLiteral("alert-tell"), true,
          [](Stage& stage) { Alert(stage, "menu_mark_disconnected", "network_sentence")->show(); }},
@@ -191,14 +194,14 @@ QVector<Scene> OtherScenes() {
 
 Stage::Stage(bool enrolled) : m_controller(std::make_unique<MainController>()) {
     AppContextData& context = *AppContextData::Instance();
-    context = {};
-    context.enrolled = enrolled;
-    context.linked = true;
-    context.deviceName = "Lecture hall 3";
+    context.Reset();
+    context.SetEnrolled(enrolled);
+    context.SetLinked(true);
+    context.SetDeviceName("Lecture hall 3");
     if (enrolled) {
-        context.adminAccount = "admin@school.example";
-        context.schoolCode = "A1B2C3";
-        context.deviceTags = {"second floor", "physics"};
+        context.SetAdminAccount("admin@school.example");
+        context.SetSchoolCode("A1B2C3");
+        context.SetDeviceTags({"second floor", "physics"});
     }
     AppConfigData::Instance()->organisation = "Northern Comprehensive School";
 
@@ -230,7 +233,7 @@ QWidget& Stage::Subject() {
 }
 
 QVector<Scene> AllScenes() {
-    return ShellScenes() + NoticeScenes() + OtherScenes();
+    return PageScenes() + ShellScenes() + NoticeScenes() + OtherScenes();
 }
 
 void Settle() {

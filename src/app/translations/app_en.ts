@@ -4,86 +4,6 @@
 <context>
     <name>Ryx</name>
     <message>
-        <source>about_sentence</source>
-        <translation>The part of the device management that you see. It works together with a service on this device.</translation>
-    </message>
-    <message>
-        <source>about_title</source>
-        <translation>About Velmora RYX</translation>
-    </message>
-    <message>
-        <source>enrolment_sentence</source>
-        <translation>Here you see which organisation this device belongs to and who administers it.</translation>
-    </message>
-    <message>
-        <source>enrolment_title</source>
-        <translation>Enrolment</translation>
-    </message>
-    <message>
-        <source>fact_addresses</source>
-        <translation>Network addresses</translation>
-    </message>
-    <message>
-        <source>fact_administrator</source>
-        <translation>Administrator</translation>
-    </message>
-    <message>
-        <source>fact_device_name</source>
-        <translation>Device name</translation>
-    </message>
-    <message>
-        <source>fact_local_service</source>
-        <translation>Service on this device</translation>
-    </message>
-    <message>
-        <source>fact_management_service</source>
-        <translation>Management service</translation>
-    </message>
-    <message>
-        <source>fact_none</source>
-        <translation>None</translation>
-    </message>
-    <message>
-        <source>fact_organisation</source>
-        <translation>Organisation</translation>
-    </message>
-    <message>
-        <source>fact_service_not_reached</source>
-        <translation>Not reachable</translation>
-    </message>
-    <message>
-        <source>fact_service_reached</source>
-        <translation>Running</translation>
-    </message>
-    <message>
-        <source>fact_tags</source>
-        <translation>Tags</translation>
-    </message>
-    <message>
-        <source>fact_version</source>
-        <translation>Version</translation>
-    </message>
-    <message>
-        <source>features_sentence</source>
-        <translation>Here you see which pop-up windows are blocked on this device.</translation>
-    </message>
-    <message>
-        <source>features_title</source>
-        <translation>Features</translation>
-    </message>
-    <message>
-        <source>feedback_note</source>
-        <translation>Reports cannot be sent from this version yet. Until then please tell your administrator directly.</translation>
-    </message>
-    <message>
-        <source>feedback_sentence</source>
-        <translation>From here a problem is described and reported to your administrator, together with the logs of this device.</translation>
-    </message>
-    <message>
-        <source>feedback_title</source>
-        <translation>Log Report</translation>
-    </message>
-    <message>
         <source>header_no_organisation</source>
         <translation>Not managed by an organisation yet</translation>
     </message>
@@ -94,6 +14,10 @@
     <message>
         <source>launcher_button</source>
         <translation>Enrol this device</translation>
+    </message>
+    <message>
+        <source>launcher_no_service</source>
+        <translation>The service on this device is not running. Enrolment can begin as soon as it is back.</translation>
     </message>
     <message>
         <source>launcher_sentence</source>
@@ -114,14 +38,6 @@
     <message>
         <source>launcher_title</source>
         <translation>Welcome to Velmora RYX</translation>
-    </message>
-    <message>
-        <source>live_sentence</source>
-        <translation>Channels that your organisation sends to this display are started and stopped here.</translation>
-    </message>
-    <message>
-        <source>live_title</source>
-        <translation>Live channels</translation>
     </message>
     <message>
         <source>menu_about</source>
@@ -164,14 +80,6 @@
         <translation>Settings</translation>
     </message>
     <message>
-        <source>network_sentence</source>
-        <translation>Here you see how this device reaches the management service.</translation>
-    </message>
-    <message>
-        <source>network_title</source>
-        <translation>Network</translation>
-    </message>
-    <message>
         <source>Open</source>
         <translation>Open</translation>
     </message>
@@ -182,50 +90,6 @@
     <message>
         <source>Report a problem</source>
         <translation>Report a problem</translation>
-    </message>
-    <message>
-        <source>room_note_state_only</source>
-        <translation>For now this page only shows how things stand.</translation>
-    </message>
-    <message>
-        <source>settings_language</source>
-        <translation>Language</translation>
-    </message>
-    <message>
-        <source>settings_sentence</source>
-        <translation>How this program looks and which language it speaks. The choice takes effect at once.</translation>
-    </message>
-    <message>
-        <source>settings_theme</source>
-        <translation>Appearance</translation>
-    </message>
-    <message>
-        <source>settings_theme_dark</source>
-        <translation>Dark</translation>
-    </message>
-    <message>
-        <source>settings_theme_light</source>
-        <translation>Light</translation>
-    </message>
-    <message>
-        <source>settings_title</source>
-        <translation>Settings</translation>
-    </message>
-    <message>
-        <source>status_connected</source>
-        <translation>Connected</translation>
-    </message>
-    <message>
-        <source>status_connecting</source>
-        <translation>Connecting …</translation>
-    </message>
-    <message>
-        <source>status_disconnected</source>
-        <translation>Not connected</translation>
-    </message>
-    <message>
-        <source>status_not_enrolled</source>
-        <translation>Not enrolled</translation>
     </message>
     <message>
         <source>toast_channel_switched</source>
@@ -242,14 +106,6 @@
     <message>
         <source>Unable to connect to</source>
         <translation>Unable to connect to</translation>
-    </message>
-    <message>
-        <source>usb_bind_failed</source>
-        <translation>This device is already enrolled. The details on the USB drive were not used.</translation>
-    </message>
-    <message>
-        <source>usb_bind_success</source>
-        <translation>The enrolment details were read from the USB drive.</translation>
     </message>
 </context>
 </TS>

@@ -4,86 +4,6 @@
 <context>
     <name>Ryx</name>
     <message>
-        <source>about_sentence</source>
-        <translation>La partie visible de la gestion de l’appareil. Elle fonctionne avec un service présent sur cet appareil.</translation>
-    </message>
-    <message>
-        <source>about_title</source>
-        <translation>À propos de Velmora RYX</translation>
-    </message>
-    <message>
-        <source>enrolment_sentence</source>
-        <translation>Vous voyez ici à quelle organisation appartient cet appareil et qui l’administre.</translation>
-    </message>
-    <message>
-        <source>enrolment_title</source>
-        <translation>Inscription</translation>
-    </message>
-    <message>
-        <source>fact_addresses</source>
-        <translation>Adresses réseau</translation>
-    </message>
-    <message>
-        <source>fact_administrator</source>
-        <translation>Administrateur</translation>
-    </message>
-    <message>
-        <source>fact_device_name</source>
-        <translation>Nom de l’appareil</translation>
-    </message>
-    <message>
-        <source>fact_local_service</source>
-        <translation>Service sur cet appareil</translation>
-    </message>
-    <message>
-        <source>fact_management_service</source>
-        <translation>Service de gestion</translation>
-    </message>
-    <message>
-        <source>fact_none</source>
-        <translation>Aucun</translation>
-    </message>
-    <message>
-        <source>fact_organisation</source>
-        <translation>Organisation</translation>
-    </message>
-    <message>
-        <source>fact_service_not_reached</source>
-        <translation>Injoignable</translation>
-    </message>
-    <message>
-        <source>fact_service_reached</source>
-        <translation>En marche</translation>
-    </message>
-    <message>
-        <source>fact_tags</source>
-        <translation>Étiquettes</translation>
-    </message>
-    <message>
-        <source>fact_version</source>
-        <translation>Version</translation>
-    </message>
-    <message>
-        <source>features_sentence</source>
-        <translation>Vous voyez ici quelles fenêtres contextuelles sont bloquées sur cet appareil.</translation>
-    </message>
-    <message>
-        <source>features_title</source>
-        <translation>Fonctions</translation>
-    </message>
-    <message>
-        <source>feedback_note</source>
-        <translation>Cette version ne permet pas encore d’envoyer de rapports. En attendant, adressez-vous directement à votre administrateur.</translation>
-    </message>
-    <message>
-        <source>feedback_sentence</source>
-        <translation>C’est ici qu’un problème est décrit et signalé à votre administrateur, avec les journaux de cet appareil.</translation>
-    </message>
-    <message>
-        <source>feedback_title</source>
-        <translation>Rapport de journal</translation>
-    </message>
-    <message>
         <source>header_no_organisation</source>
         <translation>Pas encore géré par une organisation</translation>
     </message>
@@ -94,6 +14,10 @@
     <message>
         <source>launcher_button</source>
         <translation>Inscrire cet appareil</translation>
+    </message>
+    <message>
+        <source>launcher_no_service</source>
+        <translation>Le service de cet appareil est arrêté. L’inscription pourra commencer dès son retour.</translation>
     </message>
     <message>
         <source>launcher_sentence</source>
@@ -114,14 +38,6 @@
     <message>
         <source>launcher_title</source>
         <translation>Bienvenue dans Velmora RYX</translation>
-    </message>
-    <message>
-        <source>live_sentence</source>
-        <translation>Les chaînes que votre organisation envoie à cet écran se lancent et s’arrêtent ici.</translation>
-    </message>
-    <message>
-        <source>live_title</source>
-        <translation>Chaînes en direct</translation>
     </message>
     <message>
         <source>menu_about</source>
@@ -164,14 +80,6 @@
         <translation>Paramètres</translation>
     </message>
     <message>
-        <source>network_sentence</source>
-        <translation>Vous voyez ici comment cet appareil atteint le service de gestion.</translation>
-    </message>
-    <message>
-        <source>network_title</source>
-        <translation>Réseau</translation>
-    </message>
-    <message>
         <source>Open</source>
         <translation>Ouvrir</translation>
     </message>
@@ -182,50 +90,6 @@
     <message>
         <source>Report a problem</source>
         <translation>Signaler un problème</translation>
-    </message>
-    <message>
-        <source>room_note_state_only</source>
-        <translation>Pour l’instant, cette page ne fait qu’afficher l’état actuel.</translation>
-    </message>
-    <message>
-        <source>settings_language</source>
-        <translation>Langue</translation>
-    </message>
-    <message>
-        <source>settings_sentence</source>
-        <translation>L’apparence de ce programme et sa langue. Votre choix prend effet immédiatement.</translation>
-    </message>
-    <message>
-        <source>settings_theme</source>
-        <translation>Apparence</translation>
-    </message>
-    <message>
-        <source>settings_theme_dark</source>
-        <translation>Sombre</translation>
-    </message>
-    <message>
-        <source>settings_theme_light</source>
-        <translation>Clair</translation>
-    </message>
-    <message>
-        <source>settings_title</source>
-        <translation>Paramètres</translation>
-    </message>
-    <message>
-        <source>status_connected</source>
-        <translation>Connecté</translation>
-    </message>
-    <message>
-        <source>status_connecting</source>
-        <translation>Connexion en cours …</translation>
-    </message>
-    <message>
-        <source>status_disconnected</source>
-        <translation>Non connecté</translation>
-    </message>
-    <message>
-        <source>status_not_enrolled</source>
-        <translation>Non inscrit</translation>
     </message>
     <message>
         <source>toast_channel_switched</source>
@@ -242,14 +106,6 @@
     <message>
         <source>Unable to connect to</source>
         <translation>Impossible de se connecter à</translation>
-    </message>
-    <message>
-        <source>usb_bind_failed</source>
-        <translation>Cet appareil est déjà inscrit. Les données de la clé USB n’ont pas été utilisées.</translation>
-    </message>
-    <message>
-        <source>usb_bind_success</source>
-        <translation>Les données d’inscription ont été lues sur la clé USB.</translation>
     </message>
 </context>
 </TS>

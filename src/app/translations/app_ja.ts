@@ -4,86 +4,6 @@
 <context>
     <name>Ryx</name>
     <message>
-        <source>about_sentence</source>
-        <translation>デバイス管理のうち画面に表示される部分です。このデバイス上のサービスと連携して動作します。</translation>
-    </message>
-    <message>
-        <source>about_title</source>
-        <translation>Velmora RYX について</translation>
-    </message>
-    <message>
-        <source>enrolment_sentence</source>
-        <translation>このデバイスが属する組織と管理者を確認できます。</translation>
-    </message>
-    <message>
-        <source>enrolment_title</source>
-        <translation>デバイス登録</translation>
-    </message>
-    <message>
-        <source>fact_addresses</source>
-        <translation>ネットワークアドレス</translation>
-    </message>
-    <message>
-        <source>fact_administrator</source>
-        <translation>管理者</translation>
-    </message>
-    <message>
-        <source>fact_device_name</source>
-        <translation>デバイス名</translation>
-    </message>
-    <message>
-        <source>fact_local_service</source>
-        <translation>このデバイスのサービス</translation>
-    </message>
-    <message>
-        <source>fact_management_service</source>
-        <translation>管理サービス</translation>
-    </message>
-    <message>
-        <source>fact_none</source>
-        <translation>なし</translation>
-    </message>
-    <message>
-        <source>fact_organisation</source>
-        <translation>組織</translation>
-    </message>
-    <message>
-        <source>fact_service_not_reached</source>
-        <translation>接続できません</translation>
-    </message>
-    <message>
-        <source>fact_service_reached</source>
-        <translation>動作中</translation>
-    </message>
-    <message>
-        <source>fact_tags</source>
-        <translation>タグ</translation>
-    </message>
-    <message>
-        <source>fact_version</source>
-        <translation>バージョン</translation>
-    </message>
-    <message>
-        <source>features_sentence</source>
-        <translation>このデバイスでブロックされるポップアップウィンドウを確認できます。</translation>
-    </message>
-    <message>
-        <source>features_title</source>
-        <translation>機能</translation>
-    </message>
-    <message>
-        <source>feedback_note</source>
-        <translation>このバージョンではまだレポートを送信できません。それまでは管理者に直接お知らせください。</translation>
-    </message>
-    <message>
-        <source>feedback_sentence</source>
-        <translation>ここから問題を説明し、このデバイスのログとともに管理者へ報告します。</translation>
-    </message>
-    <message>
-        <source>feedback_title</source>
-        <translation>ログレポート</translation>
-    </message>
-    <message>
         <source>header_no_organisation</source>
         <translation>まだ組織で管理されていません</translation>
     </message>
@@ -94,6 +14,10 @@
     <message>
         <source>launcher_button</source>
         <translation>このデバイスを登録</translation>
+    </message>
+    <message>
+        <source>launcher_no_service</source>
+        <translation>このデバイスのサービスが停止しています。サービスが再開すると登録を始められます。</translation>
     </message>
     <message>
         <source>launcher_sentence</source>
@@ -114,14 +38,6 @@
     <message>
         <source>launcher_title</source>
         <translation>Velmora RYX へようこそ</translation>
-    </message>
-    <message>
-        <source>live_sentence</source>
-        <translation>組織がこのディスプレイに配信するチャンネルをここで開始・停止します。</translation>
-    </message>
-    <message>
-        <source>live_title</source>
-        <translation>ライブチャンネル</translation>
     </message>
     <message>
         <source>menu_about</source>
@@ -164,14 +80,6 @@
         <translation>設定</translation>
     </message>
     <message>
-        <source>network_sentence</source>
-        <translation>このデバイスが管理サービスにどのように接続しているかを確認できます。</translation>
-    </message>
-    <message>
-        <source>network_title</source>
-        <translation>ネットワーク</translation>
-    </message>
-    <message>
         <source>Open</source>
         <translation>開く</translation>
     </message>
@@ -182,50 +90,6 @@
     <message>
         <source>Report a problem</source>
         <translation>問題を報告</translation>
-    </message>
-    <message>
-        <source>room_note_state_only</source>
-        <translation>現在のところ、このページには状態のみが表示されます。</translation>
-    </message>
-    <message>
-        <source>settings_language</source>
-        <translation>言語</translation>
-    </message>
-    <message>
-        <source>settings_sentence</source>
-        <translation>このプログラムの外観と言語です。選択はすぐに反映されます。</translation>
-    </message>
-    <message>
-        <source>settings_theme</source>
-        <translation>外観</translation>
-    </message>
-    <message>
-        <source>settings_theme_dark</source>
-        <translation>ダーク</translation>
-    </message>
-    <message>
-        <source>settings_theme_light</source>
-        <translation>ライト</translation>
-    </message>
-    <message>
-        <source>settings_title</source>
-        <translation>設定</translation>
-    </message>
-    <message>
-        <source>status_connected</source>
-        <translation>接続済み</translation>
-    </message>
-    <message>
-        <source>status_connecting</source>
-        <translation>接続中…</translation>
-    </message>
-    <message>
-        <source>status_disconnected</source>
-        <translation>未接続</translation>
-    </message>
-    <message>
-        <source>status_not_enrolled</source>
-        <translation>未登録</translation>
     </message>
     <message>
         <source>toast_channel_switched</source>
@@ -242,14 +106,6 @@
     <message>
         <source>Unable to connect to</source>
         <translation>次のネットワークに接続できません:</translation>
-    </message>
-    <message>
-        <source>usb_bind_failed</source>
-        <translation>このデバイスはすでに登録されています。USB ドライブの情報は使用されませんでした。</translation>
-    </message>
-    <message>
-        <source>usb_bind_success</source>
-        <translation>USB ドライブから登録情報を読み込みました。</translation>
     </message>
 </context>
 </TS>

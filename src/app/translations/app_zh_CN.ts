@@ -4,86 +4,6 @@
 <context>
     <name>Ryx</name>
     <message>
-        <source>about_sentence</source>
-        <translation>设备管理中您能看到的部分，与此设备上的服务协同工作。</translation>
-    </message>
-    <message>
-        <source>about_title</source>
-        <translation>关于 Velmora RYX</translation>
-    </message>
-    <message>
-        <source>enrolment_sentence</source>
-        <translation>在此查看此设备所属的组织及其管理员。</translation>
-    </message>
-    <message>
-        <source>enrolment_title</source>
-        <translation>设备注册</translation>
-    </message>
-    <message>
-        <source>fact_addresses</source>
-        <translation>网络地址</translation>
-    </message>
-    <message>
-        <source>fact_administrator</source>
-        <translation>管理员</translation>
-    </message>
-    <message>
-        <source>fact_device_name</source>
-        <translation>设备名称</translation>
-    </message>
-    <message>
-        <source>fact_local_service</source>
-        <translation>此设备上的服务</translation>
-    </message>
-    <message>
-        <source>fact_management_service</source>
-        <translation>管理服务</translation>
-    </message>
-    <message>
-        <source>fact_none</source>
-        <translation>无</translation>
-    </message>
-    <message>
-        <source>fact_organisation</source>
-        <translation>组织</translation>
-    </message>
-    <message>
-        <source>fact_service_not_reached</source>
-        <translation>无法访问</translation>
-    </message>
-    <message>
-        <source>fact_service_reached</source>
-        <translation>正在运行</translation>
-    </message>
-    <message>
-        <source>fact_tags</source>
-        <translation>标签</translation>
-    </message>
-    <message>
-        <source>fact_version</source>
-        <translation>版本</translation>
-    </message>
-    <message>
-        <source>features_sentence</source>
-        <translation>在此查看此设备上被拦截的弹出窗口。</translation>
-    </message>
-    <message>
-        <source>features_title</source>
-        <translation>功能</translation>
-    </message>
-    <message>
-        <source>feedback_note</source>
-        <translation>此版本尚不能发送报告，请先直接联系管理员。</translation>
-    </message>
-    <message>
-        <source>feedback_sentence</source>
-        <translation>可在此描述问题，并连同此设备的日志一起报告给管理员。</translation>
-    </message>
-    <message>
-        <source>feedback_title</source>
-        <translation>日志报告</translation>
-    </message>
-    <message>
         <source>header_no_organisation</source>
         <translation>尚未由组织管理</translation>
     </message>
@@ -94,6 +14,10 @@
     <message>
         <source>launcher_button</source>
         <translation>注册此设备</translation>
+    </message>
+    <message>
+        <source>launcher_no_service</source>
+        <translation>此设备上的服务未运行。服务恢复后即可开始注册。</translation>
     </message>
     <message>
         <source>launcher_sentence</source>
@@ -114,14 +38,6 @@
     <message>
         <source>launcher_title</source>
         <translation>欢迎使用 Velmora RYX</translation>
-    </message>
-    <message>
-        <source>live_sentence</source>
-        <translation>您的组织发送到此显示屏的频道在此启动和停止。</translation>
-    </message>
-    <message>
-        <source>live_title</source>
-        <translation>直播频道</translation>
     </message>
     <message>
         <source>menu_about</source>
@@ -164,14 +80,6 @@
         <translation>设置</translation>
     </message>
     <message>
-        <source>network_sentence</source>
-        <translation>在此查看此设备如何连接到管理服务。</translation>
-    </message>
-    <message>
-        <source>network_title</source>
-        <translation>网络</translation>
-    </message>
-    <message>
         <source>Open</source>
         <translation>打开</translation>
     </message>
@@ -182,50 +90,6 @@
     <message>
         <source>Report a problem</source>
         <translation>报告问题</translation>
-    </message>
-    <message>
-        <source>room_note_state_only</source>
-        <translation>目前此页面仅显示当前状态。</translation>
-    </message>
-    <message>
-        <source>settings_language</source>
-        <translation>语言</translation>
-    </message>
-    <message>
-        <source>settings_sentence</source>
-        <translation>此程序的外观和语言。选择后立即生效。</translation>
-    </message>
-    <message>
-        <source>settings_theme</source>
-        <translation>外观</translation>
-    </message>
-    <message>
-        <source>settings_theme_dark</source>
-        <translation>深色</translation>
-    </message>
-    <message>
-        <source>settings_theme_light</source>
-        <translation>浅色</translation>
-    </message>
-    <message>
-        <source>settings_title</source>
-        <translation>设置</translation>
-    </message>
-    <message>
-        <source>status_connected</source>
-        <translation>已连接</translation>
-    </message>
-    <message>
-        <source>status_connecting</source>
-        <translation>正在连接……</translation>
-    </message>
-    <message>
-        <source>status_disconnected</source>
-        <translation>未连接</translation>
-    </message>
-    <message>
-        <source>status_not_enrolled</source>
-        <translation>未注册</translation>
     </message>
     <message>
         <source>toast_channel_switched</source>
@@ -242,14 +106,6 @@
     <message>
         <source>Unable to connect to</source>
         <translation>无法连接到</translation>
-    </message>
-    <message>
-        <source>usb_bind_failed</source>
-        <translation>此设备已注册，未使用 U 盘中的信息。</translation>
-    </message>
-    <message>
-        <source>usb_bind_success</source>
-        <translation>已从 U 盘读取注册信息。</translation>
     </message>
 </context>
 </TS>

@@ -19,7 +19,11 @@ RyxWindow* RyxWindow::Of(const QWidget* widget) {
 }
 
 void RyxWindow::IotStatusChanged(IotStatus status) {
+    if (status == m_linkStatus)
+        return;
     m_linkStatus = status;
+    if (IsKnownIotStatus(static_cast<int>(status)))
+        m_knownLinkStatus = status;
     emit LinkStatusChanged(status);
 }
 
@@ -38,8 +42,4 @@ void RyxWindow::EndBinding() {
         return;
     m_binding = false;
     emit BindingEnded();
-}
-
-void RyxWindow::UpdateDeviceInfo() {
-    emit DeviceInfoChanged();
 }

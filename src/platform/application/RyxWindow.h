@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/application/IotStatus.h"
+#include "platform/application/NoticeKind.h"
 
 #include <QWidget>
 
@@ -22,18 +23,20 @@ public:
     /// as dialogs; null when there is none.
     static RyxWindow* Of(const QWidget* widget);
 
-    /// Told by the main window whenever the service reports the state of its link.
+    /// Told by the main window whenever the service reports the state of its link, whatever number it sent.
     void IotStatusChanged(IotStatus status);
 
-    /// The state last reported; NotEnrolled at start.
+    /// The status last reported, which may be a number that names no state; NotEnrolled at start.
     IotStatus LinkStatus() const { return m_linkStatus; }
+    /// The status last reported that names a state, for all that is shown of it.
+    IotStatus KnownLinkStatus() const { return m_knownLinkStatus; }
 
     /// The controller to send through; null when the application has none.
     ControllerBase* MainController() const;
 
-    /// Tells the user how something ended. `result` is a translation key such as "usb_bind_success";
-    /// the window knows which of them are failures.
-    virtual void ShowResult(const QString& result) = 0;
+    /// Tells the user something that has happened, wherever the user is: in the window, or in the tray while
+    /// the window is not seen. `text` is plain text in the language in use.
+    virtual void Notify(NoticeKind kind, const QString& text) = 0;
 
     /// A request to bind or unbind goes out: the window shows that it is busy, until EndBinding.
     void BeginBinding(BindAction action);
@@ -44,16 +47,14 @@ public:
     /// Brings the network page to the front.
     virtual void OpenNetworkPage() = 0;
 
-    /// The device's name, organisation or enrolment in AppContextData changed: shows it.
-    void UpdateDeviceInfo();
-
 signals:
+    /// LinkStatus() is another one than before.
     void LinkStatusChanged(IotStatus status);
     void BindingBegan(RyxWindow::BindAction action);
     void BindingEnded();
-    void DeviceInfoChanged();
 
 private:
     IotStatus m_linkStatus = IotStatus::NotEnrolled;
+    IotStatus m_knownLinkStatus = IotStatus::NotEnrolled;
     bool m_binding = false;
 };

@@ -16,8 +16,56 @@
         <translation>موافق</translation>
     </message>
     <message>
+        <source>fact_device_name</source>
+        <translation>اسم الجهاز</translation>
+    </message>
+    <message>
+        <source>fact_local_service</source>
+        <translation>الخدمة على هذا الجهاز</translation>
+    </message>
+    <message>
+        <source>fact_management_service</source>
+        <translation>خدمة الإدارة</translation>
+    </message>
+    <message>
+        <source>fact_none</source>
+        <translation>لا يوجد</translation>
+    </message>
+    <message>
+        <source>fact_organisation</source>
+        <translation>المؤسسة</translation>
+    </message>
+    <message>
+        <source>fact_service_not_reached</source>
+        <translation>يتعذّر الوصول إليها</translation>
+    </message>
+    <message>
+        <source>fact_service_reached</source>
+        <translation>قيد التشغيل</translation>
+    </message>
+    <message>
         <source>loading</source>
         <translation>يُرجى الانتظار…</translation>
+    </message>
+    <message>
+        <source>status_connected</source>
+        <translation>متصل</translation>
+    </message>
+    <message>
+        <source>status_connecting</source>
+        <translation>جارٍ الاتصال…</translation>
+    </message>
+    <message>
+        <source>status_disconnected</source>
+        <translation>غير متصل</translation>
+    </message>
+    <message>
+        <source>status_no_service</source>
+        <translation>الخدمة متوقفة</translation>
+    </message>
+    <message>
+        <source>status_not_enrolled</source>
+        <translation>غير مسجَّل</translation>
     </message>
 </context>
 </TS>

@@ -16,8 +16,56 @@
         <translation>OK</translation>
     </message>
     <message>
+        <source>fact_device_name</source>
+        <translation>Gerätename</translation>
+    </message>
+    <message>
+        <source>fact_local_service</source>
+        <translation>Dienst auf diesem Gerät</translation>
+    </message>
+    <message>
+        <source>fact_management_service</source>
+        <translation>Verwaltungsdienst</translation>
+    </message>
+    <message>
+        <source>fact_none</source>
+        <translation>Keine Angabe</translation>
+    </message>
+    <message>
+        <source>fact_organisation</source>
+        <translation>Organisation</translation>
+    </message>
+    <message>
+        <source>fact_service_not_reached</source>
+        <translation>Nicht erreichbar</translation>
+    </message>
+    <message>
+        <source>fact_service_reached</source>
+        <translation>Läuft</translation>
+    </message>
+    <message>
         <source>loading</source>
         <translation>Bitte warten …</translation>
+    </message>
+    <message>
+        <source>status_connected</source>
+        <translation>Verbunden</translation>
+    </message>
+    <message>
+        <source>status_connecting</source>
+        <translation>Verbindet …</translation>
+    </message>
+    <message>
+        <source>status_disconnected</source>
+        <translation>Nicht verbunden</translation>
+    </message>
+    <message>
+        <source>status_no_service</source>
+        <translation>Dienst läuft nicht</translation>
+    </message>
+    <message>
+        <source>status_not_enrolled</source>
+        <translation>Nicht registriert</translation>
     </message>
 </context>
 </TS>

@@ -16,8 +16,56 @@
         <translation>Aceptar</translation>
     </message>
     <message>
+        <source>fact_device_name</source>
+        <translation>Nombre del dispositivo</translation>
+    </message>
+    <message>
+        <source>fact_local_service</source>
+        <translation>Servicio en este dispositivo</translation>
+    </message>
+    <message>
+        <source>fact_management_service</source>
+        <translation>Servicio de administración</translation>
+    </message>
+    <message>
+        <source>fact_none</source>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>fact_organisation</source>
+        <translation>Organización</translation>
+    </message>
+    <message>
+        <source>fact_service_not_reached</source>
+        <translation>No disponible</translation>
+    </message>
+    <message>
+        <source>fact_service_reached</source>
+        <translation>En marcha</translation>
+    </message>
+    <message>
         <source>loading</source>
         <translation>Espere, por favor…</translation>
+    </message>
+    <message>
+        <source>status_connected</source>
+        <translation>Conectado</translation>
+    </message>
+    <message>
+        <source>status_connecting</source>
+        <translation>Conectando…</translation>
+    </message>
+    <message>
+        <source>status_disconnected</source>
+        <translation>Sin conexión</translation>
+    </message>
+    <message>
+        <source>status_no_service</source>
+        <translation>Servicio detenido</translation>
+    </message>
+    <message>
+        <source>status_not_enrolled</source>
+        <translation>No inscrito</translation>
     </message>
 </context>
 </TS>

@@ -16,8 +16,56 @@
         <translation>OK</translation>
     </message>
     <message>
+        <source>fact_device_name</source>
+        <translation>デバイス名</translation>
+    </message>
+    <message>
+        <source>fact_local_service</source>
+        <translation>このデバイスのサービス</translation>
+    </message>
+    <message>
+        <source>fact_management_service</source>
+        <translation>管理サービス</translation>
+    </message>
+    <message>
+        <source>fact_none</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>fact_organisation</source>
+        <translation>組織</translation>
+    </message>
+    <message>
+        <source>fact_service_not_reached</source>
+        <translation>接続できません</translation>
+    </message>
+    <message>
+        <source>fact_service_reached</source>
+        <translation>動作中</translation>
+    </message>
+    <message>
         <source>loading</source>
         <translation>お待ちください…</translation>
+    </message>
+    <message>
+        <source>status_connected</source>
+        <translation>接続済み</translation>
+    </message>
+    <message>
+        <source>status_connecting</source>
+        <translation>接続中…</translation>
+    </message>
+    <message>
+        <source>status_disconnected</source>
+        <translation>未接続</translation>
+    </message>
+    <message>
+        <source>status_no_service</source>
+        <translation>サービス停止中</translation>
+    </message>
+    <message>
+        <source>status_not_enrolled</source>
+        <translation>未登録</translation>
     </message>
 </context>
 </TS>

@@ -16,8 +16,56 @@
         <translation>确定</translation>
     </message>
     <message>
+        <source>fact_device_name</source>
+        <translation>设备名称</translation>
+    </message>
+    <message>
+        <source>fact_local_service</source>
+        <translation>此设备上的服务</translation>
+    </message>
+    <message>
+        <source>fact_management_service</source>
+        <translation>管理服务</translation>
+    </message>
+    <message>
+        <source>fact_none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>fact_organisation</source>
+        <translation>组织</translation>
+    </message>
+    <message>
+        <source>fact_service_not_reached</source>
+        <translation>无法访问</translation>
+    </message>
+    <message>
+        <source>fact_service_reached</source>
+        <translation>正在运行</translation>
+    </message>
+    <message>
         <source>loading</source>
         <translation>请稍候……</translation>
+    </message>
+    <message>
+        <source>status_connected</source>
+        <translation>已连接</translation>
+    </message>
+    <message>
+        <source>status_connecting</source>
+        <translation>正在连接……</translation>
+    </message>
+    <message>
+        <source>status_disconnected</source>
+        <translation>未连接</translation>
+    </message>
+    <message>
+        <source>status_no_service</source>
+        <translation>服务未运行</translation>
+    </message>
+    <message>
+        <source>status_not_enrolled</source>
+        <translation>未注册</translation>
     </message>
 </context>
 </TS>

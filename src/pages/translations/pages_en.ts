@@ -1,0 +1,63 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name>Ryx</name>
+    <message>
+        <source>about_sentence</source>
+        <translation>The part of the device management that you see. It works together with a service on this device.</translation>
+    </message>
+    <message>
+        <source>about_title</source>
+        <translation>About Velmora RYX</translation>
+    </message>
+    <message>
+        <source>fact_addresses</source>
+        <translation>Network addresses</translation>
+    </message>
+    <message>
+        <source>fact_version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>live_sentence</source>
+        <translation>Channels that your organisation sends to this display are started and stopped here.</translation>
+    </message>
+    <message>
+        <source>live_title</source>
+        <translation>Live channels</translation>
+    </message>
+    <message>
+        <source>network_sentence</source>
+        <translation>Here you see how this device reaches the management service.</translation>
+    </message>
+    <message>
+        <source>network_title</source>
+        <translation>Network</translation>
+    </message>
+    <message>
+        <source>settings_language</source>
+        <translation>Language</translation>
+    </message>
+    <message>
+        <source>settings_sentence</source>
+        <translation>How this program looks and which language it speaks. The choice takes effect at once.</translation>
+    </message>
+    <message>
+        <source>settings_theme</source>
+        <translation>Appearance</translation>
+    </message>
+    <message>
+        <source>settings_theme_dark</source>
+        <translation>Dark</translation>
+    </message>
+    <message>
+        <source>settings_theme_light</source>
+        <translation>Light</translation>
+    </message>
+    <message>
+        <source>settings_title</source>
+        <translation>Settings</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,63 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>Ryx</name>
+    <message>
+        <source>about_sentence</source>
+        <translation>デバイス管理のうち画面に表示される部分です。このデバイス上のサービスと連携して動作します。</translation>
+    </message>
+    <message>
+        <source>about_title</source>
+        <translation>Velmora RYX について</translation>
+    </message>
+    <message>
+        <source>fact_addresses</source>
+        <translation>ネットワークアドレス</translation>
+    </message>
+    <message>
+        <source>fact_version</source>
+        <translation>バージョン</translation>
+    </message>
+    <message>
+        <source>live_sentence</source>
+        <translation>組織がこのディスプレイに配信するチャンネルをここで開始・停止します。</translation>
+    </message>
+    <message>
+        <source>live_title</source>
+        <translation>ライブチャンネル</translation>
+    </message>
+    <message>
+        <source>network_sentence</source>
+        <translation>このデバイスが管理サービスにどのように接続しているかを確認できます。</translation>
+    </message>
+    <message>
+        <source>network_title</source>
+        <translation>ネットワーク</translation>
+    </message>
+    <message>
+        <source>settings_language</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>settings_sentence</source>
+        <translation>このプログラムの外観と言語です。選択はすぐに反映されます。</translation>
+    </message>
+    <message>
+        <source>settings_theme</source>
+        <translation>外観</translation>
+    </message>
+    <message>
+        <source>settings_theme_dark</source>
+        <translation>ダーク</translation>
+    </message>
+    <message>
+        <source>settings_theme_light</source>
+        <translation>ライト</translation>
+    </message>
+    <message>
+        <source>settings_title</source>
+        <translation>設定</translation>
+    </message>
+</context>
+</TS>

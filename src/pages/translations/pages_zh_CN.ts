@@ -1,0 +1,63 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>Ryx</name>
+    <message>
+        <source>about_sentence</source>
+        <translation>设备管理中您能看到的部分，与此设备上的服务协同工作。</translation>
+    </message>
+    <message>
+        <source>about_title</source>
+        <translation>关于 Velmora RYX</translation>
+    </message>
+    <message>
+        <source>fact_addresses</source>
+        <translation>网络地址</translation>
+    </message>
+    <message>
+        <source>fact_version</source>
+        <translation>版本</translation>
+    </message>
+    <message>
+        <source>live_sentence</source>
+        <translation>您的组织发送到此显示屏的频道在此启动和停止。</translation>
+    </message>
+    <message>
+        <source>live_title</source>
+        <translation>直播频道</translation>
+    </message>
+    <message>
+        <source>network_sentence</source>
+        <translation>在此查看此设备如何连接到管理服务。</translation>
+    </message>
+    <message>
+        <source>network_title</source>
+        <translation>网络</translation>
+    </message>
+    <message>
+        <source>settings_language</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>settings_sentence</source>
+        <translation>此程序的外观和语言。选择后立即生效。</translation>
+    </message>
+    <message>
+        <source>settings_theme</source>
+        <translation>外观</translation>
+    </message>
+    <message>
+        <source>settings_theme_dark</source>
+        <translation>深色</translation>
+    </message>
+    <message>
+        <source>settings_theme_light</source>
+        <translation>浅色</translation>
+    </message>
+    <message>
+        <source>settings_title</source>
+        <translation>设置</translation>
+    </message>
+</context>
+</TS>
