@@ -55,6 +55,7 @@ void PasswordPad::Initialization() {
     m_viewPassword = new QCheckBox(this);
     m_viewPassword->setObjectName(QStringLiteral("viewPasswordCheckBox"));
     connect(m_viewPassword, &QCheckBox::toggled, this, &PasswordPad::OnButtonViewPasswordClicked);
+    connect(m_viewPassword, &QCheckBox::clicked, this, &PasswordPad::OnAreaPressed);
 
     auto* column = new QVBoxLayout(this);
     column->setSpacing(24);
@@ -117,6 +118,11 @@ void PasswordPad::Clear() {
         box->clear();
 }
 
+void PasswordPad::Reset() {
+    Clear();
+    m_viewPassword->setChecked(false);
+}
+
 void PasswordPad::FocusBox(int index) {
     m_boxes[static_cast<std::size_t>(index)]->setFocus();
 }
@@ -156,27 +162,41 @@ void PasswordPad::Erase(int box) {
 void PasswordPad::OnButtonViewPasswordClicked() {
     for (QLineEdit* box : m_boxes)
         box->setEchoMode(m_viewPassword->isChecked() ? QLineEdit::Normal : QLineEdit::Password);
+}
+
+void PasswordPad::OnAreaPressed() {
+    FocusFirstEmpty();
     emit Used();
 }
 
 void PasswordPad::mousePressEvent(QMouseEvent* event) {
-    FocusFirstEmpty();
-    emit Used();
+    OnAreaPressed();
     QFrame::mousePressEvent(event);
 }
 
 bool PasswordPad::eventFilter(QObject* watched, QEvent* event) {
     const QVariant index = watched->property(IndexProperty);
-    if (event->type() != QEvent::KeyPress || !index.isValid())
+    if (!index.isValid())
         return QFrame::eventFilter(watched, event);
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick: // a box is a place in the area, and not one to be chosen
+        OnAreaPressed();
+        return true;
+    case QEvent::KeyPress:
+        return OnKeyPressed(index.toInt(), *static_cast<QKeyEvent*>(event));
+    default:
+        return QFrame::eventFilter(watched, event);
+    }
+}
 
-    const auto* key = static_cast<QKeyEvent*>(event);
-    if (IsDigit(key->text()))
-        TypeDigit(index.toInt(), key->text()[0]);
-    else if (key->key() == Qt::Key_Backspace)
-        Erase(index.toInt());
-    else if (key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab)
+bool PasswordPad::OnKeyPressed(int box, const QKeyEvent& key) {
+    if (key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab)
         return false;
+    if (IsDigit(key.text()))
+        TypeDigit(box, key.text()[0]);
+    else if (key.key() == Qt::Key_Backspace)
+        Erase(box);
     return true; // nothing else belongs into a box, pasting included
 }
 

@@ -4,6 +4,7 @@
 #include <array>
 
 class QCheckBox;
+class QKeyEvent;
 class QLineEdit;
 
 /// Six single-character boxes for a password of digits, the choice to show them, and digit keys for
@@ -22,6 +23,8 @@ public:
     std::string GetPasswordHash() const;
 
     void Clear();
+    /// As at every first look: no digits, and none to be shown.
+    void Reset();
     void FocusBox(int index);
     void FocusFirstEmpty();
 
@@ -45,6 +48,9 @@ private:
     QWidget* CreateKeypad();
     void OnButtonViewPasswordClicked();
     void LanguageChanges();
+    void OnAreaPressed();
+    /// True when the key goes no further.
+    bool OnKeyPressed(int box, const QKeyEvent& key);
     void TypeDigit(int box, QChar digit);
     void Erase(int box);
     int CurrentBox() const;

@@ -6,7 +6,7 @@
 #include <QScreen>
 #include <QWidget>
 
-ScreenCovers::ScreenCovers() {
+ScreenCovers::ScreenCovers(int level) : m_level(level) {
     const auto watch = [this](QScreen* screen) {
         connect(screen, &QScreen::geometryChanged, this, &ScreenCovers::ScreensChanged);
     };
@@ -36,7 +36,7 @@ void ScreenCovers::Show() {
             std::make_unique<QWidget>(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
                                                    Qt::WindowDoesNotAcceptFocus);
         cover->setObjectName(QStringLiteral("ScreenCover"));
-        cover->setProperty("TopLevel", 5);
+        cover->setProperty("TopLevel", m_level);
         cover->setGeometry(WholePlace(*screen));
         WindowStack::Instance()->PushWindow(cover.get());
         cover->show();

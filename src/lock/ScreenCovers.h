@@ -14,7 +14,8 @@ class ScreenCovers : public QObject {
     Q_OBJECT
 
 public:
-    ScreenCovers();
+    /// `level` is the covers' dynamic property "TopLevel".
+    explicit ScreenCovers(int level);
     ~ScreenCovers() override;
 
     /// Where a window leaves no pixel of the screen open. Unlike the screen's own geometry, which is rounded
@@ -29,5 +30,6 @@ signals:
     void ScreensChanged();
 
 private:
+    const int m_level;
     std::vector<std::unique_ptr<QWidget>> m_covers;
 };

@@ -1,16 +1,13 @@
 #include "lock/UDeviceScreenLock.h"
 
 #include "entity/SettingsEntities.h"
-#include "platform/application/WindowStack.h"
 #include "platform/context/AppContextData.h"
+#include "platform/context/LogText.h"
 #include "platform/context/ProductConstants.h"
 #include "platform/link/PipeClientService.h"
 #include "ui_UDeviceScreenLock.h"
 
 #include <QCloseEvent>
-#include <QGuiApplication>
-#include <QScreen>
-#include <QWindow>
 #include <glog/logging.h>
 
 namespace {
@@ -22,12 +19,11 @@ constexpr int RelockIdleSeconds = 1200;
 
 } // namespace
 
-UDeviceScreenLock::UDeviceScreenLock(const Clock& clock, const SystemDesktop& desktop)
-    : m_clock(clock),
-      m_desktop(desktop),
-      m_ui(std::make_unique<Ui::UDeviceScreenLock>()),
-      m_idleTimer(desktop, this) {
+UDeviceScreenLock::UDeviceScreenLock(const Clock& clock, const SystemWindows& windows,
+                                     const SystemInput& input)
+    : m_clock(clock), m_ui(std::make_unique<Ui::UDeviceScreenLock>()), m_idleTimer(input, this) {
     Initialization();
+    m_cover = std::make_unique<TopmostCover>(*this, TopmostCover::Keyboard::Hold, windows, input);
     InitConnect();
 }
 
@@ -46,21 +42,16 @@ void UDeviceScreenLock::Initialization() {
     m_unlockTimer.setInterval(UnlockCheckMs);
     UpdateTexts();
     ShowMessageView();
-    WindowStack::Instance()->PushWindow(this);
 }
 
 void UDeviceScreenLock::InitConnect() {
     PipeClientService::Instance()->Subscribe(this, &UDeviceScreenLock::OnPipeDataReceived);
     connect(m_ui->enterPasswordButton, &QPushButton::clicked, this, &UDeviceScreenLock::ShowPasswordView);
-    connect(m_ui->passwordPart, &PasswordPad::Used, this, &UDeviceScreenLock::OnPadUsed);
+    connect(m_ui->passwordPart, &PasswordPad::Used, this, [this] { m_backTimer.start(); });
     connect(m_ui->passwordPart, &PasswordPad::Completed, this, &UDeviceScreenLock::OnPasswordCompleted);
     connect(&m_backTimer, &QTimer::timeout, this, &UDeviceScreenLock::ShowMessageView);
     connect(&m_unlockTimer, &QTimer::timeout, this, &UDeviceScreenLock::OnUnlockTimer);
     connect(&m_idleTimer, &IdleTimer::Timeout, this, &UDeviceScreenLock::OnIdle);
-    connect(&m_covers, &ScreenCovers::ScreensChanged, this, [this] {
-        if (isVisible())
-            CoverScreens();
-    });
 }
 
 void UDeviceScreenLock::OnPipeDataReceived(PipeKey key, const std::string& body) {
@@ -77,7 +68,7 @@ void UDeviceScreenLock::OnPipeDataReceived(PipeKey key, const std::string& body)
     case PipeKey::UnlockPasswordUpdate:
         LOG(INFO) << "UDeviceScreenLock::OnPipeDataReceived Unlock password update: " << body;
         if (!body.empty())
-            AppContextData::Instance()->unlockPassword = body;
+            AppContextData::Instance()->SetUnlockPassword(body);
         break;
     default:
         break;
@@ -87,36 +78,38 @@ void UDeviceScreenLock::OnPipeDataReceived(PipeKey key, const std::string& body)
 void UDeviceScreenLock::ProcessLock(const std::string& body) {
     DeviceScreenLock lock;
     lock.ReadFromString(body);
-    LOG(INFO) << "UDeviceScreenLock::ProcessLock Screen lock still time: " << lock.endAt;
-    if (!lock.endAt.empty() && m_clock.Now().toString(QStringLiteral("HH:mm")).toStdString() >= lock.endAt)
+    LOG(INFO) << "UDeviceScreenLock::ProcessLock Screen lock still time: " << LogText(lock.endAt);
+    const std::optional<EndTime> end = EndTime::Parse(lock.endAt);
+    if (!end) {
+        LOG(WARNING) << "UDeviceScreenLock::ProcessLock ignores an end that is no time of day";
         return;
-    m_endAt = lock.endAt;
+    }
+    if (end->HasPassed(m_clock))
+        return;
+    m_end = *end;
     UpdateUI();
     m_idleTimer.Stop();
 }
 
 void UDeviceScreenLock::Release() {
-    m_endAt.clear();
+    m_end = {};
     m_ui->passwordPart->Clear();
     hide();
     m_idleTimer.Stop();
 }
 
-bool UDeviceScreenLock::IsBeforeEnd() const {
-    return m_clock.Now().toString(QStringLiteral("HH:mm")).toStdString() < m_endAt;
-}
-
 void UDeviceScreenLock::UpdateUI() {
     UpdateTexts();
     ShowMessageView();
+    TopmostCover::ClosePopups();
     show();
 }
 
 void UDeviceScreenLock::UpdateTexts() {
     const QString product = QString::fromLatin1(Product::Name);
     m_ui->messageLabel->setText(
-        m_endAt.empty() ? tr("remote_x_screen_lock_msg_without_time").arg(product)
-                        : tr("remote_x_screen_lock_msg").arg(product, QString::fromStdString(m_endAt)));
+        m_end.IsSet() ? tr("remote_x_screen_lock_msg").arg(product, QString::fromStdString(m_end.Text()))
+                      : tr("remote_x_screen_lock_msg_without_time").arg(product));
     m_ui->enterPasswordButton->setText(tr("remote_x_btn_enter_pwd"));
     m_ui->passwordTitle->setText(tr("lock_password_title"));
     setWindowTitle(tr("lock_window_title"));
@@ -124,7 +117,7 @@ void UDeviceScreenLock::UpdateTexts() {
 
 void UDeviceScreenLock::ShowMessageView() {
     m_backTimer.stop();
-    m_ui->passwordPart->Clear();
+    m_ui->passwordPart->Reset();
     m_ui->messagePart->show();
     m_ui->passwordTitlePart->hide();
     m_ui->passwordPart->hide();
@@ -139,12 +132,8 @@ void UDeviceScreenLock::ShowPasswordView() {
     m_backTimer.start();
 }
 
-void UDeviceScreenLock::OnPadUsed() {
-    m_backTimer.start();
-}
-
 void UDeviceScreenLock::OnPasswordCompleted() {
-    if (m_ui->passwordPart->GetPasswordHash() != AppContextData::Instance()->unlockPassword) {
+    if (m_ui->passwordPart->GetPasswordHash() != AppContextData::Instance()->UnlockPassword()) {
         m_ui->passwordPart->StartInvalidPasswordAnimation();
         m_ui->passwordPart->Clear();
         m_ui->passwordPart->FocusBox(0);
@@ -153,46 +142,34 @@ void UDeviceScreenLock::OnPasswordCompleted() {
     }
     hide();
     PipeClientService::Instance()->Send(PipeKey::ScreenUnlock);
-    if (!m_endAt.empty())
+    if (m_end.IsSet())
         m_idleTimer.Start(RelockIdleSeconds);
 }
 
 void UDeviceScreenLock::OnUnlockTimer() {
-    if (!m_endAt.empty() && !IsBeforeEnd())
+    if (m_end.HasPassed(m_clock))
         Release();
-    // Nobody tells of another program's window that has come above without taking the focus.
-    if (isVisible())
-        WindowStack::Instance()->Restack();
-    else if (m_endAt.empty())
+    if (!isVisible() && !m_end.IsSet())
         m_unlockTimer.stop();
 }
 
 void UDeviceScreenLock::OnIdle() {
-    if (!m_endAt.empty() && IsBeforeEnd())
+    if (m_end.IsSet() && !m_end.HasPassed(m_clock))
         UpdateUI();
-}
-
-void UDeviceScreenLock::CoverScreens() {
-    setGeometry(ScreenCovers::WholePlace(*QGuiApplication::primaryScreen()));
-    m_covers.Show();
-    m_desktop.RaiseTopmost(winId());
-    m_desktop.HoldKeyboard(*windowHandle(), true);
 }
 
 void UDeviceScreenLock::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    m_desktop.RaiseTopmost(winId());
+    m_cover->Raise();
     emit VisibleChanged(true);
-    CoverScreens();
+    m_cover->Cover();
     m_unlockTimer.start();
-    activateWindow();
 }
 
 void UDeviceScreenLock::hideEvent(QHideEvent* event) {
     m_ui->passwordPart->Clear();
     m_backTimer.stop();
-    m_covers.Hide();
-    m_desktop.HoldKeyboard(*windowHandle(), false);
+    m_cover->Uncover();
     emit VisibleChanged(false);
     QWidget::hideEvent(event);
 }
@@ -204,15 +181,5 @@ void UDeviceScreenLock::closeEvent(QCloseEvent* event) {
 void UDeviceScreenLock::changeEvent(QEvent* event) {
     if (event->type() == QEvent::LanguageChange)
         UpdateTexts();
-    // Another program took the focus: fetch it back, and with it the keyboard that could switch windows.
-    if (event->type() == QEvent::ActivationChange && isVisible()) {
-        if (isActiveWindow())
-            m_desktop.HoldKeyboard(*windowHandle(), true);
-        else
-            QTimer::singleShot(0, this, [this] {
-                if (isVisible())
-                    activateWindow();
-            });
-    }
     QWidget::changeEvent(event);
 }

@@ -1,10 +1,12 @@
 #pragma once
 
-#include "lock/ScreenCovers.h"
+#include "lock/EndTime.h"
+#include "lock/TopmostCover.h"
 #include "platform/application/Clock.h"
 #include "platform/application/IdleTimer.h"
 #include "platform/link/PipeKey.h"
-#include "platform/system/SystemDesktop.h"
+#include "platform/system/SystemInput.h"
+#include "platform/system/SystemWindows.h"
 
 #include <QTimer>
 #include <QWidget>
@@ -22,7 +24,8 @@ class UDeviceScreenLock : public QWidget {
 
 public:
     explicit UDeviceScreenLock(const Clock& clock = Clock::System(),
-                               const SystemDesktop& desktop = SystemDesktop::Native());
+                               const SystemWindows& windows = SystemWindows::Native(),
+                               const SystemInput& input = SystemInput::Native());
     ~UDeviceScreenLock() override;
 
 signals:
@@ -43,22 +46,18 @@ private:
 
     void UpdateUI();
     void UpdateTexts();
-    void CoverScreens();
     void ShowMessageView();
     void ShowPasswordView();
 
-    void OnPadUsed();
     void OnPasswordCompleted();
     void OnUnlockTimer();
     void OnIdle();
-    bool IsBeforeEnd() const;
 
     const Clock& m_clock;
-    const SystemDesktop& m_desktop;
     std::unique_ptr<Ui::UDeviceScreenLock> m_ui;
-    ScreenCovers m_covers;
+    std::unique_ptr<TopmostCover> m_cover;
     QTimer m_backTimer{this};
     QTimer m_unlockTimer{this};
     IdleTimer m_idleTimer;
-    std::string m_endAt; // "HH:mm"; empty: until told otherwise
+    EndTime m_end;
 };

@@ -1,3 +1,4 @@
+#include "lock/PasswordAttempts.h"
 #include "lock/UDeviceScreenLock.h"
 #include "platform/context/AppContextData.h"
 #include "platform/context/LanguageHelper.h"
@@ -10,6 +11,7 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPropertyAnimation>
 #include <QPushButton>
 #include <QScreen>
@@ -30,8 +32,8 @@ class ScreenLock : public testing::Test {
 protected:
     void SetUp() override {
         LanguageHelper::Instance()->SetLanguage(QStringLiteral("en"));
-        *AppContextData::Instance() = {};
-        AppContextData::Instance()->unlockPassword = PasswordHelper::HashVelmoraPassword("123456");
+        AppContextData::Instance()->Reset();
+        AppContextData::Instance()->SetUnlockPassword(PasswordHelper::HashVelmoraPassword("123456"));
         service = std::make_unique<FakeService>();
         link.SetServer(service->Address());
         link.Start();
@@ -81,10 +83,11 @@ protected:
 
     LogCapture log;
     ManualClock clock;
-    FakeDesktop desktop;
+    FakeWindows windows;
+    FakeInput input;
     PipeClientService& link = *PipeClientService::Instance();
     std::unique_ptr<FakeService> service;
-    UDeviceScreenLock lock{clock, desktop};
+    UDeviceScreenLock lock{clock, windows, input};
     std::vector<QLineEdit*> boxes;
 };
 
@@ -98,7 +101,7 @@ TEST_F(ScreenLock, CoversThePrimaryScreenAboveEverything) {
     EXPECT_EQ(lock.property("TopLevel").toInt(), 6);
     EXPECT_TRUE(lock.windowFlags().testFlag(Qt::FramelessWindowHint));
     EXPECT_TRUE(lock.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
-    EXPECT_FALSE(desktop.raised.empty());
+    EXPECT_FALSE(windows.order.empty());
     ASSERT_EQ(visible.count(), 1);
     EXPECT_TRUE(visible[0][0].toBool());
     EXPECT_TRUE(ShowsMessage());
@@ -106,27 +109,33 @@ TEST_F(ScreenLock, CoversThePrimaryScreenAboveEverything) {
 
     lock.close(); // Alt+F4
     EXPECT_TRUE(lock.isVisible());
-    EXPECT_TRUE(desktop.holdsKeyboard);
+    EXPECT_EQ(input.keyboard, lock.windowHandle());
     lock.hide();
-    EXPECT_FALSE(desktop.holdsKeyboard);
+    EXPECT_EQ(input.keyboard, nullptr);
 }
 
+// Run once more with a system locale that has digits of its own.
 TEST_F(ScreenLock, EndTimesAreComparedAsTextAndTold) {
     struct Case {
         const char* now;
         const char* endAt;
         bool locks;
     };
+    int messages = 0;
     for (const Case& c : {Case{"10:00", "10:01", true},
                           {"10:00", "10:00", false},
                           {"10:00", "09:59", false},
                           {"23:50", "00:30", false},
                           {"00:00", "23:59", true},
-                          {"10:00", "", true}}) {
+                          {"10:00", "", true},
+                          {"10:00", "9:59", false}, // no time of day
+                          {"10:00", "24:00", false},
+                          {"10:00", "<b>18:00</b>", false},
+                          {"10:00", "18:00\n", false}}) {
         clock.time = QString::fromLatin1(c.now);
         Lock(c.endAt);
         EXPECT_EQ(lock.isVisible(), c.locks) << c.endAt << " at " << c.now;
-        EXPECT_EQ(log.Count(std::string("Screen lock still time: ") + c.endAt + "\n"), 1);
+        EXPECT_EQ(log.Count("Screen lock still time: "), ++messages);
         if (c.locks) {
             EXPECT_EQ(Message().contains(QString::fromLatin1(c.endAt)), true);
         }
@@ -166,7 +175,7 @@ TEST_F(ScreenLock, WrongDigitsShakeClearAndStayLocked) {
         EXPECT_EQ(shake->propertyName(), QByteArray("pos"));
         EXPECT_EQ(shake->totalDuration(), 200);
     }
-    AppContextData::Instance()->unlockPassword.clear();
+    AppContextData::Instance()->SetUnlockPassword({});
     Type(QStringLiteral("123456"));
     EXPECT_TRUE(lock.isVisible()) << "no stored password is not an open door";
     EXPECT_EQ(service->ReceivedBytes(), 0u);
@@ -234,22 +243,63 @@ TEST_F(ScreenLock, EverythingDoneOnThePadPutsTheReturnOff) {
     }
 }
 
-TEST_F(ScreenLock, TheCheckBoxShowsTheDigitsAndAPressFindsTheFirstEmptyBox) {
+TEST_F(ScreenLock, APressAnywhereInTheAreaFindsTheFirstEmptyBox) {
     LockAndOpenPad();
     Type(QStringLiteral("12"));
     auto* view = lock.findChild<QCheckBox*>();
-    EXPECT_EQ(boxes[0]->echoMode(), QLineEdit::Password);
-    view->setChecked(true);
-    for (const QLineEdit* box : boxes)
-        EXPECT_EQ(box->echoMode(), QLineEdit::Normal);
-    view->setChecked(false);
-    for (const QLineEdit* box : boxes)
-        EXPECT_EQ(box->echoMode(), QLineEdit::Password);
+    auto* area = lock.findChild<QWidget*>(QStringLiteral("passwordArea"));
+    const std::vector<std::function<void()>> presses{
+        [area] { QTest::mouseClick(area, Qt::LeftButton, {}, QPoint(2, 2)); },
+        [this] { QTest::mouseClick(boxes[0], Qt::LeftButton); },
+        [this] { QTest::mouseDClick(boxes[5], Qt::LeftButton); },
+        [view] { QTest::keyClick(view, Qt::Key_Space); },
+    };
+    for (const auto& press : presses) {
+        view->setFocus();
+        press();
+        EXPECT_EQ(FocusedBox(), 2);
+    }
+}
 
-    view->setFocus();
-    QTest::mouseClick(lock.findChild<QWidget*>(QStringLiteral("passwordArea")), Qt::LeftButton, {},
-                      QPoint(2, 2));
-    EXPECT_EQ(FocusedBox(), 2);
+TEST_F(ScreenLock, TheCheckBoxShowsTheDigitsUntilTheMessageIsBack) {
+    LockAndOpenPad();
+    auto* view = lock.findChild<QCheckBox*>();
+    const auto echo = [this] { return boxes[3]->echoMode(); };
+    EXPECT_EQ(echo(), QLineEdit::Password);
+    view->click();
+    EXPECT_EQ(echo(), QLineEdit::Normal);
+    view->click();
+    EXPECT_EQ(echo(), QLineEdit::Password);
+    view->click();
+    Expire(BackTimer());
+    EXPECT_FALSE(view->isChecked());
+    EXPECT_EQ(echo(), QLineEdit::Password);
+    EXPECT_FALSE(BackTimer().isActive());
+}
+
+TEST_F(ScreenLock, OwnPopupsGoBeforeTheLockComesAndWhileItIsThere) {
+    QMenu menu;
+    menu.addAction(QStringLiteral("entry"));
+    menu.popup(QPoint());
+    ASSERT_TRUE(menu.isVisible());
+    Lock();
+    EXPECT_FALSE(menu.isVisible());
+    menu.popup(QPoint());
+    Expire(*lock.findChild<QTimer*>(QStringLiteral("coverTimer")));
+    EXPECT_FALSE(menu.isVisible());
+}
+
+TEST_F(ScreenLock, TheFocusIsFetchedBackInTheLocksOwnSecond) {
+    Lock();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&lock));
+    QWidget other;
+    other.show();
+    // An activation that the lock is never told of.
+    lock.removeEventFilter(lock.findChild<TopmostCover*>());
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    Expire(*lock.findChild<QTimer*>(QStringLiteral("coverTimer")));
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&lock));
 }
 
 TEST_F(ScreenLock, ATimedLockEndsByItself) {
@@ -300,4 +350,39 @@ TEST_F(ScreenLock, TheServiceReleasesAndChangesThePassword) {
     EXPECT_TRUE(lock.isVisible());
     Type(QStringLiteral("000000"));
     EXPECT_FALSE(lock.isVisible());
+}
+
+TEST(PasswordAttempts, FourAreFreeAndTheFifthStartsTheClock) {
+    struct SecondsClock : Clock {
+        QDateTime Now() const override { return QDateTime::fromSecsSinceEpoch(1'000'000 + seconds); }
+        qint64 seconds = 0;
+    } clock;
+    using Verdict = PasswordAttempts::Verdict;
+    // What happens when: a wrong attempt, or just a look (the dialog is shown, its timer has run).
+    struct Step {
+        qint64 second;
+        bool wrong;
+        Verdict verdict;
+    };
+    const std::vector<Step> fiveWrong{{0, true, Verdict::Free},  {0, true, Verdict::Free},
+                                      {0, true, Verdict::Free},  {0, true, Verdict::Free},
+                                      {0, false, Verdict::Free}, {10, true, Verdict::Counting}};
+    const std::vector<std::vector<Step>> endings{
+        {{10, false, Verdict::LockedOut}, {69, false, Verdict::LockedOut}, {70, false, Verdict::Released}},
+        {{11, true, Verdict::LockedOut}, {70, false, Verdict::Released}, {70, true, Verdict::Free}},
+        {{70, true, Verdict::Released}, {71, false, Verdict::Free}},
+        {{5000, false, Verdict::Released}, {5000, true, Verdict::Free}},
+    };
+    for (const std::vector<Step>& ending : endings) {
+        LogCapture log;
+        PasswordAttempts attempts(clock);
+        std::vector<Step> steps = fiveWrong;
+        steps.insert(steps.end(), ending.begin(), ending.end());
+        for (const Step& step : steps) {
+            clock.seconds = step.second;
+            EXPECT_EQ(attempts.Check(step.wrong), step.verdict) << step.second;
+            EXPECT_EQ(attempts.IsLockedOut(), step.verdict == Verdict::LockedOut);
+        }
+        EXPECT_EQ(log.Count("input password eorr cout is :5,time is 0\n"), 1);
+    }
 }

@@ -1,0 +1,104 @@
+#include "lock/TopmostCover.h"
+
+#include "platform/application/WindowStack.h"
+#include "platform/system/SystemInput.h"
+#include "platform/system/SystemWindows.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QScreen>
+#include <QVariant>
+#include <QWidget>
+
+namespace {
+
+constexpr int LookAfterMs = 1000;
+
+} // namespace
+
+TopmostCover::TopmostCover(QWidget& window, Keyboard keyboard, const SystemWindows& windows,
+                           const SystemInput& input)
+    : QObject(&window),
+      m_window(window),
+      m_holdsKeyboard(keyboard == Keyboard::Hold),
+      m_windows(windows),
+      m_input(input),
+      m_covers(window.property("TopLevel").toInt() - 1) {
+    m_second.setObjectName(QStringLiteral("coverTimer"));
+    m_second.setInterval(LookAfterMs);
+    connect(&m_second, &QTimer::timeout, this, &TopmostCover::LookAfter);
+    connect(&m_covers, &ScreenCovers::ScreensChanged, this, [this] {
+        if (m_window.isVisible())
+            CoverScreens();
+    });
+    WindowStack::Instance()->PushWindow(&m_window);
+    m_window.installEventFilter(this);
+}
+
+TopmostCover::~TopmostCover() {
+    if (m_window.isVisible())
+        Uncover();
+}
+
+void TopmostCover::ClosePopups() {
+    // Each closing uncovers the one below; one that does not close would go on for ever.
+    for (QWidget* last = nullptr; QWidget* popup = QApplication::activePopupWidget(); last = popup) {
+        if (popup == last)
+            popup->hide();
+        else
+            popup->close();
+    }
+}
+
+void TopmostCover::Raise() {
+    m_windows.RaiseTopmost(m_window.winId());
+}
+
+void TopmostCover::Cover() {
+    CoverScreens();
+    m_window.activateWindow();
+    m_second.start();
+}
+
+void TopmostCover::Uncover() {
+    m_second.stop();
+    m_covers.Hide();
+    if (m_holdsKeyboard)
+        m_input.ReleaseKeyboard(*m_window.windowHandle());
+}
+
+void TopmostCover::CoverScreens() {
+    m_window.setGeometry(ScreenCovers::WholePlace(*QGuiApplication::primaryScreen()));
+    m_covers.Show();
+    Raise();
+    HoldKeyboard();
+}
+
+void TopmostCover::HoldKeyboard() {
+    if (m_holdsKeyboard)
+        m_input.HoldKeyboard(*m_window.windowHandle());
+}
+
+// Only the highest window fetches it: two that both did would take it from each other for ever.
+void TopmostCover::FetchFocus() {
+    if (m_window.isVisible() && !m_window.isActiveWindow() && WindowStack::Instance()->Highest() == &m_window)
+        m_window.activateWindow();
+}
+
+void TopmostCover::LookAfter() {
+    if (QApplication::activePopupWidget())
+        ClosePopups();
+    WindowStack::Instance()->Restack();
+    FetchFocus();
+}
+
+bool TopmostCover::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::ActivationChange && m_window.isVisible()) {
+        // Another program took the focus: fetch it back, and with it the keyboard that could switch windows.
+        if (m_window.isActiveWindow())
+            HoldKeyboard();
+        else
+            QTimer::singleShot(0, this, &TopmostCover::FetchFocus);
+    }
+    return QObject::eventFilter(watched, event);
+}

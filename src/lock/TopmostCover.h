@@ -1,0 +1,53 @@
+#pragma once
+
+#include "lock/ScreenCovers.h"
+
+#include <QObject>
+#include <QTimer>
+
+class QWidget;
+class SystemInput;
+class SystemWindows;
+
+/// Keeps a window over the whole desktop while it is shown: above everything of a lower level, on every
+/// screen, with the focus and, if it wants so, with the keyboard held from the system. Looks after that
+/// each second, for nobody tells of everything that may happen to a window. GUI thread.
+class TopmostCover : public QObject {
+    Q_OBJECT
+
+public:
+    enum class Keyboard { Hold, Share };
+
+    /// `window` is a top-level window with the dynamic property "TopLevel"; the screens beside its own are
+    /// covered one level below. It must not outlive the cover.
+    TopmostCover(QWidget& window, Keyboard keyboard, const SystemWindows& windows, const SystemInput& input);
+    ~TopmostCover() override;
+
+    /// Before the window comes to the screen: closes the program's own pop-ups, which would stay above it
+    /// and keep the keyboard.
+    static void ClosePopups();
+
+    /// Lifts the window to the topmost band without moving, resizing or activating it.
+    void Raise();
+
+    /// Covers every screen and takes what the window must have. To be called when the window is shown.
+    void Cover();
+
+    /// Gives everything back. To be called when the window is hidden.
+    void Uncover();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void CoverScreens();
+    void HoldKeyboard();
+    void FetchFocus();
+    void LookAfter();
+
+    QWidget& m_window;
+    const bool m_holdsKeyboard;
+    const SystemWindows& m_windows;
+    const SystemInput& m_input;
+    ScreenCovers m_covers;
+    QTimer m_second{this};
+};
