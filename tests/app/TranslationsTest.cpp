@@ -1,5 +1,4 @@
 #include "app/MainWindow.h"
-#include "app/UMenuEntry.h"
 #include "gallery/Scenes.h"
 #include "platform/context/LanguageHelper.h"
 #include "platform/context/Theme.h"
@@ -23,8 +22,7 @@ const QString Sources = QStringLiteral(RYX_SOURCES);
 
 QString ReadText(const QString& path) {
     QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
-    return QString::fromUtf8(file.readAll());
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
 QSet<QString> Matches(const QString& text, const char* pattern) {
@@ -54,10 +52,8 @@ QSet<QString> KeysInUse(const QString& folder) {
 void ReadTexts(const QString& folder, const QString& language, QMap<QString, QString>& texts) {
     const QString path =
         QStringLiteral("%1/translations/%2_%3.ts").arg(folder, QFileInfo(folder).fileName(), language);
-    const QString content = QFile::exists(path) ? ReadText(path) : QString();
-    EXPECT_FALSE(content.contains(QLatin1String("type=\"unfinished\""))) << path.toStdString();
     const QSet<QString> used = KeysInUse(folder);
-    QXmlStreamReader xml(content);
+    QXmlStreamReader xml(ReadText(path));
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement || xml.name() != QLatin1String("source"))
             continue;
@@ -66,10 +62,10 @@ void ReadTexts(const QString& folder, const QString& language, QMap<QString, QSt
         EXPECT_TRUE(used.contains(key)) << "the folder does not use this key";
         EXPECT_FALSE(texts.contains(key)) << "the key stands twice";
         xml.readNextStartElement();
+        EXPECT_TRUE(xml.attributes().isEmpty()) << "the text is unfinished";
         texts.insert(key, xml.readElementText());
         EXPECT_FALSE(texts[key].trimmed().isEmpty());
     }
-    EXPECT_TRUE(content.isEmpty() || !xml.hasError()) << xml.errorString().toStdString();
 }
 
 TEST(Translations, AreCompleteAndBuiltInInEveryLanguageAndNotMore) {
@@ -86,7 +82,6 @@ TEST(Translations, AreCompleteAndBuiltInInEveryLanguageAndNotMore) {
         if (english.isEmpty())
             english = texts;
         LanguageHelper::Instance()->SetLanguage(language.code);
-        EXPECT_EQ(LanguageHelper::Instance()->Language(), language.code);
         for (const QString& key : used) {
             SCOPED_TRACE(key.toStdString());
             EXPECT_EQ(QCoreApplication::translate("AnyClass", key.toUtf8()), texts.value(key));
@@ -94,55 +89,39 @@ TEST(Translations, AreCompleteAndBuiltInInEveryLanguageAndNotMore) {
         }
     }
     EXPECT_EQ(QCoreApplication::translate("AnyClass", "no such key"), QStringLiteral("no such key"));
-}
-
-TEST(Translations, UnknownLanguageIsTheSystems) {
     LanguageHelper::Instance()->SetLanguage(QStringLiteral("tlh"));
     EXPECT_EQ(LanguageHelper::Instance()->Language(), LanguageHelper::SystemLanguage());
     LanguageHelper::Instance()->SetLanguage(QStringLiteral("en"));
 }
 
 /// Every text that a person can see or hear in the window and in the tray's menu.
-QMap<QString, QString> VisibleTexts(Stage& stage) {
-    QMap<QString, QString> texts;
-    int number = 0;
-    const auto add = [&](const QObject& object, const QString& text) {
-        texts.insert(QStringLiteral("%1 %2 %3")
-                         .arg(++number, 3)
-                         .arg(QString::fromLatin1(object.metaObject()->className()), object.objectName()),
-                     text);
-    };
+QStringList VisibleTexts(Stage& stage) {
+    QStringList texts;
     for (const QLabel* label : stage.Window().findChildren<QLabel*>())
-        if (label->objectName() != QLatin1String("headerDeviceName") && !label->text().isEmpty())
-            add(*label, label->text());
+        if (label->objectName() != QLatin1String("headerDeviceName"))
+            texts << label->text();
     for (QPushButton* button : stage.Window().findChildren<QPushButton*>())
-        add(*button, QAccessible::queryAccessibleInterface(button)->text(QAccessible::Name));
+        texts << QAccessible::queryAccessibleInterface(button)->text(QAccessible::Name);
     for (const QAction* action : stage.Window().findChild<QSystemTrayIcon*>()->contextMenu()->actions())
-        if (!action->isSeparator())
-            add(*action, action->text());
-    return texts;
-}
-
-bool HasLetters(const QString& text) {
-    return std::any_of(text.begin(), text.end(), [](QChar c) { return c.isLetter(); });
+        texts << action->text();
+    return texts.filter(QRegularExpression(QStringLiteral("\\p{L}")));
 }
 
 TEST(Translations, ChangeInTheRunningProgram) {
     Theme::Instance()->Apply(QStringLiteral("light"));
     LanguageHelper::Instance()->SetLanguage(QStringLiteral("en"));
     Stage stage(false);
-    const QMap<QString, QString> english = VisibleTexts(stage);
+    const QStringList english = VisibleTexts(stage);
     EXPECT_GT(english.size(), 20);
 
     LanguageHelper::Instance()->SetLanguage(QStringLiteral("ar"));
     Settle();
     EXPECT_EQ(stage.Window().layoutDirection(), Qt::RightToLeft);
-    const QMap<QString, QString> arabic = VisibleTexts(stage);
-    ASSERT_EQ(arabic.keys(), english.keys());
-    for (auto text = english.begin(); text != english.end(); ++text) {
-        const bool translatable = HasLetters(*text) && *text != QLatin1String("Lecture hall 3");
-        EXPECT_EQ(arabic.value(text.key()) != *text, translatable) << text.key().toStdString();
-    }
+    const QStringList arabic = VisibleTexts(stage);
+    ASSERT_EQ(arabic.size(), english.size());
+    for (int i = 0; i < english.size(); ++i)
+        EXPECT_EQ(arabic[i] == english[i], english[i] == QLatin1String("Lecture hall 3"))
+            << english[i].toStdString();
 
     LanguageHelper::Instance()->SetLanguage(QStringLiteral("en"));
     Settle();
