@@ -32,7 +32,7 @@ install(CODE "
 ")
 
 # Texts of Qt's own widgets, in the languages that the product has.
-foreach(language IN ITEMS ar de en es fr ja zh_CN)
+foreach(language IN LISTS RYX_LANGUAGES)
     install(FILES "/usr/share/qt5/translations/qtbase_${language}.qm" DESTINATION translations)
 endforeach()
 

@@ -1,6 +1,7 @@
 # What makes the built programs a Windows product: version resource, icon, manifest, installer.
 
 string(REPLACE "." "," RYX_RC_VERSION "${PROJECT_VERSION}")
+string(REPLACE " " "." RYX_ASSEMBLY_NAME "${RYX_PRODUCT_NAME}")
 set(folder "${CMAKE_CURRENT_LIST_DIR}/windows")
 set(icon "${CMAKE_CURRENT_LIST_DIR}/../src/resources/common/desktop.ico")
 
@@ -26,9 +27,9 @@ function(ryx_windows_resources target RYX_RC_DESCRIPTION)
 endfunction()
 
 set_target_properties(ryx_user PROPERTIES PREFIX "")
-ryx_windows_resources(velmora-ryx "Velmora RYX")
-ryx_windows_resources(ryx_user "Velmora RYX user session")
-ryx_windows_resources(ryx-agent "Velmora RYX stand-in agent")
+ryx_windows_resources(velmora-ryx "${RYX_PRODUCT_NAME}")
+ryx_windows_resources(ryx_user "${RYX_PRODUCT_NAME} user session")
+ryx_windows_resources(ryx-agent "${RYX_PRODUCT_NAME} stand-in agent")
 
 # The packages hold the front end and all that it needs; the stand-in agent is no part of the product.
 install(TARGETS velmora-ryx ryx_user RUNTIME DESTINATION .)
@@ -40,20 +41,20 @@ endif()
 
 set(CPACK_GENERATOR ZIP NSIS)
 set(CPACK_PACKAGE_NAME "velmora-ryx")
-set(CPACK_PACKAGE_VENDOR "Velmora")
+set(CPACK_PACKAGE_VENDOR "${RYX_VENDOR}")
 set(CPACK_PACKAGE_VERSION "${PROJECT_VERSION}")
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Velmora RYX")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${RYX_PRODUCT_NAME}")
 set(CPACK_PACKAGE_FILE_NAME "velmora-ryx-${PROJECT_VERSION}-windows-x64")
-set(CPACK_PACKAGE_INSTALL_DIRECTORY "Velmora RYX")
-set(CPACK_PACKAGE_INSTALL_REGISTRY_KEY "Velmora RYX")
-set(CPACK_PACKAGE_EXECUTABLES "velmora-ryx;Velmora RYX")
+set(CPACK_PACKAGE_INSTALL_DIRECTORY "${RYX_PRODUCT_NAME}")
+set(CPACK_PACKAGE_INSTALL_REGISTRY_KEY "${RYX_PRODUCT_NAME}")
+set(CPACK_PACKAGE_EXECUTABLES "velmora-ryx;${RYX_PRODUCT_NAME}")
 set(CPACK_RESOURCE_FILE_LICENSE "${CMAKE_SOURCE_DIR}/LICENSE")
 set(CPACK_PACKAGE_CHECKSUM SHA256)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_ARCHIVE_COMPONENT_INSTALL OFF)
 
-set(CPACK_NSIS_PACKAGE_NAME "Velmora RYX")
-set(CPACK_NSIS_DISPLAY_NAME "Velmora RYX")
+set(CPACK_NSIS_PACKAGE_NAME "${RYX_PRODUCT_NAME}")
+set(CPACK_NSIS_DISPLAY_NAME "${RYX_PRODUCT_NAME}")
 set(CPACK_NSIS_INSTALL_ROOT "$PROGRAMFILES64")
 set(CPACK_NSIS_EXECUTABLES_DIRECTORY ".")
 set(CPACK_NSIS_INSTALLED_ICON_NAME "velmora-ryx.exe")

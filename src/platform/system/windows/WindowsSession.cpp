@@ -1,3 +1,4 @@
+#include "platform/context/ProductConstants.h"
 #include "platform/system/SystemSession.h"
 
 #include <windows.h>
@@ -21,7 +22,8 @@ QString SharedFolder() {
     const std::unique_ptr<wchar_t, decltype(&CoTaskMemFree)> owner(folder, &CoTaskMemFree);
     const QString base =
         SUCCEEDED(result) ? QString::fromWCharArray(folder) : qEnvironmentVariable("ProgramData");
-    return QString(base).replace(QLatin1Char('\\'), QLatin1Char('/')) + QStringLiteral("/Velmora RYX");
+    return QString(base).replace(QLatin1Char('\\'), QLatin1Char('/')) + QLatin1Char('/') +
+           QLatin1String(Product::Name);
 }
 
 class WindowsSession final : public SystemSession {
