@@ -2,6 +2,8 @@
 
 #include "entity/RyxEntity.h"
 
+#include <algorithm>
+#include <cctype>
 #include <charconv>
 #include <cmath>
 #include <stdexcept>
@@ -9,22 +11,45 @@
 namespace entity {
 namespace {
 
-/// std::stod would read the decimal sign of the user's locale; the wire has a point.
+std::from_chars_result Convert(const char* begin, const char* end, std::int32_t& number) {
+    return std::from_chars(begin, end, number);
+}
+
+/// Whether the text, which a null ends, begins with a hexadecimal number.
+bool IsHexadecimal(const char* text) {
+    if (text[0] != '0' || (text[1] != 'x' && text[1] != 'X'))
+        return false;
+    const char digit = text[2] == '.' ? text[3] : text[2];
+    return std::isxdigit(static_cast<unsigned char>(digit)) != 0;
+}
+
+std::from_chars_result Convert(const char* begin, const char* end, double& number) {
+    const bool isNegative = *begin == '-';
+    std::from_chars_result result{};
+    if (IsHexadecimal(begin + isNegative)) {
+        result = std::from_chars(begin + isNegative + 2, end, number, std::chars_format::hex);
+        number = isNegative ? -number : number;
+    } else {
+        result = std::from_chars(begin, end, number);
+    }
+    if (result.ec == std::errc() && std::fpclassify(number) == FP_SUBNORMAL)
+        result.ec = std::errc::result_out_of_range;
+    return result;
+}
+
+/// Reads as std::stoi and std::stod do, but takes no notice of the user's locale.
 template <class Number>
-Number FromText(const std::string& text, const std::string& name) {
-    std::size_t start = text.find_first_not_of(" \t\n\v\f\r");
-    if (start == std::string::npos)
-        start = text.size();
-    if (text.compare(start, 1, "+") == 0 && text.compare(start + 1, 1, "-") != 0)
-        ++start;
+Number FromText(const std::string& text, const std::string& function) {
+    const char* begin = text.c_str() + std::min(text.find_first_not_of(" \t\n\v\f\r"), text.size());
+    if (begin[0] == '+' && begin[1] != '-')
+        ++begin;
 
     Number number{};
-    const std::from_chars_result result =
-        std::from_chars(text.data() + start, text.data() + text.size(), number);
-    if (result.ec == std::errc::invalid_argument)
-        throw std::invalid_argument("invalid " + name + " argument");
-    if (result.ec == std::errc::result_out_of_range)
-        throw std::out_of_range(name + " argument out of range");
+    const std::errc error = Convert(begin, text.c_str() + text.size(), number).ec;
+    if (error == std::errc::invalid_argument)
+        throw std::invalid_argument("invalid " + function + " argument");
+    if (error == std::errc::result_out_of_range)
+        throw std::out_of_range(function + " argument out of range");
     return number;
 }
 
