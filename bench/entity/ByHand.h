@@ -1,6 +1,9 @@
 #pragma once
 
-#include "BenchBodies.h"
+#include "entity/AppEntities.h"
+#include "entity/EnrollEntities.h"
+#include "entity/IotEntities.h"
+#include "entity/SettingsEntities.h"
 
 #include <string>
 

@@ -2,8 +2,8 @@
 //   library  the library alone: parsing the same text, and styled writing of a value that is already built
 //   by hand  plain jsoncpp statements that fill or write the same fields
 
-#include "BenchBodies.h"
 #include "ByHand.h"
+#include "EntityCatalogue.h"
 #include "support/PairedRun.h"
 
 #include <benchmark/benchmark.h>
@@ -26,10 +26,11 @@ struct Operation {
     std::function<void()> byHand;
 };
 
-/// Reading \p received and writing \p entity, which holds the same.
+/// Reading and writing the body \p received.
 template <class Entity>
-void AddBody(std::vector<Operation>& operations, const std::string& name, const Entity& entity,
-             const std::string& received) {
+void AddBody(std::vector<Operation>& operations, const std::string& name, const std::string& received) {
+    Entity entity;
+    entity.ReadFromString(received);
     const std::string written = entity.WriteToString();
     Entity readByHand;
     ReadByHand(received, readByHand);
@@ -54,12 +55,33 @@ void AddBody(std::vector<Operation>& operations, const std::string& name, const 
                           [entity] { benchmark::DoNotOptimize(WriteByHand(entity)); }});
 }
 
+std::string Sample(const std::string& entity) {
+    return FindSample(entity).toStyledString();
+}
+
+/// The entity's sample with \p count times the one item of its list, every text in it numbered.
+std::string LongSample(const std::string& entity, const std::string& list, int count) {
+    Json::Value body = FindSample(entity);
+    const Json::Value sample = body[list][0];
+    for (int i = 0; i < count; ++i) {
+        Json::Value& item = body[list][i] = sample;
+        for (Json::Value& value : item) {
+            if (value.isString())
+                value = value.asString() + " " + std::to_string(i);
+        }
+    }
+    return body.toStyledString();
+}
+
+/// Bodies of the size and the texture that a device sees, the smallest and the largest of its day.
 std::vector<Operation> Operations() {
     std::vector<Operation> operations;
-    AddBody(operations, "status", BrokerStatus(), BrokerStatus().WriteToString());
-    AddBody(operations, "1,000 popup rules", PopupRules(), PopupRules().WriteToString());
-    AddBody(operations, "50 certificates", Certificates(), ReceivedCertificates());
-    AddBody(operations, "inventory", Inventory(), Inventory().WriteToString());
+    AddBody<IotStatusEntity>(operations, "status", Sample("IotStatusEntity"));
+    AddBody<SyncPopupsParams>(operations, "1,000 popup rules",
+                              LongSample("SyncPopupsParams", "popupsDetails", 1000));
+    AddBody<CertificateProperty>(operations, "50 certificates",
+                                 LongSample("CertificateProperty", "certInstallParamsList", 50));
+    AddBody<DevicePropertyInfo>(operations, "inventory", Sample("DevicePropertyInfo"));
     return operations;
 }
 

@@ -1,27 +1,30 @@
 // Reads arbitrary bytes into the entities of one family, RYX_FUZZ_FAMILY. The first byte picks the entity,
 // the rest is the body.
 
-#include "tests/entity/EntityCases.h"
+#include "EntityCatalogue.h"
 
 #include <json/json.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
-#include <cstring>
 #include <iostream>
 #include <memory>
 #include <optional>
 #include <stdexcept>
+#include <string>
+#include <vector>
 
 namespace {
 
-const std::vector<EntityCase>& Entities() {
-    for (const EntityFamily& family : EntityFamilies()) {
-        if (family.name == RYX_FUZZ_FAMILY)
-            return family.entities;
+std::vector<BodyEntity> FamilyEntities() {
+    std::vector<BodyEntity> family;
+    for (const BodyEntity& entity : Entities()) {
+        if (entity.family == RYX_FUZZ_FAMILY)
+            family.push_back(entity);
     }
-    std::abort();
+    return family;
 }
 
 bool Parses(const std::string& text) {
@@ -35,10 +38,10 @@ bool Parses(const std::string& text) {
     }
 }
 
-/// What a fresh entity that read the body writes, or nothing when the body is of the wrong types.
-std::optional<std::string> Rewrite(const EntityCase& entity, const std::string& body) {
+/// What a new entity that has read the body writes, or nothing when the body is of the wrong types.
+std::optional<std::string> TryRewrite(const BodyEntity& entity, const std::string& body) {
     try {
-        return entity.rewrite({body});
+        return Rewrite(entity, body);
     } catch (const Json::LogicError&) {
     } catch (const std::invalid_argument&) {
     } catch (const std::out_of_range&) {
@@ -46,7 +49,7 @@ std::optional<std::string> Rewrite(const EntityCase& entity, const std::string& 
     return std::nullopt;
 }
 
-void Demand(bool holds, const char* what, const EntityCase& entity, const std::string& text) {
+void Demand(bool holds, const char* what, const BodyEntity& entity, const std::string& text) {
     if (holds)
         return;
     std::cerr << entity.name << ": " << what << '\n' << text << '\n';
@@ -58,25 +61,27 @@ void Demand(bool holds, const char* what, const EntityCase& entity, const std::s
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     if (size == 0)
         return 0;
-    static const std::vector<EntityCase>& entities = Entities();
-    const EntityCase& entity = entities[data[0] % entities.size()];
+    static const std::vector<BodyEntity> entities = FamilyEntities();
+    const BodyEntity& entity = entities[data[0] % entities.size()];
     const std::string body(reinterpret_cast<const char*>(data) + 1, size - 1);
 
-    const std::optional<std::string> written = Rewrite(entity, body);
+    const std::optional<std::string> written = TryRewrite(entity, body);
     if (!Parses(body)) {
-        Demand(written == entity.writeDefault(), "a body that does not parse changed it", entity, body);
+        Demand(written == entity.make()->WriteToString(), "a body that does not parse changed it", entity,
+               body);
         return 0;
     }
     if (!written)
         return 0;
     Demand(Parses(*written), "wrote what does not parse", entity, *written);
 
-    const std::optional<std::string> again = Rewrite(entity, *written);
+    const std::optional<std::string> again = TryRewrite(entity, *written);
     if (!again)
         return 0;
-    const bool isSymmetric = std::strpbrk(entity.keys, "<>") == nullptr;
+    const bool isSymmetric = std::all_of(entity.keys.begin(), entity.keys.end(),
+                                         [](const BodyKey& key) { return key.isRead && key.isWritten; });
     Demand(!isSymmetric || again == written, "lost something", entity, *again);
     // What an asymmetric entity loses, it loses the first time.
-    Demand(Rewrite(entity, *again) == again, "does not settle", entity, *again);
+    Demand(TryRewrite(entity, *again) == again, "does not settle", entity, *again);
     return 0;
 }

@@ -1,16 +1,18 @@
 // Writes the seed corpora and dictionaries of the fuzz targets into a folder:
-//   FOLDER/<family>/...     bodies that the entities write, behind the byte that picks the entity
+//   FOLDER/<family>/...     bodies of the catalogue's entities, behind the byte that picks the entity
 //   FOLDER/<family>.dict    the family's keys and the signs of JSON
 //   FOLDER/frame/...        such bodies as frames
 
+#include "EntityCatalogue.h"
 #include "platform/link/RyxPackage.h"
-#include "tests/entity/EntityCases.h"
 
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <map>
 #include <set>
-#include <sstream>
+#include <stdexcept>
+#include <string>
 
 namespace fs = std::filesystem;
 
@@ -24,20 +26,19 @@ void WriteFile(const fs::path& file, const std::string& bytes) {
         throw std::runtime_error("cannot write " + file.string());
 }
 
-/// The keys under which an entity is read, as EntityCase lists them.
-void CollectReadKeys(const EntityCase& entity, std::set<std::string>& keys) {
-    std::istringstream words(entity.keys);
-    for (std::string word; words >> word;) {
-        if (word.front() != '>' && word.front() != '+')
-            keys.insert(word.substr(word.front() == '<', word.find(':') - (word.front() == '<')));
-    }
+std::string FilledText(const BodyEntity& entity) {
+    return FilledBody().Body(entity).toStyledString();
 }
 
-std::string Dictionary(const EntityFamily& family) {
+/// The keys that entities of one family read, and the signs of JSON.
+std::string Dictionary(const std::string& family) {
     std::set<std::string> keys;
-    CollectReadKeys(FindEntityCase("OperationCommandRequest"), keys);
-    for (const EntityCase& entity : family.entities)
-        CollectReadKeys(entity, keys);
+    for (const BodyEntity& entity : Entities()) {
+        for (const BodyKey& key : entity.keys) {
+            if (key.isRead && entity.family == family)
+                keys.insert(key.name);
+        }
+    }
     std::string lines;
     for (const std::string& key : keys)
         lines += R"("\")" + key + "\\\":\"\n";
@@ -47,23 +48,25 @@ std::string Dictionary(const EntityFamily& family) {
     return lines;
 }
 
-void WriteFamily(const fs::path& folder, const EntityFamily& family) {
-    WriteFile(folder / (family.name + ".dict"), Dictionary(family));
-    char pick = 0;
-    for (const EntityCase& entity : family.entities) {
-        const std::string first(1, pick++);
-        const fs::path seeds = folder / family.name;
-        WriteFile(seeds / (std::string(entity.name) + "-default"), first + entity.writeDefault());
-        WriteFile(seeds / (std::string(entity.name) + "-filled"), first + entity.writeFilled());
+void WriteBodies(const fs::path& folder) {
+    std::map<std::string, char> counts; // By family.
+    for (const BodyEntity& entity : Entities()) {
+        const std::string pick(1, counts[entity.family]++);
+        const fs::path seeds = folder / entity.family;
+        WriteFile(seeds / (entity.name + "-default"), pick + entity.make()->WriteToString());
+        WriteFile(seeds / (entity.name + "-filled"), pick + FilledText(entity));
     }
     const std::string deep(3000, '[');
-    WriteFile(folder / family.name / "deep", '\0' + deep);
-    WriteFile(folder / family.name / "deep-closed", '\0' + deep + std::string(deep.size(), ']'));
+    for (const auto& family : counts) {
+        WriteFile(folder / (family.first + ".dict"), Dictionary(family.first));
+        WriteFile(folder / family.first / "deep", '\0' + deep);
+        WriteFile(folder / family.first / "deep-closed", '\0' + deep + std::string(deep.size(), ']'));
+    }
 }
 
 void WriteFrames(const fs::path& folder) {
-    const std::string status = FindEntityCase("IotStatusEntity").writeFilled();
-    const std::string rules = FindEntityCase("SyncPopupsParams").writeFilled();
+    const std::string status = FilledText(FindEntity("IotStatusEntity"));
+    const std::string rules = FilledText(FindEntity("SyncPopupsParams"));
     const std::string stream = RyxPackage::PackageData(PipeKey::ContextRequest, "") +
                                RyxPackage::PackageData(PipeKey::IotStatusNotify, status) +
                                RyxPackage::PackageData(PipeKey::PopupPolicy, rules);
@@ -80,8 +83,7 @@ int main(int argc, char** argv) {
         std::cerr << "usage: fuzz_seeds FOLDER\n";
         return 2;
     }
-    for (const EntityFamily& family : EntityFamilies())
-        WriteFamily(argv[1], family);
+    WriteBodies(argv[1]);
     WriteFrames(argv[1]);
     return 0;
 }
