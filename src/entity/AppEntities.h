@@ -20,17 +20,8 @@ struct AppInfo final : JsonEntity<AppInfo> {
     std::string versionName;
     std::int32_t winAppType = 0;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("appName", self.appName);
-        key("packageName", self.packageName);
-        key("versionCode", self.versionCode);
-        key("appSize", self.appSize);
-        key("isNative", self.isNative);
-        key("isVisible", self.isVisible);
-        key("iconFileKey", self.iconFileKey);
-        key("versionName", self.versionName);
-        key("winAppType", self.winAppType);
-    };
+    RYX_KEYS(appName, packageName, versionCode, appSize, isNative, isVisible, iconFileKey, versionName,
+             winAppType);
 };
 
 /// One application package to install.
@@ -47,20 +38,20 @@ struct AppInfoParams final : JsonEntity<AppInfoParams> {
     std::string uninstallCommand;
 
     static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("appId", self.appId);
-        // A package cannot be fetched and checked without these two: a body that lacks one does not read.
+        RYX_KEY(appId);
+        // The two ReadRequiredText keys must be there: a body that lacks one does not read.
         key.Read("md5", self.md5, entity::ReadRequiredText);
         key.Write("md5", self.md5);
-        key("fileName", self.fileName);
+        RYX_KEY(fileName);
         key.Read("url", self.url, entity::ReadRequiredText);
         key.Write("url", self.url);
-        // For this device only, never sent back.
+        // Never written.
         key.Read("appName", self.appName);
         key.Read("silentParams", self.silentParams);
-        key("mainProgram", self.mainProgram);
-        key("path", self.path);
-        key("installCommand", self.installCommand);
-        key("uninstallCommand", self.uninstallCommand);
+        RYX_KEY(mainProgram);
+        RYX_KEY(path);
+        RYX_KEY(installCommand);
+        RYX_KEY(uninstallCommand);
     };
 };
 
@@ -68,14 +59,14 @@ struct AppInfoParams final : JsonEntity<AppInfoParams> {
 struct AppInfoParamsDataFeedback final : JsonEntity<AppInfoParamsDataFeedback, OperationCommandRequest> {
     std::string code;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) { key("code", self.code); };
+    RYX_KEYS(code);
 };
 
 /// The applications installed.
 struct AppInstallInfo final : JsonEntity<AppInstallInfo, OperationCommandRequest> {
     std::vector<AppInfo> appInfos;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) { key("appInfos", self.appInfos); };
+    RYX_KEYS(appInfos);
 };
 
 /// Removes one application.
@@ -84,11 +75,7 @@ struct AppUninstallInfoParams final : JsonEntity<AppUninstallInfoParams, Operati
     std::string appLocation;
     std::int32_t winAppType = 0;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("packageName", self.packageName);
-        key("appLocation", self.appLocation);
-        key("winAppType", self.winAppType);
-    };
+    RYX_KEYS(packageName, appLocation, winAppType);
 };
 
 /// Installs or manages one application.
@@ -96,10 +83,7 @@ struct AppManageDataRequest final : JsonEntity<AppManageDataRequest, OperationCo
     bool autoLaunching = false;
     AppInfoParams appInfoParams;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("autoLaunching", self.autoLaunching);
-        key("appInfoParams", self.appInfoParams);
-    };
+    RYX_KEYS(autoLaunching, appInfoParams);
 };
 
 /// Shows or hides one application.
@@ -108,11 +92,7 @@ struct SetAppVisibility final : JsonEntity<SetAppVisibility, OperationCommandReq
     std::string packageName;
     bool isVisible = false;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("appId", self.appId);
-        key("packageName", self.packageName);
-        key("isVisible", self.isVisible);
-    };
+    RYX_KEYS(appId, packageName, isVisible);
 };
 
 /// The usage of one application: its starts and the time in use.
@@ -125,15 +105,7 @@ struct DeviceAppUsageInfo final : JsonEntity<DeviceAppUsageInfo> {
     std::int32_t duration = 0;
     std::string iconFileKey;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("packageName", self.packageName);
-        key("versionCode", self.versionCode);
-        key("appName", self.appName);
-        key("versionName", self.versionName);
-        key("openTimes", self.openTimes);
-        key("duration", self.duration);
-        key("iconFileKey", self.iconFileKey);
-    };
+    RYX_KEYS(packageName, versionCode, appName, versionName, openTimes, duration, iconFileKey);
 };
 
 /// The usage of applications on one day.
@@ -141,10 +113,7 @@ struct DeviceAppUsage final : JsonEntity<DeviceAppUsage> {
     std::vector<DeviceAppUsageInfo> deviceAppUsageList;
     std::string date;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("deviceAppUsageList", self.deviceAppUsageList);
-        key("date", self.date);
-    };
+    RYX_KEYS(deviceAppUsageList, date);
 };
 
 /// The identity of one pop-up window: its application, title, window class, product name, signer and folder.
@@ -156,14 +125,7 @@ struct PopupsTypeParams final : JsonEntity<PopupsTypeParams> {
     std::string popSignName;
     std::string popDirectory;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("appName", self.appName);
-        key("popName", self.popName);
-        key("popClassName", self.popClassName);
-        key("popProductName", self.popProductName);
-        key("popSignName", self.popSignName);
-        key("popDirectory", self.popDirectory);
-    };
+    RYX_KEYS(appName, popName, popClassName, popProductName, popSignName, popDirectory);
 };
 
 /// The pop-up blocking counters.
@@ -172,29 +134,20 @@ struct PopupsBlockDetailsParams final : JsonEntity<PopupsBlockDetailsParams> {
     std::int32_t blockNum = 0;
     std::int32_t popupsNum = 0;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("popStatus", self.popStatus);
-        key("blockNum", self.blockNum);
-        key("popupsNum", self.popupsNum);
-    };
+    RYX_KEYS(popStatus, blockNum, popupsNum);
 };
 
-/// The pop-up blocking rules.
+/// The pop-up blocking rules: a whole list, or one change to the list that is in force.
 struct SyncPopupsParams final : JsonEntity<SyncPopupsParams> {
-    bool popStatus = false;
-    bool hasOne = false;
-    bool enable = false;
+    bool popStatus = false; ///< Whether blocking is on.
+    bool hasOne = false;    ///< The list is one change: its first rule is added or removed.
+    bool enable = false;    ///< Whether the one change adds its rule; otherwise it removes it.
     std::vector<PopupsTypeParams> popupsDetails;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("popStatus", self.popStatus);
-        key("hasOne", self.hasOne);
-        key("enable", self.enable);
-        key("popupsDetails", self.popupsDetails);
-    };
+    RYX_KEYS(popStatus, hasOne, enable, popupsDetails);
 };
 
-/// One detected pop-up, with the file-store keys of its picture and its application's icon.
+/// One detected pop-up, with the file-store keys of the pop-up and of its application.
 struct UploadPopupsParams final : JsonEntity<UploadPopupsParams> {
     std::int32_t type = 0;
     std::string appName;
@@ -204,28 +157,16 @@ struct UploadPopupsParams final : JsonEntity<UploadPopupsParams> {
     std::string popSignName;
     std::string popDirectory;
     std::string popFileKey;
-    std::int64_t updateTime = 0;
+    std::int64_t updateTime = 0; ///< Milliseconds since 1970, UTC.
     std::string appFileKey;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("type", self.type);
-        key("appName", self.appName);
-        key("popName", self.popName);
-        key("popClassName", self.popClassName);
-        key("popProductName", self.popProductName);
-        key("popSignName", self.popSignName);
-        key("popDirectory", self.popDirectory);
-        key("popFileKey", self.popFileKey);
-        key("updateTime", self.updateTime);
-        key("appFileKey", self.appFileKey);
-    };
+    RYX_KEYS(type, appName, popName, popClassName, popProductName, popSignName, popDirectory, popFileKey,
+             updateTime, appFileKey);
 };
 
 /// The default allow list.
 struct SyncWhiteListParam final : JsonEntity<SyncWhiteListParam, OperationCommandRequest> {
     std::vector<std::string> defaultWhitelist;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("defaultWhitelist", self.defaultWhitelist);
-    };
+    RYX_KEYS(defaultWhitelist);
 };

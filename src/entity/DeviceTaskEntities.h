@@ -12,14 +12,11 @@
 /// The state of one kind of cache.
 /// A command by type only: its body holds nothing but its own keys.
 struct ClearCacheInfoParams final
-    : JsonEntity<ClearCacheInfoParams, OperationCommandRequest, BaseKeys::Neither> {
+    : JsonEntity<ClearCacheInfoParams, OperationCommandRequest, BaseKeys::LeftOut> {
     std::string value;
     std::int32_t rubbishType = 0;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("value", self.value);
-        key("rubbishType", self.rubbishType);
-    };
+    RYX_KEYS(value, rubbishType);
 };
 
 /// The progress of clearing the device's caches.
@@ -28,22 +25,15 @@ struct ClearCacheInfo final : JsonEntity<ClearCacheInfo, OperationCommandRequest
     std::int32_t statusType = 0;
     std::vector<ClearCacheInfoParams> clearDeviceCacheProcessStatusParams;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("sessionId", self.sessionId);
-        key("statusType", self.statusType);
-        key("clearDeviceCacheProcessStatusParams", self.clearDeviceCacheProcessStatusParams);
-    };
+    RYX_KEYS(sessionId, statusType, clearDeviceCacheProcessStatusParams);
 };
 
-/// One weekly rule: the week days and the times.
+/// One weekly rule: the week as text, and the times.
 struct CommonDataTimer final : JsonEntity<CommonDataTimer> {
     std::string week;
     std::vector<std::string> time;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("week", self.week);
-        key("time", self.time);
-    };
+    RYX_KEYS(week, time);
 };
 
 /// One timer of the power schedule.
@@ -52,11 +42,7 @@ struct TimerParams final : JsonEntity<TimerParams, OperationCommandRequest> {
     bool jobStatus = false;
     std::vector<CommonDataTimer> timer;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("timeMode", self.timeMode);
-        key("jobStatus", self.jobStatus);
-        key("timer", self.timer);
-    };
+    RYX_KEYS(timeMode, jobStatus, timer);
 };
 
 /// The state of one timer.
@@ -65,10 +51,10 @@ struct SyncTimerInfo final : JsonEntity<SyncTimerInfo, OperationCommandRequest> 
     bool jobStatus = false;
 
     static constexpr auto Keys = [](auto& self, const auto& key) {
-        // The service sends the number signed and takes the same 64 bits back unsigned.
+        // Read signed and written unsigned: the same 64 bits.
         key.Read("id", self.id);
         key.Write("id", static_cast<std::uint64_t>(self.id));
-        key("jobStatus", self.jobStatus);
+        RYX_KEY(jobStatus);
     };
 };
 
@@ -76,51 +62,43 @@ struct SyncTimerInfo final : JsonEntity<SyncTimerInfo, OperationCommandRequest> 
 struct SyncTimerRequest final : JsonEntity<SyncTimerRequest, OperationCommandRequest> {
     std::vector<SyncTimerInfo> timers;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) { key("timers", self.timers); };
+    RYX_KEYS(timers);
 };
 
-/// When the device was last switched on and off, and when it will be next.
+/// The last and the current time of switching on and off, as text.
 struct PowerOnTimestampInfo final : JsonEntity<PowerOnTimestampInfo> {
     std::string lastOnTime;
     std::string lastOffTime;
     std::string thisOnTime;
     std::string thisOffTime;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("lastOnTime", self.lastOnTime);
-        key("lastOffTime", self.lastOffTime);
-        key("thisOnTime", self.thisOnTime);
-        key("thisOffTime", self.thisOffTime);
-    };
+    RYX_KEYS(lastOnTime, lastOffTime, thisOnTime, thisOffTime);
 };
 
 /// The power schedule: several timers.
 struct DevicePowerEntity final : JsonEntity<DevicePowerEntity, OperationCommandRequest> {
     std::string versionId;
-    std::map<std::int64_t, TimerParams> taskMap; ///< In ascending order of the time mode.
+    /// By time mode; several of one mode stay in the order in which they were read.
+    std::multimap<std::int32_t, TimerParams> taskMap;
 
-    static void ReadTasks(const Json::Value& object, std::map<std::int64_t, TimerParams>& tasks);
-    static Json::Value WriteTasks(const std::map<std::int64_t, TimerParams>& tasks);
+    static void ReadTasks(const Json::Value& object, std::multimap<std::int32_t, TimerParams>& tasks);
+    static Json::Value WriteTasks(const std::multimap<std::int32_t, TimerParams>& tasks);
 
     static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("versionId", self.versionId);
-        // The service sends an object whose member names mean nothing and takes an array back.
+        RYX_KEY(versionId);
+        // Read as an object, whose member names are not kept, and written as an array.
         key.Read("taskMap", self.taskMap, ReadTasks);
         key.Write("taskMap", self.taskMap, WriteTasks);
     };
 };
 
-/// Asks for screenshots of a size in pixels, at an interval.
+/// Asks for screenshots of a size, at an interval.
 struct ScreenShotDataRequest final : JsonEntity<ScreenShotDataRequest, OperationCommandRequest> {
     std::int32_t width = 0;
     std::int32_t height = 0;
     std::int32_t intervalTime = 0;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("width", self.width);
-        key("height", self.height);
-        key("intervalTime", self.intervalTime);
-    };
+    RYX_KEYS(width, height, intervalTime);
 };
 
 /// One screenshot, as a key of the file store.
@@ -129,11 +107,7 @@ struct ScreenShotDataResponse final : JsonEntity<ScreenShotDataResponse> {
     std::string fileKey;
     std::string result;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("code", self.code);
-        key("fileKey", self.fileKey);
-        key("result", self.result);
-    };
+    RYX_KEYS(code, fileKey, result);
 };
 
 /// One remote input event.
@@ -152,8 +126,8 @@ struct ScreenControlDataRequest final : JsonEntity<ScreenControlDataRequest> {
     static void ReadUnlessEmpty(const Json::Value& value, std::int32_t& field);
 
     static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("type", self.type);
-        // Positions come as text, where an empty one means no move; an event without one repeats the last.
+        RYX_KEY(type);
+        // Positions are text on the wire. Without one, or without an event, the field keeps what it holds.
         key.Read("x", self.x, entity::ReadDoubleTextUnlessEmpty);
         key.Read("y", self.y, entity::ReadDoubleTextUnlessEmpty);
         key.Read("event", self.event, ReadUnlessEmpty);
@@ -161,13 +135,12 @@ struct ScreenControlDataRequest final : JsonEntity<ScreenControlDataRequest> {
             key.Read("code", self.code);
         if (self.type == typeWithArgument)
             key.Read("arg1", self.arg1);
-        key.Read("clipboardText", self.clipboardText);
-        // Written whole, with positions as numbers.
-        key.Write("event", self.event);
+        RYX_KEY(clipboardText);
+        // All are written, whatever the type, positions as numbers.
         key.Write("x", self.x);
         key.Write("y", self.y);
+        key.Write("event", self.event);
         key.Write("code", self.code);
-        key.Write("clipboardText", self.clipboardText);
         key.Write("arg1", self.arg1);
     };
 };

@@ -18,15 +18,7 @@ struct AutoEnrollParams final : JsonEntity<AutoEnrollParams> {
     std::string tag;
     std::string name;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        // Written with the account first.
-        key.Read("code", self.code);
-        key("adminAccount", self.adminAccount);
-        key.Write("code", self.code);
-        key("needMigration", self.needMigration);
-        key("tag", self.tag);
-        key("name", self.name);
-    };
+    RYX_KEYS(code, adminAccount, needMigration, tag, name);
 };
 
 /// The enrollment file found on a USB drive: a fixed device name, or one built from prefix and suffix.
@@ -38,14 +30,7 @@ struct UsbEnrollmentFile final : JsonEntity<UsbEnrollmentFile> {
     std::string deviceSuffix;
     std::vector<std::string> tags;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("code", self.code);
-        key("account", self.account);
-        key("deviceName", self.deviceName);
-        key("devicePrefix", self.devicePrefix);
-        key("deviceSuffix", self.deviceSuffix);
-        key("tags", self.tags);
-    };
+    RYX_KEYS(code, account, deviceName, devicePrefix, deviceSuffix, tags);
 };
 
 /// Asks the service to authorise the device; `sn` is its serial number.
@@ -62,19 +47,7 @@ struct DeviceAuthDataRequest final : JsonEntity<DeviceAuthDataRequest> {
     std::string version;
     bool hasAuto = false;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("code", self.code);
-        key("email", self.email);
-        key("type", self.type);
-        key("isBind", self.isBind);
-        key("os", self.os);
-        key("appKey", self.appKey);
-        key("plat", self.plat);
-        key("product", self.product);
-        key("sn", self.sn);
-        key("version", self.version);
-        key("hasAuto", self.hasAuto);
-    };
+    RYX_KEYS(code, email, type, isBind, os, appKey, plat, product, sn, version, hasAuto);
 };
 
 /// First stage of a binding: what the user entered.
@@ -87,15 +60,7 @@ struct DeviceBindingParam final : JsonEntity<DeviceBindingParam> {
     bool hasAuto = false;
     std::vector<std::string> tags;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("code", self.code);
-        key("email", self.email);
-        key("binding", self.binding);
-        key("deviceName", self.deviceName);
-        key("sn", self.sn);
-        key("hasAuto", self.hasAuto);
-        key("tags", self.tags);
-    };
+    RYX_KEYS(code, email, binding, deviceName, sn, hasAuto, tags);
 };
 
 /// Second stage of a binding: what the service echoes while it binds.
@@ -109,16 +74,7 @@ struct DeviceBindingInfo final : JsonEntity<DeviceBindingInfo> {
     std::vector<std::string> tags;
     WakeServerInfo wakeServerEntity;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("code", self.code);
-        key("email", self.email);
-        key("operationDeviceLogId", self.operationDeviceLogId);
-        key("operationId", self.operationId);
-        key("binding", self.binding);
-        key("name", self.name);
-        key("tags", self.tags);
-        key("wakeServerEntity", self.wakeServerEntity);
-    };
+    RYX_KEYS(code, email, operationDeviceLogId, operationId, binding, name, tags, wakeServerEntity);
 };
 
 /// Last stage of a binding: its outcome and the permissions granted.
@@ -131,29 +87,21 @@ struct DeviceBindingResult final : JsonEntity<DeviceBindingResult> {
     std::string email;
     std::vector<std::string> permissionList;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("binding", self.binding);
-        key("result", self.result);
-        key("code", self.code);
-        key("deviceName", self.deviceName);
-        key("schoolCode", self.schoolCode);
-        key("email", self.email);
-        key("permissionList", self.permissionList);
-    };
+    RYX_KEYS(binding, result, code, deviceName, schoolCode, email, permissionList);
 };
 
 /// The permissions that the organisation holds over the device.
 struct PermissionInfo final : JsonEntity<PermissionInfo> {
     std::vector<std::string> keyList;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) { key("keyList", self.keyList); };
+    RYX_KEYS(keyList);
 };
 
 /// Tells the administrator's e-mail address.
 struct AdminAccountDataNotify final : JsonEntity<AdminAccountDataNotify, OperationCommandRequest> {
     std::string email;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) { key("email", self.email); };
+    RYX_KEYS(email);
 };
 
 /// The device's identity; `version` is that of the software.
@@ -165,28 +113,21 @@ struct DeviceBaseInfo final : JsonEntity<DeviceBaseInfo> {
     std::string product;
     std::vector<std::string> tags;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("name", self.name);
-        key("timeZone", self.timeZone);
-        key("ip", self.ip);
-        key("version", self.version);
-        key("product", self.product);
-        key("tags", self.tags);
-    };
+    RYX_KEYS(name, timeZone, ip, version, product, tags);
 };
 
 /// The device's name.
 struct DeviceNameProperty final : JsonEntity<DeviceNameProperty, OperationCommandRequest> {
     std::string name;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) { key("name", self.name); };
+    RYX_KEYS(name);
 };
 
 /// The device's tags.
 struct DeviceTagsProperty final : JsonEntity<DeviceTagsProperty, OperationCommandRequest> {
     std::vector<std::string> tags;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) { key("tags", self.tags); };
+    RYX_KEYS(tags);
 };
 
 /// One network interface.
@@ -197,26 +138,18 @@ struct NICInfo final : JsonEntity<NICInfo> {
     std::string privateIp;
     std::string nicType;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("nicName", self.nicName);
-        key("mac", self.mac);
-        key("publicIp", self.publicIp);
-        key("privateIp", self.privateIp);
-        key("nicType", self.nicType);
-    };
+    RYX_KEYS(nicName, mac, publicIp, privateIp, nicType);
 };
 
 /// The device's network interfaces.
 struct NicInfoParamsList final : JsonEntity<NicInfoParamsList> {
     std::vector<NICInfo> nicInfoParamsList;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("nicInfoParamsList", self.nicInfoParamsList);
-    };
+    RYX_KEYS(nicInfoParamsList);
 };
 
-/// The device's inventory: storage and memory (used and in total), screen size in pixels, whether wake-on-LAN
-/// is enabled.
+/// The device's inventory: storage and memory (used and in total), screen size, whether wake-on-LAN is
+/// enabled.
 struct DevicePropertyInfo final : JsonEntity<DevicePropertyInfo> {
     std::int64_t useStorage = 0;
     std::int64_t totalStorage = 0;
@@ -234,85 +167,59 @@ struct DevicePropertyInfo final : JsonEntity<DevicePropertyInfo> {
     NicInfoParamsList nicInfoParamsList;
     std::vector<std::string> drives;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("useStorage", self.useStorage);
-        key("totalStorage", self.totalStorage);
-        key("useRam", self.useRam);
-        key("totalRam", self.totalRam);
-        key("os", self.os);
-        key("osVersion", self.osVersion);
-        key("touchFrame", self.touchFrame);
-        key("productType", self.productType);
-        key("wolSwitch", self.wolSwitch);
-        key("cpu", self.cpu);
-        key("serialNumber", self.serialNumber);
-        key("screenWidth", self.screenWidth);
-        key("screenHeight", self.screenHeight);
-        key("nicInfoParamsList", self.nicInfoParamsList);
-        key("drives", self.drives);
-    };
+    RYX_KEYS(useStorage, totalStorage, useRam, totalRam, os, osVersion, touchFrame, productType, wolSwitch,
+             cpu, serialNumber, screenWidth, screenHeight, nicInfoParamsList, drives);
 };
 
-/// The sales channel of the device.
+/// The customer channel of the device.
 struct DeviceCustomerChannelInfo final : JsonEntity<DeviceCustomerChannelInfo> {
     std::string customerChannel;
     std::string os;
     std::string product;
 
     static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("customerChannel", self.customerChannel);
-        // A flag in disguise: the service sends true or false and is sent back a text of one byte, 1 or 0.
+        RYX_KEY(customerChannel);
+        // Read as a flag, held and written as a text of one byte, 1 or 0.
         key.Read("os", self.os, [](const Json::Value& value, std::string& field) {
             field.assign(1, value.asBool() ? '\1' : '\0');
         });
         key.Write("os", self.os);
-        key("product", self.product);
+        RYX_KEY(product);
     };
 };
 
-/// The resolved position in degrees, and the address it was found with.
+/// The resolved position, and the address used.
 /// A command by type only: its body holds nothing but its own keys.
-struct DeviceLocationInfo final : JsonEntity<DeviceLocationInfo, OperationCommandRequest, BaseKeys::Neither> {
+struct DeviceLocationInfo final : JsonEntity<DeviceLocationInfo, OperationCommandRequest, BaseKeys::LeftOut> {
     double latitude = 0.0;
     double longitude = 0.0;
     std::string ip;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("latitude", self.latitude);
-        key("longitude", self.longitude);
-        key("ip", self.ip);
-    };
+    RYX_KEYS(latitude, longitude, ip);
 };
 
-/// One Wi-Fi access point in reach.
+/// One Wi-Fi access point.
 /// A command by type only: its body holds nothing but its own keys.
 struct DeviceLocationWifiInfo final
-    : JsonEntity<DeviceLocationWifiInfo, OperationCommandRequest, BaseKeys::Neither> {
+    : JsonEntity<DeviceLocationWifiInfo, OperationCommandRequest, BaseKeys::LeftOut> {
     double signalStrength = 0.0;
     std::string macAddress;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("signalStrength", self.signalStrength);
-        key("macAddress", self.macAddress);
-    };
+    RYX_KEYS(signalStrength, macAddress);
 };
 
-/// What a position is resolved from: the address and the access points in reach.
+/// The device's address, a status and the Wi-Fi access points, for its location.
 struct DeviceLocationParams final : JsonEntity<DeviceLocationParams> {
     std::string ip;
     bool status = false;
     std::vector<DeviceLocationWifiInfo> wifiAccessPoints;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("ip", self.ip);
-        key("status", self.status);
-        key("wifiAccessPoints", self.wifiAccessPoints);
-    };
+    RYX_KEYS(ip, status, wifiAccessPoints);
 };
 
 /// Resets the device; `type` is the service's code of how.
 struct FactoryResetParams final : JsonEntity<FactoryResetParams, OperationCommandRequest> {
     std::int32_t type = 0;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) { key("type", self.type); };
+    RYX_KEYS(type);
 };

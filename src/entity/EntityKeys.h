@@ -3,6 +3,7 @@
 #include <json/json.h>
 
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <utility>
 #include <vector>
@@ -11,14 +12,32 @@ struct RyxEntity;
 
 /// The two sides of an entity's key table, and the conversions between fields and JSON values.
 ///
-/// A table is a generic lambda over the entity and one of the sides below; each line is one key:
+/// A field bears the name of its key. An entity whose keys are all read and written alike lists them:
 ///
-///     key("name", self.name);        // read and written under one name
+///     RYX_KEYS(name, tags);
+///
+/// Any other has a table: a generic lambda over the entity and one of the sides below, a line for each key:
+///
+///     RYX_KEY(name);                 // read and written
 ///     key.Read("appName", ...);      // read only
 ///     key.Write("turnOn", ...);      // written only
 ///
-/// Lines run in order. A key that is read and written in different places, under different names or as
-/// different types has one Read and one Write line.
+/// Keys are read in this order; a value of the wrong type ends the reading there. Written text is sorted by
+/// name.
+#define RYX_KEY(field) key(#field, self.field)
+
+#define RYX_KEYS(...)                                                                                        \
+    static constexpr entity::NameList KeyNames{#__VA_ARGS__};                                                \
+    template <class Side>                                                                                    \
+    void Fold(const Side& key) {                                                                             \
+        entity::FoldKeys(key, KeyNames.text, __VA_ARGS__);                                                   \
+    }                                                                                                        \
+    template <class Side>                                                                                    \
+    void Fold(const Side& key) const {                                                                       \
+        entity::FoldKeys(key, KeyNames.text, __VA_ARGS__);                                                   \
+    }                                                                                                        \
+    static constexpr auto Keys = [](auto& self, const auto& key) { self.Fold(key); }
+
 namespace entity {
 
 /// Each ReadValue fills a field from a JSON value: null gives the zero value, an incompatible type throws
@@ -63,11 +82,14 @@ void ReadRequiredText(const Json::Value& value, std::string& field);
 /// Fills the nested entity when the value is an object and keeps what it holds otherwise.
 void ReadIfObject(const Json::Value& value, RyxEntity& field);
 
-/// Fills a number from decimal text. Throws std::invalid_argument("invalid stoi argument") when the text
-/// does not begin with a number and std::out_of_range("stoi argument out of range") when it is too large.
+/// Fills a number from text as std::stoi reads it. Throws std::invalid_argument("invalid stoi argument") when
+/// the text does not begin with a number and std::out_of_range("stoi argument out of range") when it is too
+/// large.
 void ReadIntText(const Json::Value& value, std::int32_t& field);
 
-/// As ReadIntText, with "stod" in the messages; an empty text keeps what the field holds.
+/// As ReadIntText, but as std::stod reads it and with "stod" in the messages: hexadecimal, infinite, NaN, and
+/// out of range also when too small for full precision. The decimal sign is the point, whatever the user's
+/// locale. An empty text keeps what the field holds.
 void ReadDoubleTextUnlessEmpty(const Json::Value& value, double& field);
 
 /// Runs a key table from a JSON value into the entity.
@@ -117,5 +139,26 @@ public:
 private:
     Json::Value& m_out;
 };
+
+/// The names of a list "a, b" one after the other, each ended by a null.
+template <std::size_t Size>
+struct NameList {
+    constexpr explicit NameList(const char (&list)[Size]) {
+        char* end = text;
+        for (const char sign : list) {
+            if (sign != ' ')
+                *end++ = sign == ',' ? '\0' : sign;
+        }
+    }
+
+    char text[Size] = {};
+};
+
+/// Runs one side over \p fields, whose names follow one another as in a NameList.
+template <class Side, class... Fields>
+void FoldKeys(const Side& key, const char* names, Fields&... fields) {
+    const auto next = [&names] { return std::exchange(names, names + std::strlen(names) + 1); };
+    (key(next(), fields), ...);
+}
 
 } // namespace entity

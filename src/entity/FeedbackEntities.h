@@ -21,18 +21,8 @@ struct ReportInfoDto final : JsonEntity<ReportInfoDto> {
     bool isMadeInVorn = false;
     std::string appFlavor;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("version", self.version);
-        key("os", self.os);
-        key("osVersion", self.osVersion);
-        key("customerChannel", self.customerChannel);
-        key("model", self.model);
-        key("deviceType", self.deviceType);
-        key("platform", self.platform);
-        key("screenSize", self.screenSize);
-        key("isMadeInVorn", self.isMadeInVorn);
-        key("appFlavor", self.appFlavor);
-    };
+    RYX_KEYS(version, os, osVersion, customerChannel, model, deviceType, platform, screenSize, isMadeInVorn,
+             appFlavor);
 };
 
 /// An attached file.
@@ -40,10 +30,7 @@ struct FileDto final : JsonEntity<FileDto> {
     std::string name;
     std::string url;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("name", self.name);
-        key("url", self.url);
-    };
+    RYX_KEYS(name, url);
 };
 
 /// The feedback form that is sent to the service.
@@ -55,14 +42,7 @@ struct WebFeedbackDto final : JsonEntity<WebFeedbackDto> {
     std::vector<FileDto> pictures;
     std::vector<FileDto> annex;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("email", self.email);
-        key("content", self.content);
-        key("title", self.title);
-        key("platform", self.platform);
-        key("pictures", self.pictures);
-        key("annex", self.annex);
-    };
+    RYX_KEYS(email, content, title, platform, pictures, annex);
 };
 
 /// Ties an uploaded log to a feedback.
@@ -71,18 +51,14 @@ struct ReportFeedbackLog final : JsonEntity<ReportFeedbackLog> {
     std::string logCode;
     std::string logName;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("feedbackId", self.feedbackId);
-        key("logCode", self.logCode);
-        key("logName", self.logName);
-    };
+    RYX_KEYS(feedbackId, logCode, logName);
 };
 
 /// Asks for the log of a feedback.
 struct PullFeedbackLog final : JsonEntity<PullFeedbackLog> {
     std::int32_t feedbackId = 0;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) { key("feedbackId", self.feedbackId); };
+    RYX_KEYS(feedbackId);
 };
 
 /// Ties an uploaded file to a bug log.
@@ -90,28 +66,22 @@ struct ReportBugLogInfo final : JsonEntity<ReportBugLogInfo, OperationCommandReq
     std::string traceId;
     std::string fileKey;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("traceId", self.traceId);
-        key("fileKey", self.fileKey);
-    };
+    RYX_KEYS(traceId, fileKey);
 };
 
 /// Asks for a bug log.
 struct ExportBugLogInfo final : JsonEntity<ExportBugLogInfo, OperationCommandRequest> {
     std::string traceId;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) { key("traceId", self.traceId); };
+    RYX_KEYS(traceId);
 };
 
-/// The service's answer to the notice of an uploaded log.
+/// The answer to the notice of a device log's upload.
 struct NotifyDeviceLogUploadResponse final : JsonEntity<NotifyDeviceLogUploadResponse> {
     std::string data;
     std::string status;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("data", self.data);
-        key("status", self.status);
-    };
+    RYX_KEYS(data, status);
 };
 
 /// One name and value of an upload request.
@@ -119,10 +89,7 @@ struct NubraFieldInfo final : JsonEntity<NubraFieldInfo> {
     std::string name;
     std::string value;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("name", self.name);
-        key("value", self.value);
-    };
+    RYX_KEYS(name, value);
 };
 
 /// One file in the file store.
@@ -130,10 +97,7 @@ struct NubraFileInfo final : JsonEntity<NubraFileInfo> {
     std::string fileKey;
     std::string downloadUrl;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("fileKey", self.fileKey);
-        key("downloadUrl", self.downloadUrl);
-    };
+    RYX_KEYS(fileKey, downloadUrl);
 };
 
 /// How to upload a file: the request's key fields, headers and form fields, and the response headers to pick
@@ -147,15 +111,8 @@ struct NubraUploadPolicy final : JsonEntity<NubraUploadPolicy> {
     std::vector<NubraFieldInfo> formFields;
     std::vector<std::string> needExtractHeaderNames;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("httpMethod", self.httpMethod);
-        key("uploadUrl", self.uploadUrl);
-        key("needCallServer", self.needCallServer);
-        key("keyInfoFields", self.keyInfoFields);
-        key("headerFields", self.headerFields);
-        key("formFields", self.formFields);
-        key("needExtractHeaderNames", self.needExtractHeaderNames);
-    };
+    RYX_KEYS(httpMethod, uploadUrl, needCallServer, keyInfoFields, headerFields, formFields,
+             needExtractHeaderNames);
 };
 
 /// The body of NubraUploadPolicyResponse.
@@ -164,8 +121,8 @@ struct NubraUploadPolicyData final : JsonEntity<NubraUploadPolicyData> {
     NubraUploadPolicy uploadPolicyVo;
 
     static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("fileKey", self.fileKey);
-        // An answer without a policy leaves the one at hand alone.
+        RYX_KEY(fileKey);
+        // Anything but an object leaves the policy as it is.
         key.Read("uploadPolicyVo", self.uploadPolicyVo, entity::ReadIfObject);
         key.Write("uploadPolicyVo", self.uploadPolicyVo);
     };
@@ -177,24 +134,20 @@ struct NubraUploadPolicyResponse final : JsonEntity<NubraUploadPolicyResponse> {
     NubraUploadPolicyData data;
 
     static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("status", self.status);
-        // A refusal has no data and leaves the file key and the policy at hand alone.
+        RYX_KEY(status);
+        // Anything but an object leaves the file key and the policy as they are.
         key.Read("data", self.data, entity::ReadIfObject);
         key.Write("data", self.data);
     };
 };
 
-/// The file that an upload made.
+/// The uploaded file.
 struct NubraUploadResult final : JsonEntity<NubraUploadResult> {
     std::string downloadUrl;
     std::string fileKey;
     std::int32_t fileSize = 0;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("downloadUrl", self.downloadUrl);
-        key("fileKey", self.fileKey);
-        key("fileSize", self.fileSize);
-    };
+    RYX_KEYS(downloadUrl, fileKey, fileSize);
 };
 
 /// The file store's answer to an upload.
@@ -203,11 +156,7 @@ struct NubraUploadResponse final : JsonEntity<NubraUploadResponse> {
     std::string message;
     NubraUploadResult data;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("code", self.code);
-        key("message", self.message);
-        key("data", self.data);
-    };
+    RYX_KEYS(code, message, data);
 };
 
 /// The file store's answer to the notice of a finished upload.
@@ -215,8 +164,5 @@ struct NubraNotifyUploadResultResponse final : JsonEntity<NubraNotifyUploadResul
     std::string status;
     NubraFileInfo data;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("status", self.status);
-        key("data", self.data);
-    };
+    RYX_KEYS(status, data);
 };

@@ -19,13 +19,7 @@ struct TextDataRequest final : JsonEntity<TextDataRequest, OperationCommandReque
     bool operationRight = false;
     std::string text;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("jobStatus", self.jobStatus);
-        key("loopTime", self.loopTime);
-        key("playDuration", self.playDuration);
-        key("operationRight", self.operationRight);
-        key("text", self.text);
-    };
+    RYX_KEYS(jobStatus, loopTime, playDuration, operationRight, text);
 };
 
 /// One file that the service offers.
@@ -36,22 +30,14 @@ struct FileInfoParams final : JsonEntity<FileInfoParams> {
     std::string url;
     std::string path;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("fileId", self.fileId);
-        key("md5", self.md5);
-        key("name", self.name);
-        key("url", self.url);
-        key("path", self.path);
-    };
+    RYX_KEYS(fileId, md5, name, url, path);
 };
 
 /// Sends one file to the device.
 struct FileDataRequest final : JsonEntity<FileDataRequest, OperationCommandRequest> {
     FileInfoParams fileInfoParams;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("fileInfoParams", self.fileInfoParams);
-    };
+    RYX_KEYS(fileInfoParams);
 };
 
 /// Plays a multimedia file.
@@ -62,13 +48,7 @@ struct MultimediaDataRequest final : JsonEntity<MultimediaDataRequest, Operation
     bool operationRight = false;
     FileInfoParams fileInfoParams;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("jobStatus", self.jobStatus);
-        key("loopTime", self.loopTime);
-        key("playDuration", self.playDuration);
-        key("operationRight", self.operationRight);
-        key("fileInfoParams", self.fileInfoParams);
-    };
+    RYX_KEYS(jobStatus, loopTime, playDuration, operationRight, fileInfoParams);
 };
 
 /// Rings a bell.
@@ -78,12 +58,7 @@ struct BellDataRequest final : JsonEntity<BellDataRequest, OperationCommandReque
     std::int32_t timeLength = 0;
     FileInfoParams fileInfoParams;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("jobStatus", self.jobStatus);
-        key("timeMode", self.timeMode);
-        key("timeLength", self.timeLength);
-        key("fileInfoParams", self.fileInfoParams);
-    };
+    RYX_KEYS(jobStatus, timeMode, timeLength, fileInfoParams);
 };
 
 /// Shows an emergency notice.
@@ -91,10 +66,7 @@ struct EmergencyDataRequest final : JsonEntity<EmergencyDataRequest, OperationCo
     std::string text;
     FileInfoParams fileInfoParams;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("text", self.text);
-        key("fileInfoParams", self.fileInfoParams);
-    };
+    RYX_KEYS(text, fileInfoParams);
 };
 
 /// Sets the wallpaper.
@@ -103,11 +75,7 @@ struct WallpaperDataRequest final : JsonEntity<WallpaperDataRequest, OperationCo
     std::int32_t displayMode = 0;
     FileInfoParams fileInfoParams;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("wallpaperMode", self.wallpaperMode);
-        key("displayMode", self.displayMode);
-        key("fileInfoParams", self.fileInfoParams);
-    };
+    RYX_KEYS(wallpaperMode, displayMode, fileInfoParams);
 };
 
 /// Sets the boot logo.
@@ -116,11 +84,7 @@ struct BootLogoDataRequest final : JsonEntity<BootLogoDataRequest, OperationComm
     std::int32_t logoMode = 0;
     std::int32_t displayMode = 0;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("fileInfoParams", self.fileInfoParams);
-        key("logoMode", self.logoMode);
-        key("displayMode", self.displayMode);
-    };
+    RYX_KEYS(fileInfoParams, logoMode, displayMode);
 };
 
 /// One live channel.
@@ -131,20 +95,12 @@ struct LiveChannelRequest final : JsonEntity<LiveChannelRequest, OperationComman
     std::int32_t playDuration = 0;
     std::string url;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("id", self.id);
-        key("jobStatus", self.jobStatus);
-        key("name", self.name);
-        key("playDuration", self.playDuration);
-        key("url", self.url);
-    };
+    RYX_KEYS(id, jobStatus, name, playDuration, url);
 };
 
 /// The live channels on offer.
 struct LiveChannelListRequest final : JsonEntity<LiveChannelListRequest> {
     std::vector<LiveChannelRequest> liveChannelList;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("liveChannelList", self.liveChannelList);
-    };
+    RYX_KEYS(liveChannelList);
 };

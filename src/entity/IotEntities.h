@@ -13,10 +13,7 @@ struct ErrorInfo final : JsonEntity<ErrorInfo> {
     std::string code;
     std::string result;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("code", self.code);
-        key("result", self.result);
-    };
+    RYX_KEYS(code, result);
 };
 
 /// How to reach the service's message broker.
@@ -26,19 +23,14 @@ struct IotEnvironment final : JsonEntity<IotEnvironment> {
     std::string productKey;
     std::string productSecret;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("registerUrl", self.registerUrl);
-        key("brokerUrl", self.brokerUrl);
-        key("productKey", self.productKey);
-        key("productSecret", self.productSecret);
-    };
+    RYX_KEYS(registerUrl, brokerUrl, productKey, productSecret);
 };
 
 /// State of the link to the message broker.
 struct IotStatusEntity final : JsonEntity<IotStatusEntity> {
     std::int32_t status = 0;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) { key("status", self.status); };
+    RYX_KEYS(status);
 };
 
 /// The broker's reply; `data` is JSON text.
@@ -51,15 +43,7 @@ struct IotResult final : JsonEntity<IotResult> {
     std::string deviceId;
     std::string method;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("success", self.success);
-        key("code", self.code);
-        key("message", self.message);
-        key("data", self.data);
-        key("traceId", self.traceId);
-        key("deviceId", self.deviceId);
-        key("method", self.method);
-    };
+    RYX_KEYS(success, code, message, data, traceId, deviceId, method);
 };
 
 /// The device's reported profile: each key holds the JSON text of one settings area.
@@ -86,27 +70,8 @@ struct IotProperty final : JsonEntity<IotProperty> {
     std::string savingMode;
     std::string volume;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("name", self.name);
-        key("tags", self.tags);
-        key("blocklist", self.blocklist);
-        key("deleteBlocklist", self.deleteBlocklist);
-        key("profileSwitch", self.profileSwitch);
-        key("autoSleep", self.autoSleep);
-        key("autoPowerSleep", self.autoPowerSleep);
-        key("wolServer", self.wolServer);
-        key("hourFormatSetting", self.hourFormatSetting);
-        key("dateAndTimeSetting", self.dateAndTimeSetting);
-        key("timeZone", self.timeZone);
-        key("wifiSettings", self.wifiSettings);
-        key("profileCertList", self.profileCertList);
-        key("wifiAllowList", self.wifiAllowList);
-        key("offlineTasks", self.offlineTasks);
-        key("profileUninstallCertList", self.profileUninstallCertList);
-        key("settingsLock", self.settingsLock);
-        key("brightness", self.brightness);
-        key("lockByButton", self.lockByButton);
-        key("savingMode", self.savingMode);
-        key("volume", self.volume);
-    };
+    RYX_KEYS(name, tags, blocklist, deleteBlocklist, profileSwitch, autoSleep, autoPowerSleep, wolServer,
+             hourFormatSetting, dateAndTimeSetting, timeZone, wifiSettings, profileCertList, wifiAllowList,
+             offlineTasks, profileUninstallCertList, settingsLock, brightness, lockByButton, savingMode,
+             volume);
 };

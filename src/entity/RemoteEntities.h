@@ -10,16 +10,14 @@
 // External devices, channels and wake-on-LAN.
 
 /// Base of the bodies that concern one external device.
-///
-/// Derived bodies read the key through this base and write it themselves, as their first key.
 struct ExternalDeviceKey : JsonEntity<ExternalDeviceKey> {
     std::string deviceKey;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) { key("deviceKey", self.deviceKey); };
+    RYX_KEYS(deviceKey);
 };
 
 /// Opens a session with one camera of an external device.
-struct CreateVideoWebRTC final : JsonEntity<CreateVideoWebRTC, ExternalDeviceKey, BaseKeys::OnlyRead> {
+struct CreateVideoWebRTC final : JsonEntity<CreateVideoWebRTC, ExternalDeviceKey> {
     std::string sessionId;
     std::int32_t maxBitrate = 0;
     std::int32_t maxFramerate = 0;
@@ -32,34 +30,22 @@ struct CreateVideoWebRTC final : JsonEntity<CreateVideoWebRTC, ExternalDeviceKey
     std::string cameraId;
     std::string iceReturnData;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key.Write("deviceKey", self.deviceKey);
-        key("sessionId", self.sessionId);
-        key("maxBitrate", self.maxBitrate);
-        key("maxFramerate", self.maxFramerate);
-        key("maxHeight", self.maxHeight);
-        key("maxWidth", self.maxWidth);
-        key("minBitrate", self.minBitrate);
-        key("minFramerate", self.minFramerate);
-        key("minHeight", self.minHeight);
-        key("minWidth", self.minWidth);
-        key("cameraId", self.cameraId);
-        key("iceReturnData", self.iceReturnData);
-    };
+    RYX_KEYS(sessionId, maxBitrate, maxFramerate, maxHeight, maxWidth, minBitrate, minFramerate, minHeight,
+             minWidth, cameraId, iceReturnData);
 };
 
 /// An external device.
 struct ExternalDeviceInfo final : JsonEntity<ExternalDeviceInfo> {
     std::string name;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) { key("name", self.name); };
+    RYX_KEYS(name);
 };
 
-/// Whether an external device has speakers.
+/// The audio of an external device.
 struct ExternalDeviceAudio final : JsonEntity<ExternalDeviceAudio> {
     bool speakers = false;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) { key("speakers", self.speakers); };
+    RYX_KEYS(speakers);
 };
 
 /// The firmware of an external device.
@@ -68,56 +54,34 @@ struct ExternalDeviceFirmware final : JsonEntity<ExternalDeviceFirmware> {
     std::string appKey;
     bool updateOnline = false;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("version", self.version);
-        key("appKey", self.appKey);
-        key("updateOnline", self.updateOnline);
-    };
+    RYX_KEYS(version, appKey, updateOnline);
 };
 
 /// Orders an update of an external device's firmware.
-struct ExternalDeviceFirmwareUpdate final
-    : JsonEntity<ExternalDeviceFirmwareUpdate, ExternalDeviceKey, BaseKeys::OnlyRead> {
+struct ExternalDeviceFirmwareUpdate final : JsonEntity<ExternalDeviceFirmwareUpdate, ExternalDeviceKey> {
     std::string url;
     std::string md5;
     std::string name;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key.Write("deviceKey", self.deviceKey);
-        key("url", self.url);
-        key("md5", self.md5);
-        key("name", self.name);
-    };
+    RYX_KEYS(url, md5, name);
 };
 
 /// The answer to a command to an external device.
-struct ExternalDeviceControlFeedback final
-    : JsonEntity<ExternalDeviceControlFeedback, ExternalDeviceKey, BaseKeys::OnlyRead> {
+struct ExternalDeviceControlFeedback final : JsonEntity<ExternalDeviceControlFeedback, ExternalDeviceKey> {
     std::string functionName;
     std::string code;
     std::string result;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key.Write("deviceKey", self.deviceKey);
-        key("functionName", self.functionName);
-        key("code", self.code);
-        key("result", self.result);
-    };
+    RYX_KEYS(functionName, code, result);
 };
 
 /// Sets one parameter of an external device.
-struct SetExternalDeviceParams final
-    : JsonEntity<SetExternalDeviceParams, ExternalDeviceKey, BaseKeys::OnlyRead> {
+struct SetExternalDeviceParams final : JsonEntity<SetExternalDeviceParams, ExternalDeviceKey> {
     std::string paramsName;
     std::string paramsValue;
     std::string functionName;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key.Write("deviceKey", self.deviceKey);
-        key("paramsName", self.paramsName);
-        key("paramsValue", self.paramsValue);
-        key("functionName", self.functionName);
-    };
+    RYX_KEYS(paramsName, paramsValue, functionName);
 };
 
 /// One parameter of an external device.
@@ -126,22 +90,14 @@ struct ExternalDeviceParam final : JsonEntity<ExternalDeviceParam> {
     std::string paramsValue;
     std::string functionName;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("paramsName", self.paramsName);
-        key("paramsValue", self.paramsValue);
-        key("functionName", self.functionName);
-    };
+    RYX_KEYS(paramsName, paramsValue, functionName);
 };
 
 /// Resets several parameters of an external device.
-struct ResetExternalDeviceParams final
-    : JsonEntity<ResetExternalDeviceParams, ExternalDeviceKey, BaseKeys::OnlyRead> {
+struct ResetExternalDeviceParams final : JsonEntity<ResetExternalDeviceParams, ExternalDeviceKey> {
     std::vector<ExternalDeviceParam> paramList;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key.Write("deviceKey", self.deviceKey);
-        key("paramList", self.paramList);
-    };
+    RYX_KEYS(paramList);
 };
 
 /// The channel to switch to.
@@ -149,19 +105,14 @@ struct ChannelCommandParams final : JsonEntity<ChannelCommandParams> {
     std::string channelName;
     std::int32_t channelId = 0;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("channelName", self.channelName);
-        key("channelId", self.channelId);
-    };
+    RYX_KEYS(channelName, channelId);
 };
 
 /// Switches the channel.
 struct ChannelSwitchParams final : JsonEntity<ChannelSwitchParams> {
     ChannelCommandParams channelCommandParams;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("channelCommandParams", self.channelCommandParams);
-    };
+    RYX_KEYS(channelCommandParams);
 };
 
 /// One channel and whether it is locked.
@@ -169,10 +120,7 @@ struct DeviceChannelParams final : JsonEntity<DeviceChannelParams> {
     std::string name;
     bool isLock = false;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("name", self.name);
-        key("isLock", self.isLock);
-    };
+    RYX_KEYS(name, isLock);
 };
 
 /// The device's channels and the current one.
@@ -180,10 +128,7 @@ struct DeviceChannelInfo final : JsonEntity<DeviceChannelInfo> {
     std::vector<DeviceChannelParams> deviceChannelParams;
     std::string onChannel;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("deviceChannelParams", self.deviceChannelParams);
-        key("onChannel", self.onChannel);
-    };
+    RYX_KEYS(deviceChannelParams, onChannel);
 };
 
 /// The wake server's record; its keys are capitalised.
@@ -194,13 +139,7 @@ struct WakeServerData final : JsonEntity<WakeServerData> {
     std::string ServerName;
     std::string TimeSpan;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("Id", self.Id);
-        key("BindingCode", self.BindingCode);
-        key("Uid", self.Uid);
-        key("ServerName", self.ServerName);
-        key("TimeSpan", self.TimeSpan);
-    };
+    RYX_KEYS(Id, BindingCode, Uid, ServerName, TimeSpan);
 };
 
 /// State of the binding to a wake server.
@@ -209,24 +148,16 @@ struct WakeServerInfo final : JsonEntity<WakeServerInfo> {
     bool isOnLine = false;
     std::int32_t code = 0;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("wakeServerName", self.wakeServerName);
-        key("isOnLine", self.isOnLine);
-        key("code", self.code);
-    };
+    RYX_KEYS(wakeServerName, isOnLine, code);
 };
 
-/// The wake server of a device, with the operation that bound it.
+/// The wake server of a device, with the identifiers of the operation.
 struct DeviceWakeServer final : JsonEntity<DeviceWakeServer> {
     std::int32_t operationDeviceLogId = 0;
     std::int32_t operationId = 0;
     WakeServerInfo wakeServerEntity;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("operationDeviceLogId", self.operationDeviceLogId);
-        key("operationId", self.operationId);
-        key("wakeServerEntity", self.wakeServerEntity);
-    };
+    RYX_KEYS(operationDeviceLogId, operationId, wakeServerEntity);
 };
 
 /// Asks for a wake packet to one machine.
@@ -234,15 +165,12 @@ struct SendWolParams final : JsonEntity<SendWolParams> {
     std::string mac;
     std::string ip;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("mac", self.mac);
-        key("ip", self.ip);
-    };
+    RYX_KEYS(mac, ip);
 };
 
 /// Several machines to wake, in one text.
 struct DeviceWolParams final : JsonEntity<DeviceWolParams> {
     std::string macsAndIps;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) { key("macsAndIps", self.macsAndIps); };
+    RYX_KEYS(macsAndIps);
 };

@@ -35,26 +35,26 @@ protected:
     ~RyxEntity() = default;
 };
 
-/// Whether an entity's read and write begin with those of its base.
-enum class BaseKeys { ReadAndWritten, OnlyRead, Neither };
+/// Whether an entity's body begins with the keys of its base.
+enum class BaseKeys { Included, LeftOut };
 
 /// Implements reading and writing of \p Self by folding over its table `Self::Keys` (see EntityKeys.h).
-template <class Self, class Base = RyxEntity, BaseKeys baseKeys = BaseKeys::ReadAndWritten>
+template <class Self, class Base = RyxEntity, BaseKeys baseKeys = BaseKeys::Included>
 struct JsonEntity : Base {
     void WriteToJson(Json::Value& out) const override {
-        if constexpr (hasBaseKeys && baseKeys == BaseKeys::ReadAndWritten)
+        if constexpr (hasBaseKeys)
             Base::WriteToJson(out);
         Self::Keys(static_cast<const Self&>(*this), entity::KeyWriter(out));
     }
 
     void ReadFromJson(const Json::Value& in) override {
-        if constexpr (hasBaseKeys && baseKeys != BaseKeys::Neither)
+        if constexpr (hasBaseKeys)
             Base::ReadFromJson(in);
         Self::Keys(static_cast<Self&>(*this), entity::KeyReader(in));
     }
 
 private:
-    static constexpr bool hasBaseKeys = !std::is_same_v<Base, RyxEntity>;
+    static constexpr bool hasBaseKeys = !std::is_same_v<Base, RyxEntity> && baseKeys == BaseKeys::Included;
 };
 
 /// Base of every body that carries a command of the management service: which operation it belongs to.
@@ -62,10 +62,7 @@ struct OperationCommandRequest : JsonEntity<OperationCommandRequest> {
     std::int32_t operationId = 0;          ///< The operation in the service's records.
     std::int32_t operationDeviceLogId = 0; ///< This device's entry in the operation's log.
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("operationId", self.operationId);
-        key("operationDeviceLogId", self.operationDeviceLogId);
-    };
+    RYX_KEYS(operationId, operationDeviceLogId);
 };
 
 /// The answer to a command: the command's two identifiers, sent back, and how it went.
@@ -74,9 +71,5 @@ struct OperationCommandResponse : JsonEntity<OperationCommandResponse> {
     std::int32_t operationDeviceLogId = 0;
     std::int32_t resultCode = 0; ///< 0 when the command was carried out.
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("operationId", self.operationId);
-        key("operationDeviceLogId", self.operationDeviceLogId);
-        key("resultCode", self.resultCode);
-    };
+    RYX_KEYS(operationId, operationDeviceLogId, resultCode);
 };

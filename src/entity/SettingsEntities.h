@@ -12,9 +12,7 @@
 struct SettingsParams final : JsonEntity<SettingsParams, OperationCommandRequest> {
     std::int32_t enableSettingsLock = 0;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("enableSettingsLock", self.enableSettingsLock);
-    };
+    RYX_KEYS(enableSettingsLock);
 };
 
 /// A notice about one setting area, named by its `type` code.
@@ -23,36 +21,28 @@ struct DeviceSettingNotify final : JsonEntity<DeviceSettingNotify, OperationComm
     bool status = false;
     std::string content;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("type", self.type);
-        key("status", self.status);
-        key("content", self.content);
-    };
+    RYX_KEYS(type, status, content);
 };
 
-/// When the screen goes to sleep.
+/// The sleep time.
 struct AutoSleepProperty final : JsonEntity<AutoSleepProperty, OperationCommandRequest> {
     std::int32_t autoSleepTime = 0;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("autoSleepTime", self.autoSleepTime);
-    };
+    RYX_KEYS(autoSleepTime);
 };
 
-/// When the device goes to sleep.
+/// The power-sleep time.
 struct AutoPowerSleepProperty final : JsonEntity<AutoPowerSleepProperty, OperationCommandRequest> {
     std::int32_t autoPowerSleepTime = 0;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("autoPowerSleepTime", self.autoPowerSleepTime);
-    };
+    RYX_KEYS(autoPowerSleepTime);
 };
 
 /// One level, 100 until the service tells another.
 struct LevelProperty : JsonEntity<LevelProperty, OperationCommandRequest> {
     std::int32_t value = 100;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) { key("value", self.value); };
+    RYX_KEYS(value);
 };
 
 /// Speaker volume.
@@ -65,27 +55,27 @@ struct BrightnessProperty final : LevelProperty {};
 struct ModeProperty : JsonEntity<ModeProperty, OperationCommandRequest> {
     std::int32_t mode = -1;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) { key("mode", self.mode); };
+    RYX_KEYS(mode);
 };
 
 /// The clock's hour format.
 struct HourFormatSettingProperty final : ModeProperty {};
 
-/// How date and time are set.
+/// The date and time setting.
 struct DateAndTimeSettingProperty final : ModeProperty {};
 
-/// Whether the power button locks the screen.
+/// The power button's lock.
 struct LockByButtonProperty final : JsonEntity<LockByButtonProperty, OperationCommandRequest> {
     std::int32_t turnOn = 0;
 
     static constexpr auto Keys = [](auto& self, const auto& key) {
-        // The service sends a number and is answered with a flag.
+        // Read as a number, written as a flag.
         key.Read("turnOn", self.turnOn);
         key.Write("turnOn", self.turnOn != 0);
     };
 };
 
-/// The energy-saving schedule: the period, the minutes of idleness, and the action to take after them.
+/// The energy-saving schedule: its period, the minutes of idleness, and the action to take.
 struct SavingModeProperty final : JsonEntity<SavingModeProperty, OperationCommandRequest> {
     std::int32_t savingModeStatus = 0;
     std::string startAt;
@@ -93,20 +83,14 @@ struct SavingModeProperty final : JsonEntity<SavingModeProperty, OperationComman
     std::int32_t afterMinutes = 0;
     std::int32_t action = 0;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("savingModeStatus", self.savingModeStatus);
-        key("startAt", self.startAt);
-        key("endAt", self.endAt);
-        key("afterMinutes", self.afterMinutes);
-        key("action", self.action);
-    };
+    RYX_KEYS(savingModeStatus, startAt, endAt, afterMinutes, action);
 };
 
 /// The time zone.
 struct TimeZoneProperty final : JsonEntity<TimeZoneProperty, OperationCommandRequest> {
     std::string zoneId;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) { key("zoneId", self.zoneId); };
+    RYX_KEYS(zoneId);
 };
 
 /// The wake-on-LAN server switch, and whether it changed.
@@ -114,10 +98,7 @@ struct WolServerProperty final : JsonEntity<WolServerProperty, OperationCommandR
     bool change = false;
     bool enableWolServer = false;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("change", self.change);
-        key("enableWolServer", self.enableWolServer);
-    };
+    RYX_KEYS(change, enableWolServer);
 };
 
 /// The Wi-Fi switch and the names of the networks allowed.
@@ -125,10 +106,7 @@ struct WifiProperty final : JsonEntity<WifiProperty, OperationCommandRequest> {
     bool enable = false;
     std::vector<std::string> wifiSsidList;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("enable", self.enable);
-        key("wifiSsidList", self.wifiSsidList);
-    };
+    RYX_KEYS(enable, wifiSsidList);
 };
 
 /// One certificate: its file in the service's file store and the container's password.
@@ -142,18 +120,7 @@ struct CertificateListEntity final : JsonEntity<CertificateListEntity, Operation
     std::string fileName;
     std::string commonName;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("certId", self.certId);
-        // The type is written right after the password.
-        key.Read("type", self.type);
-        key("fileKey", self.fileKey);
-        key("md5", self.md5);
-        key("certName", self.certName);
-        key("password", self.password);
-        key.Write("type", self.type);
-        key("fileName", self.fileName);
-        key("commonName", self.commonName);
-    };
+    RYX_KEYS(certId, type, fileKey, md5, certName, password, fileName, commonName);
 };
 
 /// One Wi-Fi network to configure, with its enterprise authentication.
@@ -169,29 +136,17 @@ struct WifiInfoParams final : JsonEntity<WifiInfoParams, OperationCommandRequest
     bool connectEvenNotBroadcasting = false;
     CertificateListEntity caCert;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("ssidName", self.ssidName);
-        key("password", self.password);
-        // The security type is written right after the password.
-        key.Write("securityType", self.securityType);
-        key("eapMethod", self.eapMethod);
-        key("phase2Method", self.phase2Method);
-        key("identity", self.identity);
-        key.Read("securityType", self.securityType);
-        key("anonymousIdentity", self.anonymousIdentity);
-        key("autoConnect", self.autoConnect);
-        key("connectEvenNotBroadcasting", self.connectEvenNotBroadcasting);
-        key("caCert", self.caCert);
-    };
+    RYX_KEYS(ssidName, password, eapMethod, phase2Method, identity, securityType, anonymousIdentity,
+             autoConnect, connectEvenNotBroadcasting, caCert);
 };
 
 /// One network of the allow list.
 /// A command by type only: its body holds nothing but its own keys.
 struct WifiAllowListEntity final
-    : JsonEntity<WifiAllowListEntity, OperationCommandRequest, BaseKeys::Neither> {
+    : JsonEntity<WifiAllowListEntity, OperationCommandRequest, BaseKeys::LeftOut> {
     std::string ssidname;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) { key("ssidname", self.ssidname); };
+    RYX_KEYS(ssidname);
 };
 
 /// The current Wi-Fi network.
@@ -200,7 +155,7 @@ struct WifiStatus final : JsonEntity<WifiStatus> {
     bool connectStatus = false;
 
     static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("wifiName", self.wifiName);
+        RYX_KEY(wifiName);
         // Two names for one flag, so that a status written and read back loses it.
         key.Read("connectStatus", self.connectStatus);
         key.Write("wifiOnlineStatus", self.connectStatus);
@@ -212,7 +167,7 @@ struct CertificateProperty final : JsonEntity<CertificateProperty, OperationComm
     std::vector<CertificateListEntity> certInstallParamsList;
 
     static constexpr auto Keys = [](auto& self, const auto& key) {
-        // The service orders installs under their own name and takes both kinds back under one.
+        // Both lists of certificates are written under one name.
         key.Read("certInstallParamsList", self.certInstallParamsList);
         key.Write("certificateEntityList", self.certInstallParamsList);
     };
@@ -224,7 +179,7 @@ struct CertificateUnInstallProperty final
     std::vector<CertificateListEntity> certUninstallParamsList;
 
     static constexpr auto Keys = [](auto& self, const auto& key) {
-        // The service orders removals under their own name and takes both kinds back under one.
+        // Both lists of certificates are written under one name.
         key.Read("certUninstallParamsList", self.certUninstallParamsList);
         key.Write("certificateEntityList", self.certUninstallParamsList);
     };
@@ -234,30 +189,27 @@ struct CertificateUnInstallProperty final
 struct BlockListEntity final : JsonEntity<BlockListEntity> {
     std::string url;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) { key("url", self.url); };
+    RYX_KEYS(url);
 };
 
-/// The addresses that the device must not open.
+/// The block list of addresses.
 struct BlockListProperty final : JsonEntity<BlockListProperty, OperationCommandRequest> {
     std::int32_t blockType = 0;
     std::vector<BlockListEntity> blocklistEntityList;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("blockType", self.blockType);
-        key("blocklistEntityList", self.blocklistEntityList);
-    };
+    RYX_KEYS(blockType, blocklistEntityList);
 };
 
 /// Locks the screen until `endAt`.
 struct DeviceScreenLock final : JsonEntity<DeviceScreenLock> {
     std::string endAt;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) { key("endAt", self.endAt); };
+    RYX_KEYS(endAt);
 };
 
 /// Switches a recurring schedule on or off.
 struct SwitchRecurringRequest final : JsonEntity<SwitchRecurringRequest, OperationCommandRequest> {
     bool status = false;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) { key("status", self.status); };
+    RYX_KEYS(status);
 };

@@ -15,12 +15,7 @@ struct OtaUpdateDataRequest final : JsonEntity<OtaUpdateDataRequest, OperationCo
     std::string fileMd5;
     std::string versionCode;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("isNeedUpdate", self.isNeedUpdate);
-        key("apkUrl", self.apkUrl);
-        key("fileMd5", self.fileMd5);
-        key("versionCode", self.versionCode);
-    };
+    RYX_KEYS(isNeedUpdate, apkUrl, fileMd5, versionCode);
 };
 
 /// A version that is available; `versionCode` is text.
@@ -36,21 +31,11 @@ struct OtaUpdateVersionInfo final : JsonEntity<OtaUpdateVersionInfo> {
     std::string versionCode;
     std::string updateDesc;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("hasUpdate", self.hasUpdate);
-        key("isSilentDownload", self.isSilentDownload);
-        key("isForceUpdate", self.isForceUpdate);
-        key("fileSize", self.fileSize);
-        key("policyId", self.policyId);
-        key("downloadUrl", self.downloadUrl);
-        key("name", self.name);
-        key("fileMd5", self.fileMd5);
-        key("versionCode", self.versionCode);
-        key("updateDesc", self.updateDesc);
-    };
+    RYX_KEYS(hasUpdate, isSilentDownload, isForceUpdate, fileSize, policyId, downloadUrl, name, fileMd5,
+             versionCode, updateDesc);
 };
 
-/// A running download: percent, and the bytes in total and so far.
+/// A running download: its progress, and its size in total and so far.
 struct OtaDownloadProgressInfo final : JsonEntity<OtaDownloadProgressInfo> {
     bool finish = false;
     bool success = false;
@@ -58,13 +43,7 @@ struct OtaDownloadProgressInfo final : JsonEntity<OtaDownloadProgressInfo> {
     double dltotal = 0.0;
     double dlcurrent = 0.0;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("finish", self.finish);
-        key("success", self.success);
-        key("progress", self.progress);
-        key("dltotal", self.dltotal);
-        key("dlcurrent", self.dlcurrent);
-    };
+    RYX_KEYS(finish, success, progress, dltotal, dlcurrent);
 };
 
 /// Asks for an available version.
@@ -76,14 +55,7 @@ struct UpdateGetDto final : JsonEntity<UpdateGetDto> {
     std::string deviceMac;
     std::string tag;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("appKey", self.appKey);
-        key("policyId", self.policyId);
-        key("platform", self.platform);
-        key("versionCode", self.versionCode);
-        key("deviceMac", self.deviceMac);
-        key("tag", self.tag);
-    };
+    RYX_KEYS(appKey, policyId, platform, versionCode, deviceMac, tag);
 };
 
 /// The answer to UpdateGetDto.
@@ -91,23 +63,15 @@ struct UpdateGetResult final : JsonEntity<UpdateGetResult> {
     std::string status;
     OtaUpdateVersionInfo data;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("status", self.status);
-        key("data", self.data);
-    };
+    RYX_KEYS(status, data);
 };
 
-/// Orders an update to a customer's edition.
+/// Orders an update to a custom edition.
 struct CustomEditionDataRequest final : JsonEntity<CustomEditionDataRequest> {
     bool isNeedUpdate = false;
     std::string url;
     std::string fileMd5;
     std::string versionCode;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("isNeedUpdate", self.isNeedUpdate);
-        key("url", self.url);
-        key("fileMd5", self.fileMd5);
-        key("versionCode", self.versionCode);
-    };
+    RYX_KEYS(isNeedUpdate, url, fileMd5, versionCode);
 };

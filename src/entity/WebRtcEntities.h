@@ -14,11 +14,7 @@ struct WebRTCSdpInfo final : JsonEntity<WebRTCSdpInfo> {
     std::string type;
     std::string sdp;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("isControl", self.isControl);
-        key("type", self.type);
-        key("sdp", self.sdp);
-    };
+    RYX_KEYS(isControl, type, sdp);
 };
 
 /// The client's session description with the aspect ratio of the shared screen.
@@ -29,37 +25,23 @@ struct WebRTCClientSdpInfo final : JsonEntity<WebRTCClientSdpInfo> {
     std::vector<std::int32_t> apiList;
     std::int32_t error = 0;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("aspectRatio", self.aspectRatio);
-        key("type", self.type);
-        key("sdp", self.sdp);
-        // The error is written before the list.
-        key.Write("error", self.error);
-        key("apiList", self.apiList);
-        key.Read("error", self.error);
-    };
+    RYX_KEYS(aspectRatio, type, sdp, apiList, error);
 };
 
-/// A session description for the client.
+/// The client's session description as text.
 struct WebRTCClientSdpParam final : JsonEntity<WebRTCClientSdpParam> {
     std::string sessionId;
     std::string description;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("sessionId", self.sessionId);
-        key("description", self.description);
-    };
+    RYX_KEYS(sessionId, description);
 };
 
-/// The remote side's session description.
+/// The remote side's session description as text.
 struct WebRTCRemoteSdpDataRequest final : JsonEntity<WebRTCRemoteSdpDataRequest, OperationCommandRequest> {
     std::string sessionId;
     std::string description;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("sessionId", self.sessionId);
-        key("description", self.description);
-    };
+    RYX_KEYS(sessionId, description);
 };
 
 /// One ICE candidate.
@@ -68,26 +50,16 @@ struct WebRTCCandidateInfo final : JsonEntity<WebRTCCandidateInfo> {
     std::string sdpMid;
     std::int32_t sdpMlineIndex = 0;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("candidate", self.candidate);
-        key("sdpMid", self.sdpMid);
-        key("sdpMlineIndex", self.sdpMlineIndex);
-    };
+    RYX_KEYS(candidate, sdpMid, sdpMlineIndex);
 };
 
-/// The client's ICE candidates and how far gathering them is.
+/// The client's ICE candidates and the code of the gathering state.
 struct WebRTCClientCandidateParam final : JsonEntity<WebRTCClientCandidateParam> {
     std::vector<std::string> candidates;
     std::int32_t iceGatheringState = 0;
     std::string sessionId;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("candidates", self.candidates);
-        // The session is written before the state.
-        key.Write("sessionId", self.sessionId);
-        key("iceGatheringState", self.iceGatheringState);
-        key.Read("sessionId", self.sessionId);
-    };
+    RYX_KEYS(candidates, iceGatheringState, sessionId);
 };
 
 /// The remote side's ICE candidates.
@@ -95,10 +67,7 @@ struct WebRTCRemoteCandidateDataRequest final : JsonEntity<WebRTCRemoteCandidate
     std::vector<std::string> candidate;
     std::string sessionId;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("candidate", self.candidate);
-        key("sessionId", self.sessionId);
-    };
+    RYX_KEYS(candidate, sessionId);
 };
 
 /// An error of one session.
@@ -106,10 +75,7 @@ struct WebRTCErrorInfo final : JsonEntity<WebRTCErrorInfo> {
     std::string sessionId;
     std::string errorInfo;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("sessionId", self.sessionId);
-        key("errorInfo", self.errorInfo);
-    };
+    RYX_KEYS(sessionId, errorInfo);
 };
 
 /// Opens a remote-view session within limits of bit rate, frame rate and picture size.
@@ -124,35 +90,23 @@ struct CreateWebRTCDataRequest final : JsonEntity<CreateWebRTCDataRequest, Opera
     std::int32_t minHeight = 0;
     std::int32_t minWidth = 0;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("sessionId", self.sessionId);
-        key("maxBitrate", self.maxBitrate);
-        key("maxFramerate", self.maxFramerate);
-        key("maxHeight", self.maxHeight);
-        key("maxWidth", self.maxWidth);
-        key("minBitrate", self.minBitrate);
-        key("minFramerate", self.minFramerate);
-        key("minHeight", self.minHeight);
-        key("minWidth", self.minWidth);
-    };
+    RYX_KEYS(sessionId, maxBitrate, maxFramerate, maxHeight, maxWidth, minBitrate, minFramerate, minHeight,
+             minWidth);
 };
 
-/// A session to open and the ICE servers for it, both as JSON text.
+/// A session to open and the ICE servers for it, both as text.
 struct CreateWebRTCParams final : JsonEntity<CreateWebRTCParams> {
     std::string createWebRTC;
     std::string iceServers;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("createWebRTC", self.createWebRTC);
-        key("iceServers", self.iceServers);
-    };
+    RYX_KEYS(createWebRTC, iceServers);
 };
 
 /// Closes a session.
 struct DeleteWebRTCDataRequest final : JsonEntity<DeleteWebRTCDataRequest> {
     std::string sessionId;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) { key("sessionId", self.sessionId); };
+    RYX_KEYS(sessionId);
 };
 
 /// One ICE server.
@@ -166,15 +120,15 @@ struct IceServerInfo final : JsonEntity<IceServerInfo> {
     std::int32_t port = 0;
 
     static constexpr auto Keys = [](auto& self, const auto& key) {
-        key("id", self.id);
-        key("serverType", self.serverType);
-        key("isPublic", self.isPublic);
-        key("ip", self.ip);
-        // The port is decimal text both ways, and written before the credentials.
-        key.Write("port", std::to_string(self.port));
-        key("userName", self.userName);
-        key("password", self.password);
+        RYX_KEY(id);
+        RYX_KEY(serverType);
+        RYX_KEY(isPublic);
+        RYX_KEY(ip);
+        RYX_KEY(userName);
+        RYX_KEY(password);
+        // Decimal text on the wire.
         key.Read("port", self.port, entity::ReadIntText);
+        key.Write("port", std::to_string(self.port));
     };
 };
 
@@ -182,7 +136,7 @@ struct IceServerInfo final : JsonEntity<IceServerInfo> {
 struct GetIceServersResult final : JsonEntity<GetIceServersResult> {
     std::vector<IceServerInfo> services;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) { key("services", self.services); };
+    RYX_KEYS(services);
 };
 
 /// Signals screen sharing.
@@ -192,13 +146,5 @@ struct ScreenShareDataRequest final : JsonEntity<ScreenShareDataRequest> {
     std::int32_t type = 0;
     std::int32_t error = 0;
 
-    static constexpr auto Keys = [](auto& self, const auto& key) {
-        // Written with the type first and the error before the message.
-        key.Write("type", self.type);
-        key("sessionId", self.sessionId);
-        key.Write("error", self.error);
-        key("message", self.message);
-        key.Read("type", self.type);
-        key.Read("error", self.error);
-    };
+    RYX_KEYS(sessionId, message, type, error);
 };
