@@ -2,14 +2,28 @@
 
 #include "entity/IotEntities.h"
 #include "entity/SettingsEntities.h"
+#include "entity/UpdateEntities.h"
 #include "platform/context/ProductConstants.h"
 #include "platform/security/PasswordHelper.h"
+
+namespace {
+
+std::string UpdateBody(const std::string& version) {
+    OtaUpdateVersionInfo update;
+    update.name = Product::Name;
+    update.hasUpdate = !version.empty();
+    update.versionCode = version;
+    return update.WriteToString();
+}
+
+} // namespace
 
 AgentService::AgentService(AgentServer& server)
     : m_server(server),
       m_unlockHash(PasswordHelper::HashVelmoraPassword("123456")),
       m_unbindHash(PasswordHelper::HashVelmoraPassword("654321")) {
-    m_update.name = Product::Name;
+    SetAnswer(PipeKey::ContextRequest, PipeKey::ContextReply, "velmora-ryx-agent");
+    SetAnswer(PipeKey::OtaVersionInfo, PipeKey::OtaVersionInfo, UpdateBody({}));
     connect(&m_server, &AgentServer::ClientConnected, this, &AgentService::Greet);
     connect(&m_server, &AgentServer::MessageReceived, this,
             [this](PipeKey key, const std::string&, int client) { Answer(key, client); });
@@ -22,10 +36,8 @@ void AgentService::Greet(int client) {
 }
 
 void AgentService::Answer(PipeKey key, int client) {
-    if (key == PipeKey::ContextRequest)
-        m_server.SendTo(client, PipeKey::ContextReply, m_context);
-    else if (key == PipeKey::OtaVersionInfo)
-        m_server.SendTo(client, PipeKey::OtaVersionInfo, m_update.WriteToString());
+    if (const auto answer = m_answers.find(key); answer != m_answers.end())
+        m_server.SendTo(client, answer->second.first, answer->second.second);
 }
 
 void AgentService::SetStatus(int status) {
@@ -44,9 +56,9 @@ void AgentService::SetUnbindPassword(const std::string& digits) {
 }
 
 void AgentService::SetUpdate(const std::string& version) {
-    m_update.hasUpdate = !version.empty();
-    m_update.versionCode = version;
-    m_server.Send(PipeKey::OtaVersionInfo, m_update.WriteToString());
+    const std::string body = UpdateBody(version);
+    SetAnswer(PipeKey::OtaVersionInfo, PipeKey::OtaVersionInfo, body);
+    m_server.Send(PipeKey::OtaVersionInfo, body);
 }
 
 void AgentService::Lock(const std::string& endTime) {

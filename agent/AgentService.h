@@ -1,14 +1,15 @@
 #pragma once
 
 #include "AgentServer.h"
-#include "entity/UpdateEntities.h"
 #include "platform/application/IotStatus.h"
 
 #include <QObject>
+#include <map>
 #include <string>
+#include <utility>
 
 /// What the agent service knows and answers. It greets every front end with the password hashes and the
-/// link's status, and answers the questions for the context and for an update.
+/// link's status, and from the start answers the questions for the context and for an update.
 class AgentService : public QObject {
     Q_OBJECT
 
@@ -22,8 +23,10 @@ public:
     /// The version that is offered as an update; an empty text means that there is none.
     void SetUpdate(const std::string& version);
 
-    /// Answers the next question for the context.
-    void SetContext(const std::string& context) { m_context = context; }
+    /// From now on every message with the key `question` is answered, to its sender, with this one.
+    void SetAnswer(PipeKey question, PipeKey key, const std::string& body) {
+        m_answers[question] = {key, body};
+    }
 
     /// Locks the screens, until a time of day as "HH:mm" or, when it is empty, until they are unlocked.
     void Lock(const std::string& endTime);
@@ -35,8 +38,7 @@ private:
 
     AgentServer& m_server;
     int m_status = static_cast<int>(IotStatus::Connected);
-    std::string m_context = "velmora-ryx-agent";
     std::string m_unlockHash;
     std::string m_unbindHash;
-    OtaUpdateVersionInfo m_update;
+    std::map<PipeKey, std::pair<PipeKey, std::string>> m_answers;
 };

@@ -2,6 +2,8 @@
 
 #include "KeyText.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
@@ -98,6 +100,21 @@ std::string Bytes(const std::string& text) {
     return bytes;
 }
 
+/// The body that `text` stands for: a file's bytes behind `@`, otherwise itself; `@@` begins it with an `@`.
+std::string Body(const std::string& text, const QDir& folder) {
+    const bool marked = text.rfind('@', 0) == 0;
+    std::string body = marked ? text.substr(1) : text;
+    if (marked && body.rfind('@', 0) != 0) {
+        QFile file(folder.filePath(QString::fromStdString(body)));
+        if (!file.open(QIODevice::ReadOnly))
+            Refuse("cannot read \"" + body + "\": " + file.errorString().toStdString());
+        body = file.read(RyxPackage::MaxBodySize + 1).toStdString();
+    }
+    if (body.size() > RyxPackage::MaxBodySize)
+        Refuse("wants a body of at most " + std::to_string(RyxPackage::MaxBodySize) + " bytes");
+    return body;
+}
+
 Step Act(std::function<void()> act) {
     Step step;
     step.act = std::move(act);
@@ -163,12 +180,25 @@ void CommandInterpreter::AddSendingCommands() {
           }},
          {"context", "TEXT", "answer the next questions for the context with this text",
           [this](const std::string& arguments) {
-              return Act([this, arguments] { m_service.SetContext(arguments); });
+              return Act([this, arguments] {
+                  m_service.SetAnswer(PipeKey::ContextRequest, PipeKey::ContextReply, arguments);
+              });
           }},
-         {"send", "KEY [BODY]", "send any message; the key by number or name",
+         {"send", "KEY [BODY|@FILE]", "send any message; the key by number or name",
           [this](const std::string& arguments) {
-              const auto [key, body] = SplitFirst(arguments);
-              return Act([this, number = KeyOf(key), text = body] { m_server.Send(number, text); });
+              return Act([this, message = ParseMessage(arguments)] {
+                  m_server.Send(message.first, message.second);
+              });
+          }},
+         {"on", "KEY send KEY [BODY|@FILE]", "answer every message that comes with the first key",
+          [this](const std::string& arguments) {
+              const auto [question, rest] = SplitFirst(arguments);
+              const auto [send, answer] = SplitFirst(rest);
+              if (send != "send")
+                  Refuse("wants KEY send KEY");
+              return Act([this, key = KeyOf(question), message = ParseMessage(answer)] {
+                  m_service.SetAnswer(key, message.first, message.second);
+              });
           }},
          {"raw", "HEX", "send bytes as they stand, such as half a frame",
           [this](const std::string& arguments) {
@@ -258,7 +288,8 @@ void CommandInterpreter::Add(const std::string& line) {
     m_player.Play();
 }
 
-bool CommandInterpreter::AddScenario(std::istream& lines, const std::string& name) {
+bool CommandInterpreter::AddScenario(std::istream& lines, const QString& path) {
+    const QDir console = std::exchange(m_folder, QFileInfo(path).dir());
     std::vector<Step> steps;
     bool understood = true;
     std::string line;
@@ -266,7 +297,7 @@ bool CommandInterpreter::AddScenario(std::istream& lines, const std::string& nam
         const std::string text = Trimmed(line);
         if (text.empty() || text.front() == '#')
             continue;
-        const std::string place = name + ':' + std::to_string(number) + ": ";
+        const std::string place = path.toStdString() + ':' + std::to_string(number) + ": ";
         try {
             steps.push_back(Parse(text));
             steps.back().text.insert(0, place);
@@ -276,6 +307,7 @@ bool CommandInterpreter::AddScenario(std::istream& lines, const std::string& nam
             understood = false;
         }
     }
+    m_folder = console;
     for (Step& step : steps)
         if (understood)
             m_player.Add(std::move(step));
@@ -302,6 +334,11 @@ Step CommandInterpreter::ParseWait(const std::string& arguments) {
     const auto [secondsText, part] = SplitFirst(rest);
     return Expect(Seconds(secondsText, DefaultWaitSeconds),
                   [this, key = KeyOf(keyText), text = part] { return TakeMessage(key, text); });
+}
+
+CommandInterpreter::Message CommandInterpreter::ParseMessage(const std::string& arguments) const {
+    const auto [key, body] = SplitFirst(arguments);
+    return {KeyOf(key), Body(body, m_folder)};
 }
 
 void CommandInterpreter::Keep(PipeKey key, const std::string& body) {

@@ -3,6 +3,7 @@
 #include "AgentService.h"
 #include "StepPlayer.h"
 
+#include <QDir>
 #include <QObject>
 #include <functional>
 #include <istream>
@@ -24,9 +25,9 @@ public:
     void Add(const std::string& line);
 
     /// Takes a scenario, one command on a line; it ends at the first expectation that is not met. When a
-    /// line is not understood, each such line is told with `name` and its number, nothing is carried out,
-    /// and the result is false.
-    bool AddScenario(std::istream& lines, const std::string& name);
+    /// line is not understood, each such line is told with `path` and its number, nothing is carried out,
+    /// and the result is false. The files that it names are looked for beside `path`.
+    bool AddScenario(std::istream& lines, const QString& path);
 
     /// Begins with what was added; goes on by itself.
     void Play() { m_player.Play(); }
@@ -55,6 +56,7 @@ private:
     void AddOtherCommands();
     Step Parse(const std::string& line) const;
     Step ParseWait(const std::string& arguments);
+    Message ParseMessage(const std::string& arguments) const;
     void Keep(PipeKey key, const std::string& body);
     bool TakeMessage(PipeKey key, const std::string& part);
     void TellClients() const;
@@ -65,5 +67,6 @@ private:
     EventLog& m_log;
     StepPlayer m_player;
     std::vector<Command> m_commands;
-    std::list<Message> m_messages; // arrived, and used by no expectation yet
+    QDir m_folder{QStringLiteral(".")}; // in which the line that is read looks for files
+    std::list<Message> m_messages;      // arrived, and used by no expectation yet
 };

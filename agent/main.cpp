@@ -5,6 +5,7 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QFile>
 #include <fstream>
 #include <iostream>
 
@@ -41,10 +42,10 @@ int Run(QCoreApplication& application) {
 
     const bool hasScenario = options.isSet(scenario);
     if (hasScenario) {
-        const std::string path = options.value(scenario).toLocal8Bit().toStdString();
-        std::ifstream file(path);
+        const QString path = options.value(scenario);
+        std::ifstream file(QFile::encodeName(path).toStdString());
         if (!file) {
-            log.Line("error: cannot read " + path);
+            log.Line("error: cannot read " + path.toStdString());
             return BadUsage;
         }
         if (!interpreter.AddScenario(file, path))

@@ -1,81 +1,57 @@
 // The stand-in agent service as its users meet it: commands in, lines out, frames on a real pipe.
 #include "CommandInterpreter.h"
-#include "entity/IotEntities.h"
-#include "entity/SettingsEntities.h"
-#include "entity/UpdateEntities.h"
 #include "platform/link/RyxPackage.h"
 #include "platform/security/PasswordHelper.h"
-#include "platform/system/SystemPipe.h"
 
+#include <QDirIterator>
 #include <QLocalServer>
 #include <QLocalSocket>
-#include <QSignalSpy>
-#include <QtTest>
 #include <fstream>
-#include <gtest/gtest.h>
 #include <sstream>
 
 namespace {
 
 /// A front end of which nothing but its end of the pipe exists.
-class Client {
-public:
-    explicit Client(const QString& pipe, qint64 readBufferSize = 0) {
-        m_socket.setReadBufferSize(readBufferSize);
-        m_socket.connectToServer(pipe);
+struct Client : QLocalSocket {
+    explicit Client(const QString& pipe, qint64 readLimit = 0) {
+        setReadBufferSize(readLimit);
+        connectToServer(pipe);
     }
-
-    bool IsConnected() { return m_socket.state() == QLocalSocket::ConnectedState; }
-    void Write(const std::string& bytes) { m_socket.write(bytes.data(), static_cast<qint64>(bytes.size())); }
-    void Send(PipeKey key, const std::string& body = {}) { Write(RyxPackage::PackageData(key, body)); }
-
-    /// The next message of the service; key -1 when none comes.
-    FrameDecoder::Frame Receive() {
-        FrameDecoder::Frame frame;
-        const bool came = QTest::qWaitFor([&] {
-            const QByteArray bytes = m_socket.readAll();
-            m_decoder.Append(bytes.constData(), static_cast<std::size_t>(bytes.size()));
-            return m_decoder.Next(frame) == FrameDecoder::Result::Frame;
-        });
-        if (!came)
-            frame.key = static_cast<PipeKey>(-1);
-        return frame;
+    void Send(int key, const std::string& body = {}) {
+        write(QByteArray::fromStdString(RyxPackage::PackageData(static_cast<PipeKey>(key), body)));
     }
-    /// Takes the messages with which the service greets.
-    void SkipGreeting() {
-        for (int i = 0; i < 3; ++i)
-            Receive();
+    /// Whether the next message has this key, and this in its body.
+    bool Receives(int key, const std::string& part) {
+        FrameDecoder::Frame frame{};
+        return QTest::qWaitFor([&] {
+                   const std::string bytes = readAll().toStdString();
+                   decoder.Append(bytes.data(), bytes.size());
+                   return decoder.Next(frame) == FrameDecoder::Result::Frame;
+               }) &&
+               frame.key == static_cast<PipeKey>(key) && frame.body.find(part) != std::string::npos;
     }
-
-private:
-    QLocalSocket m_socket;
-    FrameDecoder m_decoder;
+    FrameDecoder decoder;
 };
 
-class AgentTest : public testing::Test {
-protected:
-    void SetUp() override {
-        static int count = 0;
-        pipe = QStringLiteral("ryx-agent-test-%1-%2").arg(QCoreApplication::applicationPid()).arg(++count);
-        ASSERT_EQ(server.Listen(pipe), QString());
-        lines.str({});
-    }
+struct Agent : testing::Test {
+    void SetUp() override { ASSERT_EQ(server.Listen(pipe), QString()); }
 
-    bool WaitForLine(const std::string& line) {
-        return QTest::qWaitFor(
-            [&] { return ('\n' + lines.str()).find('\n' + line + '\n') != std::string::npos; });
+    std::string Path(const char* name) const { return folder.filePath(QLatin1String(name)).toStdString(); }
+    bool Told(const std::string& line) const { return lines.str().find(line) != std::string::npos; }
+    bool Tells(const std::string& line) {
+        return QTest::qWaitFor([&] { return Told(line); });
     }
-
-    bool PlayScenario(const std::string& text) {
-        std::istringstream file(text);
-        if (!interpreter.AddScenario(file, "test"))
-            return false;
+    bool Play(const std::string& scenario) {
+        std::istringstream file(scenario);
         QSignalSpy idle(&interpreter, &CommandInterpreter::Idle);
+        if (!interpreter.AddScenario(file, folder.filePath(QStringLiteral("test"))))
+            return false;
         interpreter.Play();
         return !idle.isEmpty() || idle.wait();
     }
 
-    QString pipe;
+    const QTemporaryDir folder;
+    const QString pipe = QStringLiteral("ryx-agent-test-") + QFileInfo(folder.path()).fileName();
     std::ostringstream lines;
     EventLog log{lines};
     AgentServer server{log};
@@ -83,239 +59,139 @@ protected:
     CommandInterpreter interpreter{server, service, log};
 };
 
-TEST_F(AgentTest, GreetsWithPasswordsAndStatusAndAnswersTheFirstQuestions) {
-    interpreter.Add("context school-7");
-    interpreter.Add("status connecting");
-    interpreter.Add("password 000111");
-    Client client(pipe);
-
-    FrameDecoder::Frame frame = client.Receive();
-    EXPECT_EQ(frame.key, PipeKey::UnlockPasswordUpdate);
-    EXPECT_EQ(frame.body, PasswordHelper::HashVelmoraPassword("000111"));
-    frame = client.Receive();
-    EXPECT_EQ(frame.key, PipeKey::UnbindPasswordUpdate);
-    EXPECT_EQ(frame.body, PasswordHelper::HashVelmoraPassword("654321"));
-    frame = client.Receive();
-    EXPECT_EQ(frame.key, PipeKey::IotStatusNotify);
-    IotStatusEntity status;
-    status.ReadFromString(frame.body);
-    EXPECT_EQ(status.status, 5);
-
-    client.Send(PipeKey::ContextRequest);
-    frame = client.Receive();
-    EXPECT_EQ(frame.key, PipeKey::ContextReply);
-    EXPECT_EQ(frame.body, "school-7");
-
-    interpreter.Add("update 2.0");
-    client.Receive();
-    client.Send(PipeKey::OtaVersionInfo);
-    frame = client.Receive();
-    EXPECT_EQ(frame.key, PipeKey::OtaVersionInfo);
-    OtaUpdateVersionInfo update;
-    update.ReadFromString(frame.body);
-    EXPECT_TRUE(update.hasUpdate);
-    EXPECT_EQ(update.versionCode, "2.0");
-}
-
-TEST_F(AgentTest, EveryClientGetsWhatACommandSends) {
+TEST_F(Agent, SendsToEveryClientAndAnswersTheOneThatAsks) {
+    const auto hash = [](const char* digits) { return PasswordHelper::HashVelmoraPassword(digits); };
+    std::ofstream(Path("body")) << "{\n \"a\": 1 }\n";
+    ASSERT_TRUE(Play("status connecting\npassword 000111\n"));
     Client first(pipe), second(pipe);
-    ASSERT_TRUE(WaitForLine("client 2 connected"));
-    first.SkipGreeting();
-    second.SkipGreeting();
-
     const struct {
         const char* command;
-        PipeKey key;
-        std::string body;
+        int key;
+        std::string part;
+        std::optional<int> question = {}; // asked by the second client alone
     } cases[] = {
-        {"lock", PipeKey::ScreenLock, DeviceScreenLock().WriteToString()},
-        {"unlock", PipeKey::ScreenUnlock, ""},
-        {"reset", PipeKey::ScreenLockReset, ""},
-        {"unbind-password 222333", PipeKey::UnbindPasswordUpdate,
-         PasswordHelper::HashVelmoraPassword("222333")},
-        {"send 74 Room  4", PipeKey::DisconnectWifi, "Room  4"},
-        {"  send PopupPolicy {\"a\": [1]}  ", PipeKey::PopupPolicy, "{\"a\": [1]}"},
-        {"send -12345 x", static_cast<PipeKey>(-12345), "x"},
-        {"raw 01 00 00 00 4b000000 ff", PipeKey::SwitchChannel, "\xff"},
+        {"", 10, hash("000111")},
+        {"", 11, hash("654321")},
+        {"", 2, "\"status\" : 5"},
+        {"lock", 33, "\"endAt\" : \"\""},
+        {"lock 18:30", 33, "\"endAt\" : \"18:30\""},
+        {"unlock", 35, ""},
+        {"reset", 34, ""},
+        {"unbind-password 222333", 11, hash("222333")},
+        {"  send PopupPolicy {\"a\":  [1]}  ", 50, "{\"a\":  [1]}"},
+        {"send -12345 @@x", -12345, "@x"},
+        {"send 74 @body", 74, "{\n \"a\": 1 }\n"},
+        {"raw 01 00 00 00 4b000000 ff", 75, "\xff"},
+        {"", 12, "\"hasUpdate\" : false", 12},
+        {"update 2.0", 12, "\"2.0\""},
+        {"", 12, "\"2.0\"", 12},
+        {"context school-7", 1, "school-7", 0},
+        {"on 0 send PopupPolicy @body", 50, "{\n \"a\": 1 }\n", 0},
+        {"on Binding send 35", 35, "", 3},
+        {"on 3 send 4 b c", 4, "b c", 3},
+        {"send 36 last", 36, "last"}, // and the first has got nothing that it did not ask for
     };
-    for (const auto& [command, key, body] : cases) {
-        SCOPED_TRACE(command);
-        interpreter.Add(command);
-        for (Client* client : {&first, &second}) {
-            const FrameDecoder::Frame frame = client->Receive();
-            EXPECT_EQ(frame.key, key);
-            EXPECT_EQ(frame.body, body);
-        }
+    for (const auto& [command, key, part, question] : cases) {
+        EXPECT_TRUE(Play(command)) << lines.str();
+        if (question)
+            second.Send(*question, "anything");
+        EXPECT_TRUE(second.Receives(key, part)) << command << part;
+        EXPECT_TRUE(question || first.Receives(key, part)) << command << part;
     }
-
-    interpreter.Add("lock 18:30");
-    DeviceScreenLock lock;
-    lock.ReadFromString(first.Receive().body);
-    EXPECT_EQ(lock.endAt, "18:30");
 }
 
-TEST_F(AgentTest, LinesThatAreNotUnderstoodAreToldAndDoNothing) {
-    Client client(pipe);
-    ASSERT_TRUE(WaitForLine("client 1 connected"));
-    client.SkipGreeting();
-
-    for (const char* line :
-         {"frobnicate", "lock 24:00",     "lock 9:30",        "lock 12:30 x",    "unlock now",
-          "status up",  "status",         "password 12345",   "password 12345a", "unbind-password",
-          "send",       "send Nothing x", "send 99999999999", "raw 0",           "raw zz",
-          "raw",        "wait",           "wait 35 soon",     "wait 35 -1",      "wait 35 nan",
-          "pause x",    "absent",         "bodies",           "quit now"}) {
-        SCOPED_TRACE(line);
-        lines.str({});
+TEST_F(Agent, TellsLinesThatItDoesNotUnderstandAndDoesNothing) {
+    QFile(folder.filePath(QStringLiteral("large"))).resize(RyxPackage::MaxBodySize + 1);
+    std::istringstream bad("frobnicate|lock 24:00|lock 9:30|lock 12:30 x|unlock now|status|status up|bodies|"
+                           "password 12345|password 12345a|unbind-password|raw|raw 0|raw zz|pause x|absent|"
+                           "send|send Nothing x|send 99999999999|send 74 @|send 74 @none|send 74 @large|"
+                           "on|on 3|on 3 lock|on 3 send|on x send 4|on 3 send 4 @none|quit now|"
+                           "wait|wait 35 soon|wait 35 -1|wait 35 nan");
+    for (std::string line; std::getline(bad, line, '|'); lines.str({})) {
         interpreter.Add(line);
-        EXPECT_EQ(lines.str().rfind("error: ", 0), 0u) << lines.str();
+        EXPECT_TRUE(Told("error: ")) << line;
+        EXPECT_FALSE(Play("say first\n\n" + line));
+        EXPECT_TRUE(Told("error: " + Path("test:3: "))) << line;
+        EXPECT_FALSE(Told("say first"));
     }
     EXPECT_TRUE(interpreter.AllMet());
 
-    interpreter.Add("# a remark");
-    interpreter.Add("");
-    interpreter.Add("say done");
-    EXPECT_TRUE(WaitForLine("say done"));
-    interpreter.Add("unlock");
-    EXPECT_EQ(client.Receive().key, PipeKey::ScreenUnlock);
-}
-
-TEST_F(AgentTest, ScenarioWaitsForMessagesEachOfWhichCountsOnce) {
-    Client client(pipe);
-    ASSERT_TRUE(WaitForLine("client 1 connected"));
-    client.Send(PipeKey::OtaVersionInfo);
-    client.Send(PipeKey::Binding, "{\"code\": \"A7\"}");
-    ASSERT_TRUE(WaitForLine("client 1 received 3 Binding 14 bytes"));
-
-    // Both came before the waits, in the other order.
-    EXPECT_TRUE(PlayScenario("wait-client 0\nwait Binding 0 \"A7\"\nwait 12 0\nabsent 35\n"));
-    EXPECT_TRUE(interpreter.AllMet());
-
-    // One that comes while the scenario waits.
-    std::istringstream file("wait ScreenUnlock 30\nsay over\n");
-    ASSERT_TRUE(interpreter.AddScenario(file, "test"));
-    interpreter.Play();
-    EXPECT_EQ(lines.str().find("say over"), std::string::npos);
-    client.Send(PipeKey::ScreenUnlock);
-    EXPECT_TRUE(WaitForLine("say over"));
-    EXPECT_TRUE(interpreter.AllMet());
-}
-
-TEST_F(AgentTest, AnUnmetExpectationFailsTheScenarioAndDropsItsRest) {
-    const char* const unmet[] = {"wait 12 0",           "wait ScreenUnlock 0", "wait Binding 0 B8",
-                                 "absent ScreenUnlock", "wait-gone 0",         "wait 35 0.01"};
-    for (const char* expectation : unmet) {
-        SCOPED_TRACE(expectation);
-        CommandInterpreter fresh(server, service, log);
-        Client client(pipe);
-        client.SkipGreeting();
-        client.Send(PipeKey::Binding, "A7");
-        if (std::string(expectation).find("absent") == 0)
-            client.Send(PipeKey::ScreenUnlock);
-        client.Send(PipeKey::ContextRequest);
-        EXPECT_EQ(client.Receive().key, PipeKey::ContextReply);
-
-        lines.str({});
-        std::istringstream file(std::string("pause 0\n") + expectation + "\nsay behind\n");
-        ASSERT_TRUE(fresh.AddScenario(file, "test"));
-        QSignalSpy idle(&fresh, &CommandInterpreter::Idle);
-        fresh.Play();
-        EXPECT_TRUE(!idle.isEmpty() || idle.wait());
-        EXPECT_FALSE(fresh.AllMet());
-        EXPECT_NE(lines.str().find(std::string("failed: test:2: ") + expectation), std::string::npos);
-        EXPECT_EQ(lines.str().find("say behind"), std::string::npos);
-    }
-}
-
-TEST_F(AgentTest, AScenarioWithABadLineIsNotBegun) {
-    EXPECT_FALSE(PlayScenario("say first\n\nlok\nsend\n"));
-    interpreter.Play();
-    EXPECT_NE(lines.str().find("error: test:3: \"lok\" is no command"), std::string::npos);
-    EXPECT_NE(lines.str().find("error: test:4: send wants a key"), std::string::npos);
-    EXPECT_EQ(lines.str().find("say first"), std::string::npos);
-    EXPECT_TRUE(PlayScenario("# nothing to do\n"));
-}
-
-TEST_F(AgentTest, TheScenariosThatComeWithItAreUnderstood) {
-    const QDir folder(QStringLiteral(RYX_SCENARIOS));
-    const QStringList names = folder.entryList({QStringLiteral("*.scenario")});
-    EXPECT_FALSE(names.isEmpty());
-    for (const QString& name : names) {
-        std::ifstream file(folder.filePath(name).toStdString());
-        ASSERT_TRUE(file);
-        EXPECT_TRUE(interpreter.AddScenario(file, name.toStdString())) << lines.str();
-    }
-}
-
-TEST_F(AgentTest, AConsoleGoesOnAfterAFailureButNotAfterQuit) {
+    // A console goes on, also after a failure, but not after its end.
     QSignalSpy quit(&interpreter, &CommandInterpreter::Quit);
     for (const char* line : {"wait 35 0", "say on", "quit", "say behind"})
         interpreter.Add(line);
-    EXPECT_NE(lines.str().find("say on\n"), std::string::npos);
-    EXPECT_EQ(lines.str().find("say behind"), std::string::npos);
+    EXPECT_EQ(lines.str(), "failed: wait 35 0\nsay on\n");
     EXPECT_EQ(quit.size(), 1);
     EXPECT_FALSE(interpreter.AllMet());
 }
 
-TEST_F(AgentTest, ABadFrameEndsThatConnectionOnly) {
-    Client good(pipe), bad(pipe);
-    ASSERT_TRUE(WaitForLine("client 2 connected"));
-    bad.Send(PipeKey::ContextRequest);
-    bad.Write(std::string("\xff\xff\xff\xff\x01\0\0\0", 8));
-    EXPECT_TRUE(WaitForLine("client 2 received 0 ContextRequest 0 bytes"));
-    EXPECT_TRUE(WaitForLine("client 2 sent a frame of 4294967295 bytes, more than is allowed"));
-    EXPECT_TRUE(WaitForLine("client 2 disconnected"));
+TEST_F(Agent, WaitsForMessagesEachOfWhichCountsOnce) {
+    Client client(pipe);
+    for (const int key : {12, 3, 51, 35})
+        client.Send(key, key == 3 ? "{\"code\": \"A7\"}" : "");
+    ASSERT_TRUE(Tells("client 1 received 35 ScreenUnlock 0 bytes"));
+    EXPECT_TRUE(Play("wait-client 0\nwait 3 0 \"A7\"\nwait 12 0\nabsent 12\nwait 35 0\nsay now\n"));
+    interpreter.Add("wait 35 30");
+    interpreter.Add("say over");
+    EXPECT_TRUE(Told("say now\n") && !Told("say over"));
+    client.Send(35);
+    EXPECT_TRUE(Tells("say over") && interpreter.AllMet());
 
-    // In pieces, and ended inside a frame.
-    for (const char byte : RyxPackage::PackageData(PipeKey::ScreenUnlock, "ab"))
-        good.Write(std::string(1, byte));
-    EXPECT_TRUE(WaitForLine("client 1 received 35 ScreenUnlock 2 bytes"));
+    client.Send(3, "A7");
+    ASSERT_TRUE(Tells("client 1 received 3 Binding 2 bytes"));
+    for (const char* unmet : {"wait 12 0", "wait Binding 0 B8", "absent 51", "wait-gone 0", "wait 35 0.01"}) {
+        EXPECT_TRUE(Play(std::string("pause 0\n") + unmet + "\nsay behind\n"));
+        EXPECT_TRUE(Told("failed: " + Path("test:2: ") + unmet)) << unmet;
+    }
+    EXPECT_FALSE(Told("say behind"));
+    EXPECT_FALSE(interpreter.AllMet());
+}
+
+TEST_F(Agent, UnderstandsTheScenariosThatComeWithIt) {
+    QDirIterator scenarios(QStringLiteral(RYX_SCENARIOS), {QStringLiteral("*.scenario")});
+    EXPECT_TRUE(scenarios.hasNext());
+    while (scenarios.hasNext()) {
+        std::ifstream file(scenarios.next().toStdString());
+        EXPECT_TRUE(file && interpreter.AddScenario(file, scenarios.filePath())) << lines.str();
+    }
+}
+
+TEST_F(Agent, EndsTheConnectionsThatMisbehaveAndNoOther) {
+    Client good(pipe), bad(pipe), deaf(pipe, 1);
+    ASSERT_TRUE(Tells("client 3 connected"));
+    bad.Send(0);
+    bad.write(QByteArray::fromHex("ffffffff01000000"));
+    for (int i = 0; i < 6; ++i)
+        server.SendTo(3, PipeKey::MessageFile, std::string(RyxPackage::MaxBodySize, 'x'));
+    server.Send(PipeKey::MessageFile, std::string(RyxPackage::MaxBodySize + 1, 'x'));
+    interpreter.Add("bodies on");
+    for (const char byte : RyxPackage::PackageData(PipeKey::PopupDetected, "{\n\t\"a\" : \"b\x1b\"\n}\n"))
+        good.write(&byte, 1);
+    for (const char* line : {"client 2 received 0 ContextRequest 0 bytes", "client 2 disconnected",
+                             "client 2 sent a frame of 4294967295 bytes, more than is allowed",
+                             "client 3 does not read what is sent", "client 3 disconnected",
+                             "not sent 44 MessageFile 16777217 bytes, more than is allowed",
+                             "client 1 received 51 PopupDetected 16 bytes: { \"a\" : \"b.\" } "})
+        EXPECT_TRUE(Tells(line)) << line;
+    interpreter.Add("bodies off");
+    good.Send(51, "{}");
+    EXPECT_TRUE(Tells("client 1 received 51 PopupDetected 2 bytes\n"));
     EXPECT_EQ(server.Clients(), std::vector<int>{1});
 }
 
-TEST_F(AgentTest, AClientThatDoesNotReadIsDropped) {
-    Client deaf(pipe, 1), good(pipe);
-    ASSERT_TRUE(WaitForLine("client 2 connected"));
-    good.SkipGreeting();
-    const std::string body(RyxPackage::MaxBodySize, 'x');
-    for (int i = 0; i < 6; ++i)
-        server.SendTo(1, PipeKey::MessageFile, body);
-    EXPECT_TRUE(WaitForLine("client 1 does not read what is sent"));
-    EXPECT_TRUE(WaitForLine("client 1 disconnected"));
-    server.Send(PipeKey::MessageFile, std::string(RyxPackage::MaxBodySize + 1, 'x'));
-    EXPECT_TRUE(WaitForLine("not sent 44 MessageFile 16777217 bytes, more than is allowed"));
-    interpreter.Add("unlock");
-    EXPECT_EQ(good.Receive().key, PipeKey::ScreenUnlock);
-}
-
-TEST_F(AgentTest, BodiesAreShownOnOneLineWhenAskedFor) {
-    Client client(pipe);
-    ASSERT_TRUE(WaitForLine("client 1 connected"));
-    interpreter.Add("bodies on");
-    client.Send(PipeKey::PopupDetected, "{\n\t\"a\" : \"b\x1b\"\n}\n");
-    EXPECT_TRUE(WaitForLine("client 1 received 51 PopupDetected 16 bytes: { \"a\" : \"b.\" } "));
-    interpreter.Add("bodies off");
-    client.Send(PipeKey::PopupDetected, "{}");
-    EXPECT_TRUE(WaitForLine("client 1 received 51 PopupDetected 2 bytes"));
-}
-
-TEST_F(AgentTest, ReplacesADeadServiceButNotALivingOne) {
+TEST_F(Agent, ReplacesADeadServiceButNotALivingOne) {
     AgentServer second(log);
     EXPECT_EQ(second.Listen(pipe), QStringLiteral("another process serves it"));
-    Client client(pipe);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return client.IsConnected(); }));
-
     // A killed service leaves its socket file, as one that is renamed away from its server does.
     const QString stale = pipe + QStringLiteral("-stale");
-    QDir folder = QDir::temp();
     QLocalServer dead;
     ASSERT_TRUE(dead.listen(pipe + QStringLiteral("-dead")));
-    if (!folder.rename(pipe + QStringLiteral("-dead"), stale))
+    if (!QDir::temp().rename(pipe + QStringLiteral("-dead"), stale))
         GTEST_SKIP() << "pipes are no files here";
     dead.close();
     EXPECT_EQ(second.Listen(stale), QString());
-    Client other(stale);
-    EXPECT_TRUE(WaitForLine("client 1 connected"));
+    const Client client(stale);
+    EXPECT_TRUE(Tells("client 1 connected"));
 }
 
 } // namespace
