@@ -1,6 +1,7 @@
 // How quickly the front end is there, how quickly it locks and how much memory it takes, beside a Qt program
 // that does nothing but show an empty window, on the same virtual screen.
-#include "RunningProduct.h"
+#include "LockScreen.h"
+#include "MainPage.h"
 #include "support/PairedRun.h"
 
 #include <QCoreApplication>
@@ -16,7 +17,6 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr char BareTitle[] = "Bare window";
-const QColor LockBackground("#1B2A3A");
 
 double MillisecondsSince(Clock::time_point start) {
     return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
@@ -60,8 +60,8 @@ public:
         // The bare window gets the size that the product's has.
         RunningProduct product(m_screen);
         product.StartFrontEnd();
-        Await("the main window", [&] { return IsPainted(m_screen, RunningProduct::MainTitle); });
-        const QSize size = m_screen.Find(RunningProduct::MainTitle)->place.size();
+        Await("the main window", [&] { return IsPainted(m_screen, MainPage::Title); });
+        const QSize size = m_screen.Find(MainPage::Title)->place.size();
         m_bareCommand = {RYX_BIN_DIR "/bare_window", std::to_string(size.width()),
                          std::to_string(size.height())};
     }
@@ -84,7 +84,7 @@ private:
         RunningProduct product(m_screen);
         const auto start = Clock::now();
         product.StartFrontEnd();
-        Await("the main window", [&] { return IsPainted(m_screen, RunningProduct::MainTitle); });
+        Await("the main window", [&] { return IsPainted(m_screen, MainPage::Title); });
         return MillisecondsSince(start);
     }
 
@@ -102,7 +102,7 @@ private:
 
     double ProductMemory(const char* figure) {
         RunningProduct product(m_screen);
-        if (!product.StartBoth())
+        if (!product.StartBoth() || !MainPage(product).WaitForStatus(MainPage::Connected))
             throw std::runtime_error("the product did not start");
         return Memory(product.FrontEnd().Id(), figure);
     }
@@ -118,10 +118,10 @@ private:
         ChildProcess bare;
         StartBareWindow(bare);
         RunningProduct product(m_screen);
-        if (!product.StartBoth())
+        if (!product.StartBoth() || !MainPage(product).WaitForStatus(MainPage::Connected))
             throw std::runtime_error("the product did not start");
         const auto lock = [this](const auto& tell) {
-            const auto isCovered = [this] { return PixelAt(m_screen, {0, 0}) == LockBackground; };
+            const auto isCovered = [this] { return PixelAt(m_screen, {0, 0}) == LockScreen::Background; };
             const auto start = Clock::now();
             tell("lock");
             Await("the lock", isCovered);

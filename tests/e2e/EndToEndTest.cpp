@@ -1,33 +1,30 @@
 // The two real programs over the real pipe, under an X server with real key and mouse events: what a
 // person at the device and the agent service see of each other.
-#include "RunningProduct.h"
+#include "ForeignWindow.h"
+#include "LockScreen.h"
+#include "MainPage.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <csignal>
 #include <gtest/gtest.h>
+#include <list>
 #include <memory>
 #include <unistd.h>
 
 namespace {
 
-bool RunsUnderLauncher() {
-    return qEnvironmentVariableIsSet("RYX_E2E_LAUNCHER");
-}
-
 class EndToEndTest : public testing::Test {
 protected:
     static void SetUpTestSuite() {
-        const QByteArray given = qgetenv("RYX_E2E_DISPLAY");
-        screen = std::make_unique<Desktop>(given.toStdString());
+        screen = std::make_unique<Desktop>(qgetenv(Steering::Display).toStdString());
     }
     static void TearDownTestSuite() { screen.reset(); }
 
     void SetUp() override {
         // Away from everything that could be hovered over.
         screen->MoveMouse({screen->Size().width() - 1, screen->Size().height() / 2});
-        product = std::make_unique<RunningProduct>(*screen);
     }
 
     void TearDown() override {
@@ -39,243 +36,244 @@ protected:
             std::string windows;
             for (const DesktopWindow& window : screen->Windows())
                 windows += window.title + (window.viewable ? " (viewable)\n" : "\n");
-            ADD_FAILURE() << product->Story() << "The windows:\n"
+            ADD_FAILURE() << product.Story() << "The windows:\n"
                           << windows << "The screen: " << picture.toStdString();
         }
-        product.reset();
-        screen->CloseForeignWindows();
     }
 
-    bool IsHidden() {
-        return screen->WaitForNoWindow(RunningProduct::MainTitle) && product->FrontEnd().IsRunning();
-    }
+    bool StartBoth() { return product.StartBoth() && mainPage.WaitForStatus(MainPage::Connected); }
+    bool IsHidden() { return screen->WaitForNoWindow(MainPage::Title) && product.FrontEnd().IsRunning(); }
 
     static std::unique_ptr<Desktop> screen;
-    std::unique_ptr<RunningProduct> product;
+    RunningProduct product{*screen};
+    const MainPage mainPage{product};
+    LockScreen lock{product};
+    std::list<ForeignWindow> foreign;
 };
 
 std::unique_ptr<Desktop> EndToEndTest::screen;
 
 TEST_F(EndToEndTest, StatusOfTheServiceIsShown) {
-    ASSERT_TRUE(product->StartBoth());
-    product->Tell("status disconnected");
-    EXPECT_TRUE(product->WaitForStatus(RunningProduct::Disconnected));
-    product->Tell("status connecting");
-    EXPECT_TRUE(product->WaitForStatus(RunningProduct::Connecting));
-    product->Tell("status not-enrolled");
-    EXPECT_TRUE(product->WaitForStatus(RunningProduct::NotEnrolled));
+    ASSERT_TRUE(StartBoth());
+    product.Tell("status disconnected");
+    EXPECT_TRUE(mainPage.WaitForStatus(MainPage::Disconnected));
+    product.Tell("status connecting");
+    EXPECT_TRUE(mainPage.WaitForStatus(MainPage::Connecting));
+    product.Tell("status not-enrolled");
+    EXPECT_TRUE(mainPage.WaitForStatus(MainPage::NotEnrolled));
 }
 
 TEST_F(EndToEndTest, RightDigitsUnlockAfterWrongOnes) {
-    ASSERT_TRUE(product->StartBoth());
-    product->Tell("lock");
-    ASSERT_TRUE(product->OpenPasswordBoxes());
-    const auto firstBox = product->FocusedBox();
+    ASSERT_TRUE(StartBoth());
+    product.Tell("lock");
+    ASSERT_TRUE(lock.OpenPasswordBoxes());
+    const auto firstBox = lock.FocusedBox();
 
     screen->Type("65432");
-    EXPECT_TRUE(WaitUntil([&] { return product->FocusedBox() > firstBox.value() + 100; }));
+    EXPECT_TRUE(WaitUntil([&] { return lock.FocusedBox() > firstBox.value() + 100; }));
     screen->Type("1");
     // Shaken to rest, with the focus back in the first box and the lock still there.
-    EXPECT_TRUE(WaitUntil([&] { return product->FocusedBox() == firstBox; }));
-    EXPECT_EQ(product->AgentLines("received 35"), 0);
+    EXPECT_TRUE(WaitUntil([&] { return lock.FocusedBox() == firstBox; }));
+    EXPECT_EQ(product.AgentLines("received 35"), 0);
 
     // A slip and its correction.
     screen->Type("129");
     screen->Press("BackSpace");
     screen->Press("BackSpace");
     screen->Type("23456");
-    EXPECT_TRUE(product->AgentSays("received 35 ScreenUnlock 0 bytes"));
-    EXPECT_TRUE(product->WaitForNoLock());
-    EXPECT_TRUE(product->WaitForStatus(RunningProduct::Connected)); // the desktop is back
+    EXPECT_TRUE(product.AgentSays("received 35 ScreenUnlock 0 bytes"));
+    EXPECT_TRUE(lock.WaitUntilGone());
+    EXPECT_TRUE(mainPage.WaitForStatus(MainPage::Connected)); // the desktop is back
 }
 
 TEST_F(EndToEndTest, TimedLockHoldsUntilItsEndAndAPastEndDoesNotLock) {
-    ASSERT_TRUE(product->StartBoth());
-    product->Tell("lock 00:00");
-    ASSERT_TRUE(product->WaitForLog("Screen lock still time: 00:00"));
+    ASSERT_TRUE(StartBoth());
+    product.Tell("lock 00:00");
+    ASSERT_TRUE(product.WaitForLog("Screen lock still time: 00:00"));
     // Looked for until the next message has taken effect: a lock that ends at once is one too many.
-    product->Tell("status disconnected");
+    product.Tell("status disconnected");
     bool locked = false;
     EXPECT_TRUE(WaitUntil([&] {
-        locked = locked || screen->Find(RunningProduct::LockTitle).has_value();
-        return product->ShowsStatus(RunningProduct::Disconnected);
+        locked = locked || screen->Find(LockScreen::Title).has_value();
+        return mainPage.ShowsStatus(MainPage::Disconnected);
     }));
     EXPECT_FALSE(locked);
 
-    product->Tell("lock 23:59");
-    ASSERT_TRUE(product->OpenPasswordBoxes());
-    EXPECT_TRUE(product->WaitForLog("Screen lock still time: 23:59"));
+    product.Tell("lock 23:59");
+    ASSERT_TRUE(lock.OpenPasswordBoxes());
+    EXPECT_TRUE(product.WaitForLog("Screen lock still time: 23:59"));
     screen->Type("123456");
-    EXPECT_TRUE(product->AgentSays("received 35 ScreenUnlock"));
-    EXPECT_TRUE(product->WaitForNoLock());
+    EXPECT_TRUE(product.AgentSays("received 35 ScreenUnlock"));
+    EXPECT_TRUE(lock.WaitUntilGone());
 }
 
 TEST_F(EndToEndTest, TheServiceReleasesTheLock) {
-    ASSERT_TRUE(product->StartBoth());
+    ASSERT_TRUE(StartBoth());
     for (const char* command : {"unlock", "reset"}) {
         SCOPED_TRACE(command);
-        product->Tell("lock");
-        ASSERT_TRUE(product->WaitForLock());
-        product->Tell(command);
-        EXPECT_TRUE(product->WaitForNoLock());
+        product.Tell("lock");
+        ASSERT_TRUE(lock.Wait());
+        product.Tell(command);
+        EXPECT_TRUE(lock.WaitUntilGone());
     }
-    EXPECT_EQ(product->AgentLines("received 35"), 0);
+    EXPECT_EQ(product.AgentLines("received 35"), 0);
 }
 
 TEST_F(EndToEndTest, ANewPasswordCountsAtOnce) {
-    ASSERT_TRUE(product->StartBoth());
-    product->Tell("lock");
-    ASSERT_TRUE(product->OpenPasswordBoxes());
-    const auto firstBox = product->FocusedBox();
-    product->Tell("password 000000");
-    ASSERT_TRUE(product->WaitForLog("UDeviceScreenLock::OnPipeDataReceived Unlock password update: ", 2));
+    ASSERT_TRUE(StartBoth());
+    product.Tell("lock");
+    ASSERT_TRUE(lock.OpenPasswordBoxes());
+    const auto firstBox = lock.FocusedBox();
+    product.Tell("password 000000");
+    ASSERT_TRUE(product.WaitForLog("UDeviceScreenLock::OnPipeDataReceived Unlock password update: ", 2));
     screen->Type("123456");
-    EXPECT_TRUE(WaitUntil([&] { return product->FocusedBox() == firstBox; }));
+    EXPECT_TRUE(WaitUntil([&] { return lock.FocusedBox() == firstBox; }));
     screen->Type("000000");
-    EXPECT_TRUE(product->AgentSays("received 35 ScreenUnlock"));
-    EXPECT_TRUE(product->WaitForNoLock());
+    EXPECT_TRUE(product.AgentSays("received 35 ScreenUnlock"));
+    EXPECT_TRUE(lock.WaitUntilGone());
 }
 
 TEST_F(EndToEndTest, TheLockStaysAboveEverythingAndAgainstEveryAttempt) {
-    product->ShowForeignWindow("Foreign", QRect(100, 100, 900, 500));
+    ForeignWindow& first = foreign.emplace_back(product, "Foreign", QRect(100, 100, 900, 500));
     ASSERT_TRUE(screen->WaitForWindow("Foreign"));
-    ASSERT_TRUE(product->StartBoth());
-    product->Tell("lock");
-    ASSERT_TRUE(product->WaitForLock());
+    ASSERT_TRUE(StartBoth());
+    product.Tell("lock");
+    ASSERT_TRUE(lock.Wait());
 
-    product->ShowForeignWindow("Later", QRect(300, 200, 400, 300));
+    ForeignWindow& later = foreign.emplace_back(product, "Later", QRect(300, 200, 400, 300));
     ASSERT_TRUE(screen->WaitForWindow("Later"));
-    for (const char* title : {"Foreign", "Later"})
-        product->ActivateForeignWindow(title);
-    screen->Activate(screen->Find(RunningProduct::MainTitle).value());
+    first.Activate();
+    later.Activate();
+    screen->Activate(screen->Find(MainPage::Title).value());
     screen->Press("F4", {"Alt_L"});
     screen->Press("Tab", {"Alt_L"});
     screen->Press("Escape");
-    screen->Close(screen->Find(RunningProduct::LockTitle).value());
-    product->RaiseForeignWindow("Later");
+    screen->Close(screen->Find(LockScreen::Title).value());
+    later.Raise();
 
-    EXPECT_TRUE(product->WaitForLock());
-    EXPECT_TRUE(product->FrontEnd().IsRunning());
+    EXPECT_TRUE(lock.Wait());
+    EXPECT_TRUE(product.FrontEnd().IsRunning());
 
     // And the keyboard is still the lock's.
-    ASSERT_TRUE(product->OpenPasswordBoxes());
+    ASSERT_TRUE(lock.OpenPasswordBoxes());
     screen->Type("123456");
-    EXPECT_TRUE(product->AgentSays("received 35 ScreenUnlock"));
-    EXPECT_TRUE(product->WaitForNoLock());
+    EXPECT_TRUE(product.AgentSays("received 35 ScreenUnlock"));
+    EXPECT_TRUE(lock.WaitUntilGone());
 }
 
 TEST_F(EndToEndTest, TheLockLeavesNoPixelOpenAtAScaleThatDoesNotDivideTheScreen) {
-    product->Scale(2.6);
-    ASSERT_TRUE(product->StartBoth());
-    product->Tell("lock");
-    EXPECT_TRUE(product->WaitForLock());
+    product.SetScale(2.6);
+    ASSERT_TRUE(StartBoth());
+    product.Tell("lock");
+    EXPECT_TRUE(lock.Wait());
 }
 
 TEST_F(EndToEndTest, ARestartedServiceIsFoundAgain) {
-    ASSERT_TRUE(product->StartBoth());
-    product->Agent().Kill();
-    ASSERT_TRUE(product->StartAgent());
-    EXPECT_TRUE(product->AgentSays("client 1 connected"));
-    EXPECT_TRUE(product->AgentSays("received 0 ContextRequest 0 bytes"));
-    EXPECT_TRUE(product->AgentSays("received 12 OtaVersionInfo 0 bytes"));
+    ASSERT_TRUE(StartBoth());
+    product.Agent().Kill();
+    ASSERT_TRUE(product.StartAgent());
+    EXPECT_TRUE(product.AgentSays("client 1 connected"));
+    EXPECT_TRUE(product.AgentSays("received 0 ContextRequest 0 bytes"));
+    EXPECT_TRUE(product.AgentSays("received 12 OtaVersionInfo 0 bytes"));
 
-    product->Tell("drop");
-    EXPECT_TRUE(product->AgentSays("client 2 received 0 ContextRequest 0 bytes"));
-    product->Tell("raw ffffffff 02000000");
-    EXPECT_TRUE(product->AgentSays("client 3 received 0 ContextRequest 0 bytes"));
-    EXPECT_EQ(product->LogLines("a frame claims 4294967295 bytes"), 1);
+    product.Tell("drop");
+    EXPECT_TRUE(product.AgentSays("client 2 received 0 ContextRequest 0 bytes"));
+    product.Tell("raw ffffffff 02000000");
+    EXPECT_TRUE(product.AgentSays("client 3 received 0 ContextRequest 0 bytes"));
+    EXPECT_EQ(product.LogLines("a frame claims 4294967295 bytes"), 1);
 
     // A lock outlives the service that asked for it.
-    product->Tell("lock");
-    ASSERT_TRUE(product->WaitForLock());
-    product->Agent().Kill();
-    ASSERT_TRUE(product->StartAgent());
-    EXPECT_TRUE(product->AgentSays("received 12 OtaVersionInfo"));
-    ASSERT_TRUE(product->OpenPasswordBoxes());
+    product.Tell("lock");
+    ASSERT_TRUE(lock.Wait());
+    product.Agent().Kill();
+    ASSERT_TRUE(product.StartAgent());
+    EXPECT_TRUE(product.AgentSays("received 12 OtaVersionInfo"));
+    ASSERT_TRUE(lock.OpenPasswordBoxes());
     screen->Type("123456");
-    EXPECT_TRUE(product->AgentSays("received 35 ScreenUnlock"));
+    EXPECT_TRUE(product.AgentSays("received 35 ScreenUnlock"));
 }
 
 TEST_F(EndToEndTest, ABodyOfTheWrongTypeIsLoggedAndTheNextOneArrives) {
-    ASSERT_TRUE(product->StartBoth());
-    product->Tell("send IotStatusNotify {\"status\": []}");
-    product->Tell("send ScreenLock {\"endAt\": {}}");
-    product->Tell("send 12345 anything");
-    product->Tell("status disconnected");
-    EXPECT_TRUE(product->WaitForStatus(RunningProduct::Disconnected));
-    EXPECT_TRUE(product->WaitForLog("key 2 (IotStatusNotify) refused by MainController: "));
-    EXPECT_TRUE(product->WaitForLog("key 33 (ScreenLock) refused by UDeviceScreenLock: "));
-    EXPECT_FALSE(screen->Find(RunningProduct::LockTitle));
+    ASSERT_TRUE(StartBoth());
+    product.Tell("send IotStatusNotify {\"status\": []}");
+    product.Tell("send ScreenLock {\"endAt\": {}}");
+    product.Tell("send 12345 anything");
+    product.Tell("status disconnected");
+    EXPECT_TRUE(mainPage.WaitForStatus(MainPage::Disconnected));
+    EXPECT_TRUE(product.WaitForLog("key 2 (IotStatusNotify) refused by MainController: "));
+    EXPECT_TRUE(product.WaitForLog("key 33 (ScreenLock) refused by UDeviceScreenLock: "));
+    EXPECT_FALSE(screen->Find(LockScreen::Title));
 }
 
 TEST_F(EndToEndTest, ClosingTheWindowHidesItAndASecondStartShowsIt) {
-    ASSERT_TRUE(product->StartBoth());
-    screen->Close(screen->Find(RunningProduct::MainTitle).value());
+    ASSERT_TRUE(StartBoth());
+    screen->Close(screen->Find(MainPage::Title).value());
     ASSERT_TRUE(IsHidden());
 
-    EXPECT_EQ(product->StartAgain({"-hide"}), 0);
-    EXPECT_TRUE(product->WaitForLog("Other instance commandline: -hide\n"));
-    EXPECT_EQ(product->StartAgain({"a", "b c"}), 0);
-    EXPECT_TRUE(product->WaitForLog("Other instance commandline: a b c\n"));
-    EXPECT_FALSE(screen->Find(RunningProduct::MainTitle));
+    EXPECT_EQ(product.StartAgain({"-hide"}), 0);
+    EXPECT_TRUE(product.WaitForLog("Other instance commandline: -hide\n"));
+    EXPECT_EQ(product.StartAgain({"a", "b c"}), 0);
+    EXPECT_TRUE(product.WaitForLog("Other instance commandline: a b c\n"));
+    EXPECT_FALSE(screen->Find(MainPage::Title));
 
-    EXPECT_EQ(product->StartAgain(), 0);
-    EXPECT_TRUE(screen->WaitForWindow(RunningProduct::MainTitle));
-    EXPECT_TRUE(product->WaitForStatus(RunningProduct::Connected));
-    EXPECT_EQ(product->AgentLines(" connected"), 1); // and nobody else ever came to the service
+    EXPECT_EQ(product.StartAgain(), 0);
+    EXPECT_TRUE(screen->WaitForWindow(MainPage::Title));
+    EXPECT_TRUE(mainPage.WaitForStatus(MainPage::Connected));
+    EXPECT_EQ(product.AgentLines(" connected"), 1); // and nobody else ever came to the service
 }
 
 TEST_F(EndToEndTest, StartedHiddenTheWindowIsNeverSeenUntilASecondStart) {
-    ASSERT_TRUE(product->StartAgent());
+    ASSERT_TRUE(product.StartAgent());
     screen->HasAnyAppeared();
-    product->StartFrontEnd({"-hide"});
-    ASSERT_TRUE(product->AgentSays("received 12 OtaVersionInfo"));
-    EXPECT_EQ(product->StartAgain({"-hide"}), 0);
-    EXPECT_TRUE(product->WaitForLog("Other instance commandline: -hide\n"));
-    EXPECT_FALSE(screen->HasAnyAppeared() && !RunsUnderLauncher()); // a launcher may show windows of its own
+    product.StartFrontEnd({"-hide"});
+    ASSERT_TRUE(product.AgentSays("received 12 OtaVersionInfo"));
+    EXPECT_EQ(product.StartAgain({"-hide"}), 0);
+    EXPECT_TRUE(product.WaitForLog("Other instance commandline: -hide\n"));
+    EXPECT_FALSE(screen->HasAnyAppeared() &&
+                 !product.HasLauncher()); // a launcher may show windows of its own
     // Messages reach the hidden window's process, and the lock shows without it.
-    product->Tell("lock");
-    ASSERT_TRUE(product->WaitForLock());
-    product->Tell("unlock");
-    ASSERT_TRUE(product->WaitForNoLock());
-    EXPECT_FALSE(screen->Find(RunningProduct::MainTitle));
+    product.Tell("lock");
+    ASSERT_TRUE(lock.Wait());
+    product.Tell("unlock");
+    ASSERT_TRUE(lock.WaitUntilGone());
+    EXPECT_FALSE(screen->Find(MainPage::Title));
 
-    EXPECT_EQ(product->StartAgain(), 0);
-    EXPECT_TRUE(product->WaitForStatus(RunningProduct::Connected));
+    EXPECT_EQ(product.StartAgain(), 0);
+    EXPECT_TRUE(mainPage.WaitForStatus(MainPage::Connected));
 }
 
 TEST_F(EndToEndTest, AKilledFrontEndDoesNotHinderTheNext) {
-    ASSERT_TRUE(product->StartBoth());
-    product->Tell("lock");
-    ASSERT_TRUE(product->WaitForLock());
-    product->FrontEnd().Kill();
-    ASSERT_TRUE(product->AgentSays("client 1 disconnected"));
-    product->StartFrontEnd();
-    EXPECT_TRUE(product->AgentSays("client 2 received 0 ContextRequest"));
-    EXPECT_TRUE(product->WaitForStatus(RunningProduct::Connected));
-    EXPECT_EQ(product->LogLines("application is already running!"), 0);
+    ASSERT_TRUE(StartBoth());
+    product.Tell("lock");
+    ASSERT_TRUE(lock.Wait());
+    product.FrontEnd().Kill();
+    ASSERT_TRUE(product.AgentSays("client 1 disconnected"));
+    product.StartFrontEnd();
+    EXPECT_TRUE(product.AgentSays("client 2 received 0 ContextRequest"));
+    EXPECT_TRUE(mainPage.WaitForStatus(MainPage::Connected));
+    EXPECT_EQ(product.LogLines("application is already running!"), 0);
 }
 
 TEST_F(EndToEndTest, AnImpostorIsRefusedAndToldNothing) {
-    product->Configure("agentAccount", "daemon");
+    product.Configure("agentAccount", QLatin1String("daemon"));
     std::vector<std::string> asAnother;
-    if (::geteuid() == 0 && !RunsUnderLauncher()) { // root is the system's own account here
+    if (::geteuid() == 0 && !product.HasLauncher()) { // root is the system's own account here
         asAnother = {"setpriv", "--reuid=nobody", "--regid=nogroup", "--clear-groups", "--pdeathsig=KILL"};
         // Another user may not be able to reach this build's folder.
-        const QString copy = QString::fromStdString(product->Folder()) + QStringLiteral("/agent");
+        const QString copy = QString::fromStdString(product.Folder()) + QStringLiteral("/agent");
         ASSERT_TRUE(QFile::copy(QStringLiteral(RYX_BIN_DIR "/ryx-agent"), copy));
-        qputenv("RYX_E2E_AGENT", copy.toLocal8Bit());
+        qputenv(Steering::Agent.variable, copy.toLocal8Bit());
     }
-    const bool started = product->StartAgent({}, asAnother);
-    qunsetenv("RYX_E2E_AGENT");
+    const bool started = product.StartAgent({}, asAnother);
+    qunsetenv(Steering::Agent.variable);
     ASSERT_TRUE(started);
-    product->StartFrontEnd();
+    product.StartFrontEnd();
 
-    EXPECT_TRUE(product->AgentSays("client 3 connected")); // it keeps trying
-    EXPECT_EQ(product->AgentLines("received"), 0);
-    EXPECT_EQ(product->LogLines("is served by"), 1);
-    EXPECT_TRUE(screen->WaitForWindow(RunningProduct::MainTitle));
-    EXPECT_FALSE(product->ShowsStatus(RunningProduct::Connected));
+    EXPECT_TRUE(product.AgentSays("client 3 connected")); // it keeps trying
+    EXPECT_EQ(product.AgentLines("received"), 0);
+    EXPECT_EQ(product.LogLines("is served by"), 1);
+    EXPECT_TRUE(screen->WaitForWindow(MainPage::Title));
+    EXPECT_FALSE(mainPage.ShowsStatus(MainPage::Connected));
 }
 
 } // namespace

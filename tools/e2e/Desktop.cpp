@@ -71,14 +71,14 @@ void Desktop::StartWindowManager() {
         throw std::runtime_error("openbox did not start");
 
     // It has told that it is there before it is ready: a window that asks to be shown then is forgotten.
-    ShowForeignWindow("Probe", QRect(0, 0, 100, 100), false);
-    const bool ready = WaitUntil([this] {
-        XMapWindow(m_display, m_foreignWindows.back());
+    const unsigned long probe = ShowWindow("Probe", QRect(0, 0, 100, 100), false);
+    const bool ready = WaitUntil([&] {
+        XMapWindow(m_display, probe);
         return Find("Probe").has_value();
     });
     if (!ready)
         throw std::runtime_error("openbox shows no window");
-    CloseForeignWindows();
+    DestroyWindow(probe);
 }
 
 QSize Desktop::Size() const {
@@ -244,7 +244,7 @@ void Desktop::Raise(const DesktopWindow& window) {
     XSync(m_display, False);
 }
 
-void Desktop::ShowForeignWindow(const std::string& title, const QRect& place, bool onTop) {
+unsigned long Desktop::ShowWindow(const std::string& title, const QRect& place, bool onTop) {
     const int screen = DefaultScreen(m_display);
     const ::Window window = XCreateSimpleWindow(m_display, RootWindow(m_display, screen), place.x(),
                                                 place.y(), static_cast<unsigned>(place.width()),
@@ -263,12 +263,10 @@ void Desktop::ShowForeignWindow(const std::string& title, const QRect& place, bo
     }
     XMapRaised(m_display, window);
     XSync(m_display, False);
-    m_foreignWindows.push_back(window);
+    return window;
 }
 
-void Desktop::CloseForeignWindows() {
-    for (const unsigned long window : m_foreignWindows)
-        XDestroyWindow(m_display, window);
+void Desktop::DestroyWindow(unsigned long window) {
+    XDestroyWindow(m_display, window);
     XSync(m_display, False);
-    m_foreignWindows.clear();
 }

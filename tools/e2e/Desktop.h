@@ -64,9 +64,9 @@ public:
     /// Lifts a window as its own program does that wants to be above, but not the focus.
     void Raise(const DesktopWindow& window);
 
-    /// Shows a plain window of this program, which the window manager keeps above others if `onTop`.
-    void ShowForeignWindow(const std::string& title, const QRect& place, bool onTop);
-    void CloseForeignWindows();
+    /// Shows a plain window of this program, which the window manager keeps above others if `onTop`; its id.
+    unsigned long ShowWindow(const std::string& title, const QRect& place, bool onTop);
+    void DestroyWindow(unsigned long window);
 
 private:
     void StartScreen();
@@ -81,5 +81,4 @@ private:
     ChildProcess m_screen;
     ChildProcess m_windowManager;
     _XDisplay* m_display = nullptr;
-    std::vector<unsigned long> m_foreignWindows;
 };

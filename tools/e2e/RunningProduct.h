@@ -3,37 +3,46 @@
 #include "ChildProcess.h"
 #include "Desktop.h"
 
-#include <QColor>
+#include <QJsonObject>
 #include <QTemporaryDir>
-#include <map>
 #include <optional>
 #include <string>
 #include <vector>
 
+/// A program that the driver starts: the one that the environment variable names, or this build's.
+struct Program {
+    const char* variable;
+    const char* name;
+};
+
+/// All that the environment tells the driver, so that it can drive programs that are built for another
+/// system. A further program is a further line here, started with RunningProduct::Start.
+namespace Steering {
+constexpr char Display[] = "RYX_E2E_DISPLAY";   ///< the display to use, instead of a virtual screen
+constexpr char Launcher[] = "RYX_E2E_LAUNCHER"; ///< words that start every program, such as Wine's
+constexpr Program FrontEnd{"RYX_E2E_FRONTEND", "velmora-ryx"};
+constexpr Program Agent{"RYX_E2E_AGENT", "ryx-agent"};
+constexpr Program ForeignWindow{"RYX_E2E_FOREIGN", "foreign_window"}; // needed where there is a launcher
+} // namespace Steering
+
 /// The product's two programs, in a temporary folder with a configuration, a log and a pipe of their own,
-/// on one desktop; and what a person sees of them there. Everything ends with this object.
-///
-/// The programs are those that the environment names in RYX_E2E_FRONTEND and RYX_E2E_AGENT, or those of
-/// this build; RYX_E2E_LAUNCHER holds the words of a command that starts them, such as Wine's. Programs
-/// that are started so get to see the file system as drive Z.
+/// on one desktop. What a person sees of them is told by page objects such as MainPage and LockScreen.
+/// Everything ends with this object. Programs with a launcher get to see the file system as drive Z.
 class RunningProduct {
 public:
-    static constexpr char MainTitle[] = "Velmora RYX";
-    static constexpr char LockTitle[] = "Screen lock";
-
-    static const QColor Connected, Connecting, Disconnected, NotEnrolled;
+    using Words = ChildProcess::Words;
 
     explicit RunningProduct(Desktop& desktop);
     ~RunningProduct();
 
-    /// Adds a text to the configuration; counts from the next start of the front end.
-    void Configure(const std::string& key, const std::string& value);
+    /// Sets a value of the configuration; counts from the next start of the front end.
+    void Configure(const char* key, const QJsonValue& value) { m_configuration[QLatin1String(key)] = value; }
     /// The desktop's scale, such as 1.5; counts from the next start of the front end.
-    void Scale(double scale) { m_scale = scale; }
+    void SetScale(double scale) { m_scale = scale; }
+    double Scale() const { return m_scale; }
 
-    /// Starts the agent service, behind the words of `launcher` if there are any, and waits until it listens.
-    bool StartAgent(const std::vector<std::string>& arguments = {},
-                    const std::vector<std::string>& launcher = {});
+    /// Starts the agent service, behind the words of `before` if there are any, and waits until it listens.
+    bool StartAgent(const Words& arguments = {}, const Words& before = {});
     /// Types a command at the agent service's console.
     void Tell(const std::string& command) { m_agent.Write(command + '\n'); }
     /// Waits for a line of the agent service that contains `text`, behind the one that the last call found.
@@ -42,68 +51,43 @@ public:
     int AgentLines(const std::string& text);
 
     /// Starts the front end and returns at once.
-    void StartFrontEnd(const std::vector<std::string>& arguments = {});
-    /// Starts the front end and the agent service, and waits for the window and the link.
+    void StartFrontEnd(const Words& arguments = {});
+    /// Starts the front end and the agent service, and waits until they have met.
     bool StartBoth();
     /// Starts the front end a second time and waits for that to end; its exit code, if it ended.
-    std::optional<int> StartAgain(const std::vector<std::string>& arguments = {});
+    std::optional<int> StartAgain(const Words& arguments = {});
 
-    /// Shows another program's topmost window, which does not close. Where the programs need a launcher, so
-    /// does that one: RYX_E2E_FOREIGN names it.
-    void ShowForeignWindow(const std::string& title, const QRect& place);
-    /// That window takes the focus.
-    void ActivateForeignWindow(const std::string& title);
-    /// That window comes above all others, and leaves the focus where it is.
-    void RaiseForeignWindow(const std::string& title);
+    /// Starts any program on the product's desktop, in its environment; its errors go to `errorFile` in the
+    /// product's folder, or nowhere.
+    void Start(ChildProcess& process, const Program& program, const Words& arguments,
+               const std::string& errorFile = {}, const Words& before = {}) const;
+    bool HasLauncher() const { return !m_launcher.empty(); }
 
     ChildProcess& Agent() { return m_agent; }
     ChildProcess& FrontEnd() { return m_frontEnd; }
 
-    /// Everything in the front ends' log files.
-    std::string Log() const;
+    /// How many lines of the front ends' log files contain `text`.
     int LogLines(const std::string& text) const;
     bool WaitForLog(const std::string& text, int times = 1) const;
-
-    /// The header of the main window shows this status.
-    bool ShowsStatus(const QColor& color) const;
-    bool WaitForStatus(const QColor& color) const;
-
-    /// The lock covers the whole screen, above everything else, and shows its message.
-    bool ShowsLockMessage() const;
-    /// The lock shows the six boxes.
-    bool ShowsPasswordBoxes() const;
-    bool WaitForLock() const;
-    bool WaitForNoLock() const { return m_desktop.WaitForNoWindow(LockTitle); }
-    /// Presses the button of the lock's message and waits for the boxes.
-    bool OpenPasswordBoxes();
-    /// Left edge of the box that has the focus; nothing while none has.
-    std::optional<int> FocusedBox() const;
 
     /// What a failed test should tell: the agent service's lines and the log.
     std::string Story();
 
-    Desktop& Screen() { return m_desktop; }
+    Desktop& Screen() const { return m_desktop; }
     std::string Folder() const { return m_folder.path().toStdString(); }
-    /// A pipe of this product's own, in the product's form.
-    const std::string& PipeName() const { return m_pipe; }
 
 private:
-    std::vector<std::string> Command(const char* variable, const char* program,
-                                     const std::vector<std::string>& arguments) const;
-    std::vector<std::string> Environment() const;
-    void TellForeignProgram(const std::string& title, const std::string& command);
+    Words Environment() const;
     std::string PathForPrograms(const std::string& path) const;
-    void WriteConfiguration() const;
-    QImage LockPicture() const;
+    std::string Log() const;
 
     Desktop& m_desktop;
     QTemporaryDir m_folder;
-    std::vector<std::string> m_launcher;
-    std::map<std::string, std::string> m_configuration;
+    Words m_launcher;
+    QJsonObject m_configuration;
     std::string m_pipe;
     double m_scale = 1;
     ChildProcess m_agent;
     ChildProcess m_frontEnd;
-    std::map<std::string, ChildProcess> m_foreignPrograms; // by their windows' titles
     std::size_t m_agentRead = 0; // of the agent service's output, what AgentSays has passed
 };

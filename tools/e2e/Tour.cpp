@@ -2,7 +2,8 @@
 //
 //   ryx-tour FOLDER SCENARIO     writes a picture of each step to FOLDER; ends with 0 when every step was
 //   seen
-#include "RunningProduct.h"
+#include "LockScreen.h"
+#include "MainPage.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -42,35 +43,37 @@ private:
 };
 
 bool Play(const QDir& folder, const std::string& scenario) {
-    Desktop screen(qgetenv("RYX_E2E_DISPLAY").toStdString());
+    Desktop screen(qgetenv(Steering::Display).toStdString());
     RunningProduct product(screen);
+    const MainPage mainPage(product);
+    LockScreen lock(product);
     Tour tour(folder, product);
-    product.Configure("organisation", "Lakeside School");
+    product.Configure("organisation", QLatin1String("Lakeside School"));
 
     tour.Step("The agent service listens", [&] { return product.StartAgent({"--scenario", scenario}); });
     tour.Step("The front end shows its window", [&] {
         product.StartFrontEnd();
-        return screen.WaitForWindow(RunningProduct::MainTitle);
+        return screen.WaitForWindow(MainPage::Title);
     });
     tour.Step("The link is up: the front end asks the service for its context and for updates", [&] {
         return product.AgentSays("received 0 ContextRequest") &&
                product.AgentSays("received 12 OtaVersionInfo");
     });
     tour.Step("The header shows that the device is connecting",
-              [&] { return product.WaitForStatus(RunningProduct::Connecting); });
+              [&] { return mainPage.WaitForStatus(MainPage::Connecting); });
     tour.Step(
         "The header shows that the device is connected",
-        [&] { return product.WaitForStatus(RunningProduct::Connected); }, "1-window.png");
+        [&] { return mainPage.WaitForStatus(MainPage::Connected); }, "1-window.png");
     tour.Step(
         "The service locks the screen: the lock covers everything and tells why",
-        [&] { return product.AgentSays("was sent 33 ScreenLock") && product.WaitForLock(); }, "2-lock.png");
-    tour.Step("A press of its button shows the six boxes", [&] { return product.OpenPasswordBoxes(); });
+        [&] { return product.AgentSays("was sent 33 ScreenLock") && lock.Wait(); }, "2-lock.png");
+    tour.Step("A press of its button shows the six boxes", [&] { return lock.OpenPasswordBoxes(); });
     tour.Step(
         "Five digits are typed, and the sixth box waits",
         [&] {
-            const auto first = product.FocusedBox();
+            const auto first = lock.FocusedBox();
             screen.Type("12345");
-            return WaitUntil([&] { return product.FocusedBox() > first.value() + 300; });
+            return WaitUntil([&] { return lock.FocusedBox() > first.value() + 300; });
         },
         "3-password.png");
     tour.Step("The sixth digit is typed: the service is told that the screen is unlocked", [&] {
@@ -79,8 +82,7 @@ bool Play(const QDir& folder, const std::string& scenario) {
     });
     tour.Step(
         "The desktop is back",
-        [&] { return product.WaitForNoLock() && product.WaitForStatus(RunningProduct::Connected); },
-        "4-desktop.png");
+        [&] { return lock.WaitUntilGone() && mainPage.WaitForStatus(MainPage::Connected); }, "4-desktop.png");
     tour.Step("The service has seen all that its scenario expects", [&] {
         WaitUntil([&] { return !product.Agent().IsRunning(); });
         return product.Agent().Result() == 0;
