@@ -7,6 +7,8 @@
 #   run_limited SECONDS COMMAND...   runs a command that must end within the time
 #
 # With RYX_KEEP_WINE=1 the prefix stays for a look at it.
+#
+# shellcheck shell=bash
 
 source "$(dirname "${BASH_SOURCE[0]}")/../common.sh"
 
