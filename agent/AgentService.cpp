@@ -3,7 +3,7 @@
 #include "entity/IotEntities.h"
 #include "entity/SettingsEntities.h"
 #include "entity/UpdateEntities.h"
-#include "platform/context/ProductConstants.h"
+#include "platform/ProductConstants.h"
 #include "platform/security/PasswordHelper.h"
 
 namespace {

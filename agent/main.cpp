@@ -1,7 +1,7 @@
 // ryx-agent: stands in for the agent service, for people who try the front end and for its tests.
 #include "CommandInterpreter.h"
 #include "ConsoleInput.h"
-#include "platform/context/ProductConstants.h"
+#include "platform/ProductConstants.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>

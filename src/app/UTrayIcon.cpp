@@ -1,8 +1,8 @@
 #include "app/UTrayIcon.h"
 
 #include "app/TrayTone.h"
+#include "platform/ProductConstants.h"
 #include "platform/context/AppContextData.h"
-#include "platform/context/ProductConstants.h"
 #include "widgets/ThemeIcon.h"
 
 UTrayIcon::UTrayIcon(QObject* parent)

@@ -8,11 +8,11 @@
 #include "controllers/PopupsController.h"
 #include "controllers/SettingsLockController.h"
 #include "lock/UDeviceScreenLock.h"
+#include "platform/ProductConstants.h"
 #include "platform/application/QtSingleApplication.h"
 #include "platform/context/AppHelper.h"
-#include "platform/context/LogText.h"
-#include "platform/context/ProductConstants.h"
 #include "platform/link/PipeClientService.h"
+#include "platform/security/LogText.h"
 #include "platform/system/SystemSession.h"
 #include "platform/system/SystemWindows.h"
 

@@ -1,10 +1,10 @@
 #include "lock/UDeviceScreenLock.h"
 
 #include "entity/SettingsEntities.h"
+#include "platform/ProductConstants.h"
 #include "platform/context/AppContextData.h"
-#include "platform/context/LogText.h"
-#include "platform/context/ProductConstants.h"
 #include "platform/link/PipeClientService.h"
+#include "platform/security/LogText.h"
 #include "ui_UDeviceScreenLock.h"
 
 #include <QCloseEvent>

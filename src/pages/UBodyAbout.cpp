@@ -1,6 +1,6 @@
 #include "pages/UBodyAbout.h"
 
-#include "platform/context/ProductConstants.h"
+#include "platform/ProductConstants.h"
 #include "widgets/CommonFacts.h"
 
 UBodyAbout::UBodyAbout(QWidget* parent)

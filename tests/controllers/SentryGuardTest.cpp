@@ -9,15 +9,15 @@ TEST(SentryGuard, SetsItsOptionsBeforeTheStartAndEndsWithItsScope) {
     AppConfigData::Instance()->sentryDsn = "https://key@crash.example/1";
     LogCapture log;
     {
-        const SentryGuard guard("VelmoraRYX@User@1.23.0.2907", L"temp/sentry-ryx-user");
+        const SentryGuard guard("VelmoraRYX@User@7", L"temp/sentry-ryx-user");
         ASSERT_FALSE(sentryCalls.empty());
         EXPECT_EQ(sentryCalls.front(), "new");
         EXPECT_EQ(sentryCalls.back(), "init");
     }
-    EXPECT_EQ(sentryCalls, (std::vector<std::string>{"new", "dsn https://key@crash.example/1",
-                                                     "release VelmoraRYX@User@1.23.0.2907",
-                                                     "database temp/sentry-ryx-user", "sessions 0",
-                                                     "symbolize 1", "environment velmora", "init", "close"}));
+    EXPECT_EQ(sentryCalls,
+              (std::vector<std::string>{"new", "dsn https://key@crash.example/1", "release VelmoraRYX@User@7",
+                                        "database temp/sentry-ryx-user", "sessions 0", "symbolize 1",
+                                        "environment velmora", "init", "close"}));
     EXPECT_EQ(log.Count("sentry_init success"), 1);
 }
 

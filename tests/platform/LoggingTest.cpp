@@ -1,5 +1,5 @@
 #include "platform/context/Logging.h"
-#include "platform/context/LogText.h"
+#include "platform/security/LogText.h"
 
 #include <QDir>
 #include <QFile>

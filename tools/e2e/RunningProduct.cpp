@@ -1,6 +1,6 @@
 #include "RunningProduct.h"
 
-#include "platform/context/ProductConstants.h"
+#include "platform/ProductConstants.h"
 #include "platform/system/SystemPipe.h"
 #include "platform/system/SystemSession.h"
 

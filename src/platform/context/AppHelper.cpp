@@ -1,12 +1,12 @@
 #include "platform/context/AppHelper.h"
 
+#include "platform/ProductConstants.h"
 #include "platform/context/AppConfigData.h"
 #include "platform/context/AppContextData.h"
 #include "platform/context/LanguageHelper.h"
-#include "platform/context/LogText.h"
-#include "platform/context/ProductConstants.h"
 #include "platform/context/Theme.h"
 #include "platform/link/PipeClientService.h"
+#include "platform/security/LogText.h"
 
 #include <glog/logging.h>
 

@@ -1,9 +1,9 @@
 #include "platform/link/PipeClientService.h"
 
 #include "entity/RyxEntity.h"
-#include "platform/context/LogText.h"
 #include "platform/link/ControllerBase.h"
 #include "platform/link/PipeReceiveEvent.h"
+#include "platform/security/LogText.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

@@ -1,6 +1,6 @@
 #include "platform/link/PipeConnection.h"
 
-#include "platform/context/LogText.h"
+#include "platform/security/LogText.h"
 #include "platform/system/SystemPipe.h"
 
 #include <array>

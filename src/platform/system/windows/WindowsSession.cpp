@@ -1,4 +1,4 @@
-#include "platform/context/ProductConstants.h"
+#include "platform/ProductConstants.h"
 #include "platform/system/SystemSession.h"
 
 #include <windows.h>

@@ -1,4 +1,4 @@
-#include "platform/context/LogText.h"
+#include "platform/security/LogText.h"
 
 namespace {
 
