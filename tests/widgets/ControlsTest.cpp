@@ -5,10 +5,6 @@
 #include "widgets/ULoadingBar.h"
 #include "widgets/ULoadingIndicator.h"
 
-#include <QSignalSpy>
-#include <QtTest>
-#include <gtest/gtest.h>
-
 namespace {
 
 class Controls : public testing::Test {
@@ -22,46 +18,36 @@ bool Moves(QWidget& widget) {
     return QTest::qWaitFor([&] { return widget.grab().toImage() != before; }, 2000);
 }
 
-TEST_F(Controls, LoadingButtonTurnsAndStaysUsable) {
+TEST_F(Controls, ALoadingButtonTurnsTheGivenPictureAndStaysUsable) {
     UBackButton button;
-    button.resize(button.sizeHint());
     button.show();
     const qint64 resting = button.icon().cacheKey();
     QSignalSpy clicked(&button, &QPushButton::clicked);
-
     button.SetLoading(true);
-    EXPECT_TRUE(button.IsLoading());
-    EXPECT_TRUE(button.isEnabled());
     EXPECT_TRUE(Moves(button));
     QTest::mouseClick(&button, Qt::LeftButton);
     EXPECT_EQ(clicked.count(), 1);
     EXPECT_FALSE(button.accessibleDescription().isEmpty());
-
     button.SetLoading(false);
     EXPECT_EQ(button.icon().cacheKey(), resting);
     EXPECT_TRUE(button.accessibleDescription().isEmpty());
-}
 
-TEST_F(Controls, LoadingButtonTurnsTheGivenPicture) {
     for (const char* picture : {":/res/images/ic_32_loading red.svg", ":/res/images/ic_loading_white.png"}) {
-        SCOPED_TRACE(picture);
-        ASSERT_FALSE(QIcon(QString::fromLatin1(picture)).pixmap(32, 32).isNull());
-        UTextButton plain;
-        UTextButton own;
+        UTextButton plain, own;
         own.SetLoadingIcon(QString::fromLatin1(picture));
-        for (UTextButton* button : {&plain, &own}) {
-            button->resize(120, 48);
-            button->SetLoading(true);
+        for (UTextButton* turning : {&plain, &own}) {
+            turning->resize(120, 48);
+            turning->SetLoading(true);
         }
-        EXPECT_NE(plain.grab().toImage(), own.grab().toImage());
+        EXPECT_FALSE(QIcon(QString::fromLatin1(picture)).pixmap(32, 32).isNull()) << picture;
+        EXPECT_NE(plain.grab().toImage(), own.grab().toImage()) << picture;
     }
 }
 
-TEST_F(Controls, IndicatorsMoveOnlyWhileTheyAreAtWork) {
+TEST_F(Controls, IndicatorsMoveOnlyWhileTheyAreAtWorkAndAnExitButtonTellsOfItsPress) {
     ULoadingIndicator indicator;
     indicator.show();
     EXPECT_TRUE(Moves(indicator));
-
     ULoadingBar bar;
     bar.resize(300, 4);
     bar.show();
@@ -71,16 +57,14 @@ TEST_F(Controls, IndicatorsMoveOnlyWhileTheyAreAtWork) {
     EXPECT_TRUE(Moves(bar));
     bar.SetBusy(false);
     EXPECT_EQ(bar.grab().toImage(), idle);
-}
 
-TEST_F(Controls, ExitButtonTellsThatItWasPressed) {
     UExitButton button;
     QSignalSpy exited(&button, &UExitButton::Exited);
     QTest::mouseClick(&button, Qt::LeftButton);
     EXPECT_EQ(exited.count(), 1);
 }
 
-TEST_F(Controls, ElidedLabelCutsAndKeepsTheWholeTextAtHand) {
+TEST_F(Controls, AnElidedLabelCutsAndKeepsTheWholeTextAtHand) {
     const QString name = QStringLiteral("Interactive display in the great lecture hall");
     UElidedLabel label;
     label.SetText(name);
@@ -88,13 +72,11 @@ TEST_F(Controls, ElidedLabelCutsAndKeepsTheWholeTextAtHand) {
     label.show();
     EXPECT_EQ(label.text(), name);
     EXPECT_TRUE(label.toolTip().isEmpty());
-
     label.resize(120, label.height());
     EXPECT_NE(label.text(), name);
     EXPECT_LE(label.fontMetrics().horizontalAdvance(label.text()), 120);
-    EXPECT_EQ(label.toolTip(), name);
-    EXPECT_EQ(label.accessibleName(), name);
-    EXPECT_EQ(label.Text(), name);
+    for (const QString& whole : {label.toolTip(), label.accessibleName(), label.Text()})
+        EXPECT_EQ(whole, name);
 }
 
 } // namespace

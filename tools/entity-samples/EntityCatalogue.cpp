@@ -16,7 +16,11 @@ namespace {
 
 template <class Entity>
 std::shared_ptr<RyxEntity> Make() {
-    return std::shared_ptr<RyxEntity>(new Entity); // make_shared takes twice as long to compile.
+    struct Owner { // Entities have no virtual destructor and die by their exact type.
+        Entity entity;
+    };
+    const auto owner = std::make_shared<Owner>();
+    return {owner, &owner->entity};
 }
 
 const std::map<std::string, std::shared_ptr<RyxEntity> (*)()> makers = {
@@ -82,13 +86,12 @@ std::string Inner(const std::string& type) {
 }
 
 Json::Value DefaultValue(const std::string& type) {
-    if (type.front() == '[')
-        return Json::Value();
     static const std::map<std::string, Json::Value> plain = {
         {"", ""},        {"int", 0},      {"int64", 0},    {"uint64", 0},
         {"bool", false}, {"double", 0.0}, {"numeral", "0"}};
-    const auto found = plain.find(type);
-    return found != plain.end() ? found->second : WrittenBody(FindEntity(type), Json::Value());
+    if (const auto found = plain.find(type); found != plain.end())
+        return found->second;
+    return type.front() == '[' ? Json::Value() : WrittenBody(FindEntity(type), Json::Value());
 }
 
 Json::Value WrittenValue(const std::string& type, const Json::Value& value) {
