@@ -72,6 +72,7 @@ int main(int argc, char** argv) {
     const std::unique_ptr<QFlowLayout> many = MakeLayout(Many);
     const std::unique_ptr<QFlowLayout> few = MakeLayout(Few);
     std::vector<std::unique_ptr<QLayoutItem>> bare;
+    bare.reserve(Many);
     for (int i = 0; i < Many; ++i)
         bare.push_back(std::make_unique<Chip>(i));
 

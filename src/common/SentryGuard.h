@@ -9,7 +9,7 @@ public:
     /// logged and start-up goes on.
     SentryGuard(const std::string& release, const std::wstring& databasePath);
     /// Sends what waits and ends crash reporting.
-    ~SentryGuard();
+    ~SentryGuard(); // NOLINT(performance-trivially-destructible): not where crash reporting is built in
 
     SentryGuard(const SentryGuard&) = delete;
     SentryGuard& operator=(const SentryGuard&) = delete;
