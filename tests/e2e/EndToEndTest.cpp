@@ -254,6 +254,59 @@ TEST_F(EndToEndTest, AKilledFrontEndDoesNotHinderTheNext) {
     EXPECT_EQ(product.LogLines("application is already running!"), 0);
 }
 
+TEST_F(EndToEndTest, ADamagedLockFileDoesNotKeepTheFrontEndFromStarting) {
+    if (product.HasLauncher())
+        GTEST_SKIP() << "the programs' temporary folder is not this one";
+    ASSERT_TRUE(StartBoth());
+    product.FrontEnd().Kill();
+    QDir folder(QString::fromStdString(product.Folder()));
+    const QStringList locks = folder.entryList({QStringLiteral("*.lock")}, QDir::Files);
+    ASSERT_EQ(locks.size(), 1);
+    int started = 1;
+    for (const QByteArray& content : {QByteArray(), QByteArray(64, '\0'), QByteArray("not a number\n")}) {
+        QFile file(folder.filePath(locks.first()));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write(content);
+        file.close();
+        product.StartFrontEnd();
+        EXPECT_TRUE(product.AgentSays("client " + std::to_string(++started) + " received 0 ContextRequest"));
+        EXPECT_EQ(product.LogLines("replaced a damaged lock file"), started - 1);
+        EXPECT_EQ(product.StartAgain({"-hide"}), 0) << "an instance that answers counts";
+        product.FrontEnd().Kill();
+    }
+    // A temporary folder that cannot be written: nothing can be locked there, and nobody answers.
+    ASSERT_TRUE(product.AgentSays("disconnected"));
+    product.SetVariable("TMPDIR=/proc");
+    product.StartFrontEnd();
+    EXPECT_TRUE(screen->WaitForWindow(MainPage::Title));
+    EXPECT_TRUE(product.WaitForLog("cannot write its lock file"));
+}
+
+// The open window, and the lock, only hide when they are closed; they must not keep the session from ending.
+TEST_F(EndToEndTest, NeitherWindowNorLockVetoesTheEndOfTheSession) {
+    if (product.HasLauncher()) {
+        ASSERT_TRUE(StartBoth());
+        product.Tell("lock");
+        ASSERT_TRUE(lock.Wait());
+        const std::string answers = product.Attack("query-end-session", LockScreen::Title);
+        EXPECT_NE(answers.find("answer 1"), std::string::npos) << answers;
+        EXPECT_EQ(answers.find("answer 0"), std::string::npos) << answers;
+        EXPECT_EQ(answers.find("no "), std::string::npos) << answers;
+        return;
+    }
+    ChildProcess session;
+    product.Start(session, Steering::SessionManager, {});
+    ASSERT_TRUE(WaitUntil([&] { return session.Output().find('\n') != std::string::npos; }));
+    product.SetVariable(session.Output().substr(0, session.Output().find('\n')));
+    ASSERT_TRUE(StartBoth());
+    product.Tell("lock");
+    ASSERT_TRUE(lock.Wait());
+    ASSERT_TRUE(WaitUntil([&] { return session.Output().find("client") != std::string::npos; }));
+    session.Write("end\n");
+    EXPECT_TRUE(WaitUntil([&] { return session.Output().find("agreed") != std::string::npos; }));
+    EXPECT_EQ(session.Output().find("refused"), std::string::npos);
+}
+
 TEST_F(EndToEndTest, AnImpostorIsRefusedAndToldNothing) {
     product.Configure("agentAccount", QLatin1String("daemon"));
     std::vector<std::string> asAnother;

@@ -72,18 +72,20 @@ RunningProduct::Words RunningProduct::Environment() const {
     // noon or a little later, so that a lock until the evening never crosses midnight.
     const std::time_t now = std::time(nullptr);
     const int hoursToNoon = 12 - static_cast<int>(now / 3600 % 24);
-    return {"DISPLAY=" + m_desktop.Display(),
-            "TMPDIR=" + Folder(),
-            "VELMORA_RYX_CONFIG=" + PathForPrograms(Folder() + "/ryx.json"),
-            "TZ=RYX" + std::to_string(-hoursToNoon),
-            "WAYLAND_DISPLAY",
-            "SESSION_MANAGER",
-            "DBUS_SESSION_BUS_ADDRESS=disabled:", // without it each program starts a bus that stays
-            "XDG_SESSION_ID",
-            "QT_QPA_PLATFORM",
-            "QT_SCALE_FACTOR=" + std::to_string(m_scale),
-            "QT_IM_MODULE",
-            "XMODIFIERS"};
+    Words words{"DISPLAY=" + m_desktop.Display(),
+                "TMPDIR=" + Folder(),
+                "VELMORA_RYX_CONFIG=" + PathForPrograms(Folder() + "/ryx.json"),
+                "TZ=RYX" + std::to_string(-hoursToNoon),
+                "WAYLAND_DISPLAY",
+                "SESSION_MANAGER",
+                "DBUS_SESSION_BUS_ADDRESS=disabled:", // without it each program starts a bus that stays
+                "XDG_SESSION_ID",
+                "QT_QPA_PLATFORM",
+                "QT_SCALE_FACTOR=" + std::to_string(m_scale),
+                "QT_IM_MODULE",
+                "XMODIFIERS"};
+    words.insert(words.end(), m_variables.begin(), m_variables.end());
+    return words;
 }
 
 void RunningProduct::Start(ChildProcess& process, const Program& program, const Words& arguments,
@@ -94,6 +96,17 @@ void RunningProduct::Start(ChildProcess& process, const Program& program, const 
     command.push_back(chosen.empty() ? std::string(RYX_BIN_DIR "/") + program.name : chosen);
     command.insert(command.end(), arguments.begin(), arguments.end());
     process.Start(command, Environment(), errorFile.empty() ? errorFile : Folder() + '/' + errorFile);
+}
+
+std::string RunningProduct::Attack(const std::string& command, const std::string& title) {
+    ChildProcess& attacker = m_attackers.emplace_back();
+    const auto blank = command.find(' ');
+    Words words{command.substr(0, blank), title};
+    if (blank != std::string::npos)
+        words.push_back(command.substr(blank + 1));
+    Start(attacker, Steering::Attack, words);
+    WaitUntil([&] { return CountOf(attacker.Output(), "done") > 0 || !attacker.IsRunning(); });
+    return attacker.Output();
 }
 
 bool RunningProduct::StartAgent(const Words& arguments, const Words& before) {

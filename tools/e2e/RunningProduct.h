@@ -5,6 +5,7 @@
 
 #include <QJsonObject>
 #include <QTemporaryDir>
+#include <list>
 #include <optional>
 #include <string>
 #include <vector>
@@ -23,6 +24,8 @@ constexpr char Launcher[] = "RYX_E2E_LAUNCHER"; ///< words that start every prog
 constexpr Program FrontEnd{"RYX_E2E_FRONTEND", "velmora-ryx"};
 constexpr Program Agent{"RYX_E2E_AGENT", "ryx-agent"};
 constexpr Program ForeignWindow{"RYX_E2E_FOREIGN", "foreign_window"}; // needed where there is a launcher
+constexpr Program Attack{"RYX_E2E_ATTACK", "ryx-attack"};
+constexpr Program SessionManager{"RYX_E2E_SESSION_MANAGER", "ryx-session-manager"};
 } // namespace Steering
 
 /// The product's two programs, in a temporary folder with a configuration, a log and a pipe of their own,
@@ -40,6 +43,9 @@ public:
     /// The desktop's scale, such as 1.5; counts from the next start of the front end.
     void SetScale(double scale) { m_scale = scale; }
     double Scale() const { return m_scale; }
+
+    /// Changes a variable of the programs' environment, as "NAME=value"; counts from the next start.
+    void SetVariable(const std::string& word) { m_variables.push_back(word); }
 
     /// Starts the agent service, behind the words of `before` if there are any, and waits until it listens.
     bool StartAgent(const Words& arguments = {}, const Words& before = {});
@@ -61,6 +67,9 @@ public:
     /// product's folder, or nowhere.
     void Start(ChildProcess& process, const Program& program, const Words& arguments,
                const std::string& errorFile = {}, const Words& before = {}) const;
+    /// Lets a foreign program do something to the window with this title, as tools/e2e/Attack.cpp and
+    /// tools/windows/Attack.cpp list it, and waits until it is done; what it has printed.
+    std::string Attack(const std::string& command, const std::string& title);
     bool HasLauncher() const { return !m_launcher.empty(); }
 
     ChildProcess& Agent() { return m_agent; }
@@ -87,7 +96,9 @@ private:
     QJsonObject m_configuration;
     std::string m_pipe;
     double m_scale = 1;
+    Words m_variables;
     ChildProcess m_agent;
     ChildProcess m_frontEnd;
-    std::size_t m_agentRead = 0; // of the agent service's output, what AgentSays has passed
+    std::list<ChildProcess> m_attackers; // some of them stay
+    std::size_t m_agentRead = 0;         // of the agent service's output, what AgentSays has passed
 };
