@@ -27,7 +27,7 @@ struct RyxEntity;
 #define RYX_KEY(field) key(#field, self.field)
 
 #define RYX_KEYS(...)                                                                                        \
-    static constexpr entity::NameList KeyNames{#__VA_ARGS__};                                                \
+    static constexpr entity::NameList<sizeof(#__VA_ARGS__)> KeyNames{#__VA_ARGS__};                          \
     template <class Side>                                                                                    \
     void Fold(const Side& key) {                                                                             \
         entity::FoldKeys(key, KeyNames.text, __VA_ARGS__);                                                   \

@@ -1,5 +1,7 @@
 #include "EntityCatalogue.h"
 
+#include "entity/AppEntities.h"
+#include "entity/DeviceTaskEntities.h"
 #include "entity/IotEntities.h"
 #include "entity/SettingsEntities.h"
 
@@ -8,6 +10,7 @@
 #include <stdexcept>
 #include <string>
 #include <type_traits>
+#include <vector>
 
 // Bodies are compared as text, which also checks that it is the library's styled text.
 
@@ -70,6 +73,18 @@ TEST(EntityTest, SpecialBodies) {
             }
         }
     }
+}
+
+TEST(EntityTest, FieldsWhoseKeysDifferHoldWhatTheirNamesSay) {
+    AppInfoParams app;
+    app.ReadFromString(R"({"md5": "m", "url": "u", "appName": "a", "silentParams": "s"})");
+    EXPECT_EQ(app.md5 + app.url + app.appName + app.silentParams, "muas");
+
+    ScreenControlDataRequest input;
+    input.ReadFromString(R"({"type": 5, "x": "1", "y": "2", "event": 3, "code": 4})");
+    input.ReadFromString(R"({"type": 8, "arg1": 5})");
+    EXPECT_EQ(std::vector<double>({input.x, input.y}), std::vector<double>({1, 2}));
+    EXPECT_EQ(std::vector<int>({input.event, input.code, input.arg1}), std::vector<int>({3, 4, 5}));
 }
 
 TEST(EntityTest, TextThatDoesNotParseLeavesTheEntityUnchanged) {
