@@ -61,7 +61,7 @@ struct Agent : testing::Test {
 
 TEST_F(Agent, SendsToEveryClientAndAnswersTheOneThatAsks) {
     const auto hash = [](const char* digits) { return PasswordHelper::HashVelmoraPassword(digits); };
-    std::ofstream(Path("body")) << "{\n \"a\": 1 }\n";
+    std::ofstream(Path("body"), std::ios::binary) << "{\n \"a\": 1 }\n";
     ASSERT_TRUE(Play("status connecting\npassword 000111\n"));
     Client first(pipe), second(pipe);
     const struct {
