@@ -10,6 +10,7 @@
 #include "lock/UDeviceScreenLock.h"
 #include "platform/ProductConstants.h"
 #include "platform/application/QtSingleApplication.h"
+#include "platform/application/Watchdog.h"
 #include "platform/context/AppHelper.h"
 #include "platform/link/PipeClientService.h"
 #include "platform/security/LogText.h"
@@ -53,6 +54,20 @@ std::wstring CrashDatabasePath() {
     return (QDir(QDir::tempPath()).absolutePath() + QStringLiteral("/sentry-ryx-user")).toStdWString();
 }
 
+/// Runs the event loop until the session ends, or whatever else ends it while the screen is not locked: a
+/// message that any program may send is no way past the lock.
+int Execute(QApplication& application, const UDeviceScreenLock& screenLock) {
+    bool wasAskedToSave = false;
+    QObject::connect(&application, &QGuiApplication::commitDataRequest,
+                     [&wasAskedToSave] { wasAskedToSave = true; });
+    for (;;) {
+        const int result = QApplication::exec();
+        if (!screenLock.isVisible() || SystemSession::Native().IsEnding(wasAskedToSave))
+            return result;
+        LOG(WARNING) << "UserApp::Execute goes on: the screen is locked, and the session does not end";
+    }
+}
+
 /// The link runs while this lives.
 struct PipeLinkGuard {
     PipeLinkGuard() { PipeClientService::Instance()->Start(); }
@@ -76,6 +91,7 @@ int UserApp::Run(int argc, char** argv) {
         return 0;
     }
     application.setProperty("IsUser", true);
+    SystemSession::Native().ProtectProcess();
     SystemWindows::Native().AllowTakingForeground();
 
     const LoggerGuard logger(true, "User");
@@ -108,16 +124,23 @@ int UserApp::Run(int argc, char** argv) {
     application.setProperty("controllers", QVariant::fromValue(controllers));
     for (ControllerBase* controller : std::set<ControllerBase*>(controllers.begin(), controllers.end()))
         controller->SetService(PipeClientService::Instance());
+    Watchdog watchdog;
+    UDeviceScreenLock screenLock;
+    connect(&screenLock, &UDeviceScreenLock::VisibleChanged, &watchdog, &Watchdog::SetLocked);
+    connect(&screenLock, &UDeviceScreenLock::Lost, [] {
+        LOG(ERROR) << "UserApp::Run ends: the lock's window was destroyed, only a new start can lock again";
+        Watchdog::EndProcess();
+    });
+    screenLock.Resume();
     const PipeLinkGuard link;
 
     MainWindow window;
-    const UDeviceScreenLock screenLock;
     application.setActivationWindow(&window, true);
     if (application.arguments().contains(QStringLiteral("-hide")))
         SystemWindows::Native().CreateHidden(window);
     else
         window.show();
-    return QApplication::exec();
+    return Execute(application, screenLock);
 }
 
 void UserApp::OnOtherInstanceMessageReceived(const QString& message) {

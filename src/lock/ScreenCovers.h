@@ -2,11 +2,13 @@
 
 #include <QObject>
 #include <QRect>
+#include <QVector>
 #include <memory>
 #include <vector>
 
-class QScreen;
 class QWidget;
+class SystemWindows;
+class WindowKeeper;
 
 /// Blank windows over every screen but the primary one, so that nothing can be used beside a lock.
 /// GUI thread.
@@ -15,21 +17,29 @@ class ScreenCovers : public QObject {
 
 public:
     /// `level` is the covers' dynamic property "TopLevel".
-    explicit ScreenCovers(int level);
+    ScreenCovers(int level, const SystemWindows& system);
     ~ScreenCovers() override;
 
-    /// Where a window leaves no pixel of the screen open. Unlike the screen's own geometry, which is rounded
-    /// to device-independent pixels, it is never smaller than a screen that its scale does not divide.
-    static QRect WholePlace(const QScreen& screen);
-
-    void Show();
+    /// Covers exactly these places, in physical pixels. A place that is covered already stays so without a
+    /// moment's break.
+    void Show(const QVector<QRect>& places);
     void Hide();
 
+    /// Looks after every cover.
+    void Check();
+
 signals:
-    /// A screen came, went, or changed its size or place.
-    void ScreensChanged();
+    void Lost();
 
 private:
+    struct Cover {
+        std::unique_ptr<QWidget> window;
+        std::unique_ptr<WindowKeeper> keeper; // goes first
+    };
+
+    Cover Make(const QRect& place);
+
     const int m_level;
-    std::vector<std::unique_ptr<QWidget>> m_covers;
+    const SystemWindows& m_system;
+    std::vector<Cover> m_covers;
 };

@@ -23,20 +23,38 @@ TopmostCover::TopmostCover(QWidget& window, Keyboard keyboard, const SystemWindo
       m_holdsKeyboard(keyboard == Keyboard::Hold),
       m_windows(windows),
       m_input(input),
-      m_covers(window.property("TopLevel").toInt() - 1) {
+      m_keeper(window, windows),
+      m_covers(window.property("TopLevel").toInt() - 1, windows) {
     m_second.setObjectName(QStringLiteral("coverTimer"));
     m_second.setInterval(LookAfterMs);
     connect(&m_second, &QTimer::timeout, this, &TopmostCover::LookAfter);
-    connect(&m_covers, &ScreenCovers::ScreensChanged, this, [this] {
-        if (m_window.isVisible())
-            CoverScreens();
+    connect(&m_keeper, &WindowKeeper::Restored, this, [this] {
+        HoldKeyboard(); // a window that was hidden has lost it
+        FetchFocus();
     });
+    connect(&m_keeper, &WindowKeeper::Lost, this, &TopmostCover::Lost);
+    connect(&m_covers, &ScreenCovers::Lost, this, &TopmostCover::Lost);
+    const auto coverScreens = [this] {
+        if (m_keeper.IsKeeping())
+            CoverScreens();
+    };
+    const auto watch = [this, coverScreens](QScreen* screen) {
+        connect(screen, &QScreen::geometryChanged, this, coverScreens);
+    };
+    for (QScreen* screen : QGuiApplication::screens())
+        watch(screen);
+    connect(qApp, &QGuiApplication::screenAdded, this, [watch, coverScreens](QScreen* screen) {
+        watch(screen);
+        coverScreens();
+    });
+    connect(qApp, &QGuiApplication::screenRemoved, this, coverScreens);
+    connect(qApp, &QGuiApplication::primaryScreenChanged, this, coverScreens);
     WindowStack::Instance()->PushWindow(&m_window);
     m_window.installEventFilter(this);
 }
 
 TopmostCover::~TopmostCover() {
-    if (m_window.isVisible())
+    if (m_keeper.IsKeeping())
         Uncover();
 }
 
@@ -56,11 +74,16 @@ void TopmostCover::Raise() {
 
 void TopmostCover::Cover() {
     CoverScreens();
-    m_window.activateWindow();
+    m_windows.Activate(m_window);
     m_second.start();
 }
 
+void TopmostCover::Release() {
+    m_keeper.Release();
+}
+
 void TopmostCover::Uncover() {
+    Release();
     m_second.stop();
     m_covers.Hide();
     if (m_holdsKeyboard)
@@ -68,8 +91,9 @@ void TopmostCover::Uncover() {
 }
 
 void TopmostCover::CoverScreens() {
-    m_window.setGeometry(ScreenCovers::WholePlace(*QGuiApplication::primaryScreen()));
-    m_covers.Show();
+    QVector<QRect> places = m_windows.ScreenPlaces();
+    m_keeper.Keep(places.takeFirst());
+    m_covers.Show(places);
     Raise();
     HoldKeyboard();
 }
@@ -82,18 +106,20 @@ void TopmostCover::HoldKeyboard() {
 // Only the highest window fetches it: two that both did would take it from each other for ever.
 void TopmostCover::FetchFocus() {
     if (m_window.isVisible() && !m_window.isActiveWindow() && WindowStack::Instance()->Highest() == &m_window)
-        m_window.activateWindow();
+        m_windows.Activate(m_window);
 }
 
 void TopmostCover::LookAfter() {
-    if (QApplication::activePopupWidget())
-        ClosePopups();
+    ClosePopups();
     WindowStack::Instance()->Restack();
+    m_keeper.Check();
+    m_covers.Check();
+    HoldKeyboard();
     FetchFocus();
 }
 
 bool TopmostCover::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::ActivationChange && m_window.isVisible()) {
+    if (event->type() == QEvent::ActivationChange && m_keeper.IsKeeping()) {
         // Another program took the focus: fetch it back, and with it the keyboard that could switch windows.
         if (m_window.isActiveWindow())
             HoldKeyboard();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "lock/ScreenCovers.h"
+#include "lock/WindowKeeper.h"
 
 #include <QObject>
 #include <QTimer>
@@ -10,8 +11,8 @@ class SystemInput;
 class SystemWindows;
 
 /// Keeps a window over the whole desktop while it is shown: above everything of a lower level, on every
-/// screen, with the focus and, if it wants so, with the keyboard held from the system. Looks after that
-/// each second, for nobody tells of everything that may happen to a window. GUI thread.
+/// screen, with the focus and, if it wants so, with the keyboard held from the system. What others change is
+/// undone at once where the system tells, and each second besides. GUI thread.
 class TopmostCover : public QObject {
     Q_OBJECT
 
@@ -33,10 +34,17 @@ public:
     /// Covers every screen and takes what the window must have. To be called when the window is shown.
     void Cover();
 
-    /// Gives everything back. To be called when the window is hidden.
+    /// Lets go of the window, which is about to be hidden: nothing of it is kept any more.
+    void Release();
+
+    /// Gives everything else back. To be called when the window is hidden.
     void Uncover();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
+
+signals:
+    /// A window that covers the desktop was destroyed from outside: only a new start can cover it again.
+    void Lost();
 
 private:
     void CoverScreens();
@@ -48,6 +56,7 @@ private:
     const bool m_holdsKeyboard;
     const SystemWindows& m_windows;
     const SystemInput& m_input;
+    WindowKeeper m_keeper;
     ScreenCovers m_covers;
     QTimer m_second{this};
 };

@@ -3,8 +3,10 @@
 #include "entity/SettingsEntities.h"
 #include "platform/ProductConstants.h"
 #include "platform/context/AppContextData.h"
+#include "platform/context/RyxPath.h"
 #include "platform/link/PipeClientService.h"
 #include "platform/security/LogText.h"
+#include "platform/system/SystemSession.h"
 #include "ui_UDeviceScreenLock.h"
 
 #include <QCloseEvent>
@@ -21,7 +23,12 @@ constexpr int RelockIdleSeconds = 1200;
 
 UDeviceScreenLock::UDeviceScreenLock(const Clock& clock, const SystemWindows& windows,
                                      const SystemInput& input)
-    : m_clock(clock), m_ui(std::make_unique<Ui::UDeviceScreenLock>()), m_idleTimer(input, this) {
+    : m_clock(clock),
+      m_ui(std::make_unique<Ui::UDeviceScreenLock>()),
+      m_windows(windows),
+      m_marker(QString::fromStdWString(RyxPath::GetUserDataDir()) + QStringLiteral("/lock.json"),
+               SystemSession::Native().BootId(), clock),
+      m_idleTimer(input, this) {
     Initialization();
     m_cover = std::make_unique<TopmostCover>(*this, TopmostCover::Keyboard::Hold, windows, input);
     InitConnect();
@@ -49,6 +56,8 @@ void UDeviceScreenLock::InitConnect() {
     connect(m_ui->enterPasswordButton, &QPushButton::clicked, this, &UDeviceScreenLock::ShowPasswordView);
     connect(m_ui->passwordPart, &PasswordPad::Used, this, [this] { m_backTimer.start(); });
     connect(m_ui->passwordPart, &PasswordPad::Completed, this, &UDeviceScreenLock::OnPasswordCompleted);
+    connect(m_cover.get(), &TopmostCover::Lost, this, &UDeviceScreenLock::Lost);
+    connect(AppContextData::Instance(), &AppContextData::Changed, this, &UDeviceScreenLock::UpdateNotes);
     connect(&m_backTimer, &QTimer::timeout, this, &UDeviceScreenLock::ShowMessageView);
     connect(&m_unlockTimer, &QTimer::timeout, this, &UDeviceScreenLock::OnUnlockTimer);
     connect(&m_idleTimer, &IdleTimer::Timeout, this, &UDeviceScreenLock::OnIdle);
@@ -63,6 +72,7 @@ void UDeviceScreenLock::OnPipeDataReceived(PipeKey key, const std::string& body)
         Release();
         break;
     case PipeKey::ScreenUnlock:
+        m_marker.Remove();
         hide();
         break;
     case PipeKey::UnlockPasswordUpdate:
@@ -91,9 +101,19 @@ void UDeviceScreenLock::ProcessLock(const std::string& body) {
     m_idleTimer.Stop();
 }
 
+void UDeviceScreenLock::Resume() {
+    const std::optional<EndTime> end = m_marker.Read();
+    if (!end)
+        return;
+    LOG(INFO) << "UDeviceScreenLock::Resume locks as before the program ended";
+    m_end = *end;
+    UpdateUI();
+}
+
 void UDeviceScreenLock::Release() {
     m_end = {};
     m_ui->passwordPart->Clear();
+    m_marker.Remove();
     hide();
     m_idleTimer.Stop();
 }
@@ -102,6 +122,7 @@ void UDeviceScreenLock::UpdateUI() {
     UpdateTexts();
     ShowMessageView();
     TopmostCover::ClosePopups();
+    m_marker.Write(m_end);
     show();
 }
 
@@ -113,6 +134,16 @@ void UDeviceScreenLock::UpdateTexts() {
     m_ui->enterPasswordButton->setText(tr("remote_x_btn_enter_pwd"));
     m_ui->passwordTitle->setText(tr("lock_password_title"));
     setWindowTitle(tr("lock_window_title"));
+    UpdateNotes();
+}
+
+void UDeviceScreenLock::UpdateNotes() {
+    // Digits are compared with what the service sends. A hash kept in a file of the user's would be a way in.
+    const bool waits = AppContextData::Instance()->UnlockPassword().empty();
+    m_ui->waitLabel->setText(tr("lock_waits_for_service"));
+    m_ui->waitLabel->setVisible(waits && !m_ui->passwordPart->isHidden());
+    m_ui->cannotHoldLabel->setText(tr("lock_cannot_hold"));
+    m_ui->cannotHoldLabel->setVisible(!m_windows.CanCover());
 }
 
 void UDeviceScreenLock::ShowMessageView() {
@@ -122,6 +153,7 @@ void UDeviceScreenLock::ShowMessageView() {
     m_ui->passwordTitlePart->hide();
     m_ui->passwordPart->hide();
     m_ui->enterPasswordButton->setFocus();
+    UpdateNotes();
 }
 
 void UDeviceScreenLock::ShowPasswordView() {
@@ -130,6 +162,7 @@ void UDeviceScreenLock::ShowPasswordView() {
     m_ui->passwordPart->show();
     m_ui->passwordPart->FocusBox(0);
     m_backTimer.start();
+    UpdateNotes();
 }
 
 void UDeviceScreenLock::OnPasswordCompleted() {
@@ -140,6 +173,7 @@ void UDeviceScreenLock::OnPasswordCompleted() {
         m_backTimer.start();
         return;
     }
+    m_marker.Remove();
     hide();
     PipeClientService::Instance()->Send(PipeKey::ScreenUnlock);
     if (m_end.IsSet())
@@ -158,12 +192,20 @@ void UDeviceScreenLock::OnIdle() {
         UpdateUI();
 }
 
+void UDeviceScreenLock::setVisible(bool visible) {
+    if (!visible && m_cover)
+        m_cover->Release();
+    QWidget::setVisible(visible);
+}
+
 void UDeviceScreenLock::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     m_cover->Raise();
     emit VisibleChanged(true);
     m_cover->Cover();
     m_unlockTimer.start();
+    LOG_IF(WARNING, !m_windows.CanCover()) << "UDeviceScreenLock::showEvent the desktop lets no window stay "
+                                              "above all others: the lock cannot hold";
 }
 
 void UDeviceScreenLock::hideEvent(QHideEvent* event) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "lock/EndTime.h"
+#include "lock/LockMarker.h"
 #include "lock/TopmostCover.h"
 #include "platform/application/Clock.h"
 #include "platform/application/IdleTimer.h"
@@ -18,7 +19,8 @@ class UDeviceScreenLock;
 }
 
 /// The lock that the service puts over the screen, until it says otherwise or until a time of day.
-/// Six right digits release it. Listens to the pipe by itself. GUI thread.
+/// Six right digits release it. Listens to the pipe by itself. A lock in force leaves a marker, with which
+/// the next start of the program locks again. GUI thread.
 class UDeviceScreenLock : public QWidget {
     Q_OBJECT
 
@@ -28,8 +30,15 @@ public:
                                const SystemInput& input = SystemInput::Native());
     ~UDeviceScreenLock() override;
 
+    /// Shows the lock that was in force when the program ended last, if it still is.
+    void Resume();
+
+    void setVisible(bool visible) override;
+
 signals:
     void VisibleChanged(bool visible);
+    /// What covers the screen was destroyed from outside: only a new start of the program can lock again.
+    void Lost();
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -46,6 +55,7 @@ private:
 
     void UpdateUI();
     void UpdateTexts();
+    void UpdateNotes();
     void ShowMessageView();
     void ShowPasswordView();
 
@@ -55,6 +65,8 @@ private:
 
     const Clock& m_clock;
     std::unique_ptr<Ui::UDeviceScreenLock> m_ui;
+    const SystemWindows& m_windows;
+    const LockMarker m_marker;
     std::unique_ptr<TopmostCover> m_cover;
     QTimer m_backTimer{this};
     QTimer m_unlockTimer{this};

@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <algorithm>
 #include <csignal>
 #include <gtest/gtest.h>
 #include <list>
@@ -242,17 +243,92 @@ TEST_F(EndToEndTest, StartedHiddenTheWindowIsNeverSeenUntilASecondStart) {
     EXPECT_TRUE(mainPage.WaitForStatus(MainPage::Connected));
 }
 
-TEST_F(EndToEndTest, AKilledFrontEndDoesNotHinderTheNext) {
+TEST_F(EndToEndTest, AKilledFrontEndLocksAgainAtItsNextStart) {
     ASSERT_TRUE(StartBoth());
     product.Tell("lock");
     ASSERT_TRUE(lock.Wait());
     product.FrontEnd().Kill();
     ASSERT_TRUE(product.AgentSays("client 1 disconnected"));
+    product.Agent().Kill();
     product.StartFrontEnd();
-    EXPECT_TRUE(product.AgentSays("client 2 received 0 ContextRequest"));
-    EXPECT_TRUE(mainPage.WaitForStatus(MainPage::Connected));
+    ASSERT_TRUE(lock.Wait()) << "before there is a service";
     EXPECT_EQ(product.LogLines("application is already running!"), 0);
+    ASSERT_TRUE(product.StartAgent());
+    EXPECT_TRUE(product.AgentSays("received 12 OtaVersionInfo"));
+    ASSERT_TRUE(lock.OpenPasswordBoxes());
+    screen->Type("123456");
+    EXPECT_TRUE(product.AgentSays("received 35 ScreenUnlock"));
+    EXPECT_TRUE(lock.WaitUntilGone());
 }
+
+struct AttackCase {
+    const char* command;
+    bool ends; ///< the front end's process ends, and its supervisor starts it again
+};
+
+std::vector<AttackCase> Attacks() {
+    if (qEnvironmentVariableIsSet(Steering::Launcher))
+        return {{"hide", false},
+                {"hide-in-place", false},
+                {"minimise", false},
+                {"force-minimise", false},
+                {"system-minimise", false},
+                {"move", false},
+                {"shrink", false},
+                {"disable", false},
+                {"region", false},
+                {"transparent", false},
+                {"untop", false},
+                {"bottom", false},
+                {"adopt", false},
+                {"close", false},
+                {"quit", false},
+                {"end-session", false},
+                {"raise 100", false},
+                {"hot-key", false},
+                {"kill", true}};
+    return {{"hide", false},   {"minimise", false},     {"move", false},        {"shrink", false},
+            {"region", false}, {"input-region", false}, {"transparent", false}, {"bottom", false},
+            {"adopt", false},  {"close", false},        {"raise 100", false},   {"grab", false},
+            {"destroy", true}, {"kill-client", true},   {"kill", true}};
+}
+
+class LockUnderAttack : public EndToEndTest, public testing::WithParamInterface<AttackCase> {};
+
+TEST_P(LockUnderAttack, IsWholeAgainWithinTwoSecondsAndOpensWithTheDigits) {
+    const auto [command, ends] = GetParam();
+    ASSERT_TRUE(StartBoth());
+    product.Tell("lock");
+    ASSERT_TRUE(lock.Wait());
+    const std::string printed = product.Attack(command, LockScreen::Title);
+    ASSERT_NE(printed.find("done"), std::string::npos) << printed;
+    if (ends) {
+        EXPECT_TRUE(WaitUntil([&] { return !product.FrontEnd().IsRunning(); }, std::chrono::seconds(2)));
+        product.StartFrontEnd();
+        EXPECT_TRUE(lock.Wait());
+    } else {
+        // Whole for a while: an attack may take its time, and so may a fault of the restoring.
+        EXPECT_TRUE(WaitUntil([&] { return lock.IsWhole(); }, std::chrono::seconds(2)));
+        EXPECT_FALSE(WaitUntil([&] { return !lock.IsWhole(); }, std::chrono::milliseconds(500)));
+        screen->Press("k", {"Control_L", "Alt_L"});
+        EXPECT_TRUE(product.FrontEnd().IsRunning());
+    }
+    screen->Screenshot().save(QDir::current().filePath(
+        QStringLiteral("attack-%1.png").arg(QString::fromLatin1(command).section(QLatin1Char(' '), 0, 0))));
+    EXPECT_EQ(product.AttackersSay("hot key"), 0);
+    product.EndAttacks(); // what only holds the input back ends; the lock stays
+    ASSERT_TRUE(lock.OpenPasswordBoxes());
+    screen->Type("123456");
+    EXPECT_TRUE(product.AgentSays("received 35 ScreenUnlock"));
+    EXPECT_TRUE(lock.WaitUntilGone());
+}
+
+INSTANTIATE_TEST_SUITE_P(Attack, LockUnderAttack, testing::ValuesIn(Attacks()), [](const auto& attack) {
+    std::string name = attack.param.command;
+    std::replace_if(
+        name.begin(), name.end(), [](char c) { return c == '-' || c == ' '; }, '_');
+    return name;
+});
 
 TEST_F(EndToEndTest, ADamagedLockFileDoesNotKeepTheFrontEndFromStarting) {
     if (product.HasLauncher())

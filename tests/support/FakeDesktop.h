@@ -3,10 +3,14 @@
 #include "platform/system/SystemInput.h"
 #include "platform/system/SystemWindows.h"
 
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWidget>
 #include <gtest/gtest.h>
+#include <map>
 #include <vector>
 
-/// Windows that do nothing but remember what was asked of them.
+/// Windows that do nothing but remember what was asked of them; facts and screens are scripted.
 class FakeWindows : public SystemWindows {
 public:
     void AllowTakingForeground() const override {}
@@ -16,8 +20,33 @@ public:
         EXPECT_EQ(order.empty() ? 0 : order.back(), above);
         order.push_back(window);
     }
+    QVector<QRect> ScreenPlaces() const override { return screens; }
+    bool CanCover() const override { return true; }
+    void PrepareCover(QWidget&, const QColor&) const override {}
+    void Guard(WId window, const QRect&, const std::function<void()>& changed) const override {
+        guarded[window] = changed;
+    }
+    void Unguard(WId window) const override { guarded.erase(window); }
+    std::optional<Facts> FactsOf(WId window) const override { return facts[window]; }
+    void Restore(WId window, const QRect& place) const override {
+        ++restored;
+        facts[window] = Facts();
+        facts[window]->place = place;
+    }
+    void Activate(QWidget& window) const override { window.activateWindow(); }
+
+    /// Another program changes a window; the system tells of it, or keeps it to itself.
+    void Change(WId window, const Facts& changed, bool tells) {
+        facts[window] = changed;
+        if (tells)
+            guarded.at(window)();
+    }
 
     mutable std::vector<WId> order; // the highest first
+    mutable std::map<WId, std::function<void()>> guarded;
+    mutable std::map<WId, std::optional<Facts>> facts;
+    mutable int restored = 0;
+    QVector<QRect> screens{QGuiApplication::primaryScreen()->geometry()};
 };
 
 /// An input that remembers who has the keyboard, with a scripted idle time.

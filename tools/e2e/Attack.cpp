@@ -4,7 +4,7 @@
 //   hide, minimise, move, shrink, region, transparent, bottom, adopt, close, destroy
 //   kill-client, kill       cuts the program off the server; ends its process
 //   raise NUMBER            shows a window that no window manager sees and lifts it so many times; stays
-//   grab                    takes keyboard and pointer; stays
+//   grab                    takes keyboard and pointer, if it can within a second; stays
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
@@ -103,12 +103,15 @@ void Raise(int times) {
     Stay();
 }
 
+/// Tries for a second, for somebody else may have them.
 void Grab() {
     const Window root = DefaultRootWindow(display);
-    while (XGrabKeyboard(display, root, False, GrabModeAsync, GrabModeAsync, CurrentTime) != GrabSuccess ||
-           XGrabPointer(display, root, False, ButtonPressMask, GrabModeAsync, GrabModeAsync, None, None,
-                        CurrentTime) != GrabSuccess)
+    for (int attempt = 0; attempt < 100; ++attempt) {
+        XGrabKeyboard(display, root, False, GrabModeAsync, GrabModeAsync, CurrentTime);
+        XGrabPointer(display, root, False, ButtonPressMask, GrabModeAsync, GrabModeAsync, None, None,
+                     CurrentTime);
         ::usleep(10000);
+    }
     Stay();
 }
 

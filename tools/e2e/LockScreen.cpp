@@ -10,10 +10,8 @@ const QColor LockScreen::Surface("#26394D");
 QImage LockScreen::Picture() const {
     const QRect screen(QPoint(0, 0), m_desktop.Size());
     const auto lock = m_desktop.Find(Title);
-    if (!lock || !lock->place.contains(screen) || m_desktop.TopmostTitle() != Title)
-        return {};
-    // No further beyond it than rounding needs; scaled, the contents may need more than a small screen has.
-    if (m_product.Scale() <= 1 && !screen.adjusted(0, 0, 2, 2).contains(lock->place))
+    // Exactly: no pixel of the screen is open, and none beside it is covered.
+    if (!lock || lock->place != screen || m_desktop.TopmostTitle() != Title)
         return {};
     QImage picture = m_desktop.Screenshot();
     for (const QPoint& corner :

@@ -13,10 +13,12 @@ public:
     /// The look is the same in every theme.
     static const QColor Background, Accent, Surface;
 
-    explicit LockScreen(const RunningProduct& product) : m_product(product), m_desktop(product.Screen()) {}
+    explicit LockScreen(const RunningProduct& product) : m_desktop(product.Screen()) {}
 
     /// Waits until the lock covers the whole screen, above everything else, and shows its message.
     bool Wait() const;
+    /// Covers the whole screen, above everything else.
+    bool IsWhole() const { return !Picture().isNull(); }
     bool WaitUntilGone() const { return m_desktop.WaitForNoWindow(Title); }
 
     /// Presses the button of the message and waits for the six boxes.
@@ -27,6 +29,5 @@ public:
 private:
     QImage Picture() const;
 
-    const RunningProduct& m_product;
     Desktop& m_desktop;
 };

@@ -51,6 +51,7 @@ RunningProduct::RunningProduct(Desktop& desktop)
     Configure("pipeName", QString::fromStdString(m_pipe));
     Configure("agentAccount", SystemPipe::Native().CurrentAccount());
     Configure("logFolder", QString::fromStdString(PathForPrograms(Folder() + "/log")));
+    Configure("dataFolder", QString::fromStdString(PathForPrograms(Folder() + "/data")));
     Configure("deviceName", QLatin1String("Room 4.12"));
     Configure("language", QLatin1String("en"));
 }
@@ -107,6 +108,13 @@ std::string RunningProduct::Attack(const std::string& command, const std::string
     Start(attacker, Steering::Attack, words);
     WaitUntil([&] { return CountOf(attacker.Output(), "done") > 0 || !attacker.IsRunning(); });
     return attacker.Output();
+}
+
+int RunningProduct::AttackersSay(const std::string& text) {
+    int count = 0;
+    for (ChildProcess& attacker : m_attackers)
+        count += CountOf(attacker.Output(), text);
+    return count;
 }
 
 bool RunningProduct::StartAgent(const Words& arguments, const Words& before) {

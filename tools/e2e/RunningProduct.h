@@ -70,6 +70,9 @@ public:
     /// Lets a foreign program do something to the window with this title, as tools/e2e/Attack.cpp and
     /// tools/windows/Attack.cpp list it, and waits until it is done; what it has printed.
     std::string Attack(const std::string& command, const std::string& title);
+    /// How many of their lines contain `text`; ends those that stay.
+    int AttackersSay(const std::string& text);
+    void EndAttacks() { m_attackers.clear(); }
     bool HasLauncher() const { return !m_launcher.empty(); }
 
     ChildProcess& Agent() { return m_agent; }

@@ -15,6 +15,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDir>
 #include <QMenu>
 #include <QPushButton>
 #include <QSystemTrayIcon>
@@ -187,6 +188,12 @@ QVector<Scene> OtherScenes() {
              UDeviceScreenLock& lock = Lock(stage, "{}");
              lock.findChild<QPushButton*>(QStringLiteral("enterPasswordButton"))->click();
          }},
+        {QStringLiteral("lock-waits-for-service"), true,
+         [](Stage& stage) {
+             UDeviceScreenLock& lock = Lock(stage, "{}");
+             AppContextData::Instance()->SetUnlockPassword({});
+             lock.findChild<QPushButton*>(QStringLiteral("enterPasswordButton"))->click();
+         }},
     };
 }
 
@@ -197,12 +204,14 @@ Stage::Stage(bool enrolled) : m_controller(std::make_unique<MainController>()) {
     context.Reset();
     context.SetEnrolled(enrolled);
     context.SetLinked(true);
+    context.SetUnlockPassword("a hash");
     context.SetDeviceName("Lecture hall 3");
     if (enrolled) {
         context.SetAdminAccount("admin@school.example");
         context.SetSchoolCode("A1B2C3");
         context.SetDeviceTags({"second floor", "physics"});
     }
+    AppConfigData::Instance()->dataFolder = QDir::temp().filePath(QStringLiteral("ryx-scenes")).toStdString();
     AppConfigData::Instance()->organisation = "Northern Comprehensive School";
 
     m_controller->SetService(PipeClientService::Instance());

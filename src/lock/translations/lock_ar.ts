@@ -4,6 +4,10 @@
 <context>
     <name>Ryx</name>
     <message>
+        <source>lock_cannot_hold</source>
+        <translation>لا يسمح سطح المكتب هذا لأي نافذة بالبقاء فوق غيرها، لذا لا يمكن للقفل أن يصمد هنا.</translation>
+    </message>
+    <message>
         <source>lock_digit_name</source>
         <translation>الرقم %1 من 6</translation>
     </message>
@@ -18,6 +22,10 @@
     <message>
         <source>lock_show_password</source>
         <translation>إظهار كلمة المرور</translation>
+    </message>
+    <message>
+        <source>lock_waits_for_service</source>
+        <translation>في انتظار الخدمة على هذا الجهاز. تُقبل الأرقام حالما تستجيب.</translation>
     </message>
     <message>
         <source>lock_window_title</source>

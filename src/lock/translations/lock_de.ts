@@ -4,6 +4,10 @@
 <context>
     <name>Ryx</name>
     <message>
+        <source>lock_cannot_hold</source>
+        <translation>Dieser Desktop lässt kein Fenster über allen anderen, daher kann die Sperre hier nicht halten.</translation>
+    </message>
+    <message>
         <source>lock_digit_name</source>
         <translation>Ziffer %1 von 6</translation>
     </message>
@@ -18,6 +22,10 @@
     <message>
         <source>lock_show_password</source>
         <translation>Passwort anzeigen</translation>
+    </message>
+    <message>
+        <source>lock_waits_for_service</source>
+        <translation>Wartet auf den Dienst auf diesem Gerät. Ziffern zählen, sobald er geantwortet hat.</translation>
     </message>
     <message>
         <source>lock_window_title</source>

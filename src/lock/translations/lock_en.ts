@@ -4,6 +4,10 @@
 <context>
     <name>Ryx</name>
     <message>
+        <source>lock_cannot_hold</source>
+        <translation>This desktop lets no window stay above all others, so the lock cannot hold here.</translation>
+    </message>
+    <message>
         <source>lock_digit_name</source>
         <translation>Digit %1 of 6</translation>
     </message>
@@ -18,6 +22,10 @@
     <message>
         <source>lock_show_password</source>
         <translation>Show password</translation>
+    </message>
+    <message>
+        <source>lock_waits_for_service</source>
+        <translation>Waiting for the service on this device. Digits count as soon as it has answered.</translation>
     </message>
     <message>
         <source>lock_window_title</source>

@@ -4,6 +4,10 @@
 <context>
     <name>Ryx</name>
     <message>
+        <source>lock_cannot_hold</source>
+        <translation>Este escritorio no permite que una ventana quede sobre todas las demás, así que el bloqueo no puede mantenerse aquí.</translation>
+    </message>
+    <message>
         <source>lock_digit_name</source>
         <translation>Dígito %1 de 6</translation>
     </message>
@@ -18,6 +22,10 @@
     <message>
         <source>lock_show_password</source>
         <translation>Mostrar la contraseña</translation>
+    </message>
+    <message>
+        <source>lock_waits_for_service</source>
+        <translation>Esperando al servicio de este dispositivo. Los dígitos contarán en cuanto responda.</translation>
     </message>
     <message>
         <source>lock_window_title</source>

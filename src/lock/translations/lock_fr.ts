@@ -4,6 +4,10 @@
 <context>
     <name>Ryx</name>
     <message>
+        <source>lock_cannot_hold</source>
+        <translation>Ce bureau ne laisse aucune fenêtre au-dessus des autres : le verrouillage ne peut pas tenir ici.</translation>
+    </message>
+    <message>
         <source>lock_digit_name</source>
         <translation>Chiffre %1 sur 6</translation>
     </message>
@@ -18,6 +22,10 @@
     <message>
         <source>lock_show_password</source>
         <translation>Afficher le mot de passe</translation>
+    </message>
+    <message>
+        <source>lock_waits_for_service</source>
+        <translation>En attente du service de cet appareil. Les chiffres compteront dès qu’il aura répondu.</translation>
     </message>
     <message>
         <source>lock_window_title</source>

@@ -4,6 +4,10 @@
 <context>
     <name>Ryx</name>
     <message>
+        <source>lock_cannot_hold</source>
+        <translation>このデスクトップではウィンドウを常に最前面に置けないため、ロックを維持できません。</translation>
+    </message>
+    <message>
         <source>lock_digit_name</source>
         <translation>6 桁中 %1 桁目</translation>
     </message>
@@ -18,6 +22,10 @@
     <message>
         <source>lock_show_password</source>
         <translation>パスワードを表示</translation>
+    </message>
+    <message>
+        <source>lock_waits_for_service</source>
+        <translation>このデバイスのサービスを待っています。応答があると数字が有効になります。</translation>
     </message>
     <message>
         <source>lock_window_title</source>

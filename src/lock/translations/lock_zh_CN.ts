@@ -4,6 +4,10 @@
 <context>
     <name>Ryx</name>
     <message>
+        <source>lock_cannot_hold</source>
+        <translation>此桌面不允许窗口始终位于最上层，因此锁定在此无法保持。</translation>
+    </message>
+    <message>
         <source>lock_digit_name</source>
         <translation>第 %1 位，共 6 位</translation>
     </message>
@@ -18,6 +22,10 @@
     <message>
         <source>lock_show_password</source>
         <translation>显示密码</translation>
+    </message>
+    <message>
+        <source>lock_waits_for_service</source>
+        <translation>正在等待此设备上的服务。服务响应后，输入的数字才会生效。</translation>
     </message>
     <message>
         <source>lock_window_title</source>

@@ -58,6 +58,7 @@ std::vector<std::string> AppConfigData::Load(const std::string& path) {
     read("pipeName", pipeName);
     read("agentAccount", agentAccount);
     read("logFolder", logFolder);
+    read("dataFolder", dataFolder);
     read("organisation", organisation);
     read("deviceName", deviceName);
     read("enrolled", enrolled);

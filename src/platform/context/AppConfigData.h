@@ -26,6 +26,7 @@ public:
     std::string pipeName;     ///< empty: the product's own
     std::string agentAccount; ///< account that may serve the pipe beside the local system account
     std::string logFolder;    ///< empty: the system-wide place
+    std::string dataFolder;   ///< of the user's own data; empty: the system's place for it
     std::string organisation; ///< display name of the managing organisation
     std::string deviceName;   ///< empty: the host name
     bool enrolled = false;    ///< the device was enrolled when the service last wrote the file

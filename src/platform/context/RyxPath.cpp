@@ -12,3 +12,9 @@ std::wstring RyxPath::GetRyxLogDir() {
     QDir().mkpath(folder);
     return QDir::toNativeSeparators(folder).toStdWString();
 }
+
+std::wstring RyxPath::GetUserDataDir() {
+    const std::string& chosen = AppConfigData::Instance()->dataFolder;
+    return (chosen.empty() ? SystemSession::Native().UserDataFolder() : QString::fromStdString(chosen))
+        .toStdWString();
+}

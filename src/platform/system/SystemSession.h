@@ -27,6 +27,17 @@ public:
     /// an apartment of its own. Throws HResultError; does nothing where there is no COM.
     virtual void InitializeCom() const = 0;
 
+    /// The same text as long as the system runs without a new start.
+    virtual std::string BootId() const = 0;
+
+    /// Whether the user session is ending; `wasAskedToSave` tells whether a session manager has asked this
+    /// program to save its data for that.
+    virtual bool IsEnding(bool wasAskedToSave) const = 0;
+
+    /// Lets the system start the program again after a crash, and keeps other programs of the same user from
+    /// ending it or reaching into it, as far as the system does that.
+    virtual void ProtectProcess() const = 0;
+
     /// Before the application object is made: leaves out what Qt would load and this program never uses.
     virtual void PrepareApplication() const = 0;
 
@@ -41,6 +52,9 @@ public:
 
     /// Folder of the agent platform's configuration, shared by all users.
     virtual QString ConfigurationFolder() const = 0;
+
+    /// Folder of this user's own data.
+    virtual QString UserDataFolder() const = 0;
 
     /// Folder of the log files.
     virtual QString LogFolder() const = 0;

@@ -1,6 +1,7 @@
 #include "platform/system/SystemSession.h"
 
 #include <QDir>
+#include <QFile>
 #include <QSharedMemory>
 #include <QStandardPaths>
 #include <sys/stat.h>
@@ -39,10 +40,21 @@ public:
 
     QString ConfigurationFolder() const override { return QStringLiteral("/etc/velmora-ryx"); }
 
-    QString LogFolder() const override {
+    QString UserDataFolder() const override {
         return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-               QStringLiteral("/velmora-ryx/log");
+               QStringLiteral("/velmora-ryx");
     }
+
+    QString LogFolder() const override { return UserDataFolder() + QStringLiteral("/log"); }
+
+    std::string BootId() const override {
+        QFile file(QStringLiteral("/proc/sys/kernel/random/boot_id"));
+        return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed().toStdString() : std::string();
+    }
+
+    bool IsEnding(bool wasAskedToSave) const override { return wasAskedToSave; }
+
+    void ProtectProcess() const override {}
 
     std::string ToAnsi(const std::wstring& text) const override {
         return QString::fromStdWString(text).toLocal8Bit().toStdString();

@@ -1,0 +1,58 @@
+#include "lock/LockMarker.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSaveFile>
+#include <glog/logging.h>
+
+namespace {
+
+constexpr qint64 LargestFile = 4096;
+
+QString DayOf(const Clock& clock) {
+    return clock.Now().date().toString(Qt::ISODate);
+}
+
+} // namespace
+
+LockMarker::LockMarker(const QString& file, const std::string& bootId, const Clock& clock)
+    : m_file(file), m_bootId(QString::fromStdString(bootId)), m_clock(clock) {}
+
+void LockMarker::Write(const EndTime& end) const {
+    QDir().mkpath(QFileInfo(m_file).path());
+    const QJsonObject marker{{QStringLiteral("endAt"), QString::fromStdString(end.Text())},
+                             {QStringLiteral("day"), DayOf(m_clock)},
+                             {QStringLiteral("boot"), m_bootId}};
+    QSaveFile file(m_file);
+    if (!file.open(QIODevice::WriteOnly) || file.write(QJsonDocument(marker).toJson()) < 0 || !file.commit())
+        LOG(WARNING) << "LockMarker::Write " << file.errorString().toStdString();
+}
+
+void LockMarker::Remove() const {
+    QFile::remove(m_file);
+}
+
+std::optional<EndTime> LockMarker::Read() const {
+    QFile file(m_file);
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    const QJsonObject marker = QJsonDocument::fromJson(file.read(LargestFile)).object();
+    const QString endAt = marker.value(QStringLiteral("endAt")).toString(QStringLiteral("none"));
+    const std::optional<EndTime> end = EndTime::Parse(endAt.toStdString());
+    const char* fault = nullptr;
+    if (!end)
+        fault = "is broken";
+    else if (end->IsSet() &&
+             (marker.value(QStringLiteral("day")) != DayOf(m_clock) || end->HasPassed(m_clock)))
+        fault = "is past its end";
+    else if (!end->IsSet() && marker.value(QStringLiteral("boot")) != m_bootId)
+        fault = "is from before the last start of the system";
+    if (!fault)
+        return end;
+    LOG(WARNING) << "LockMarker::Read ignores a lock that " << fault;
+    file.remove();
+    return std::nullopt;
+}

@@ -1,0 +1,70 @@
+#include "lock/WindowKeeper.h"
+
+#include "platform/context/Theme.h"
+#include "platform/system/SystemWindows.h"
+
+#include <QWidget>
+#include <glog/logging.h>
+
+namespace {
+
+constexpr int MostChangesBetweenChecks = 500;
+
+} // namespace
+
+WindowKeeper::WindowKeeper(QWidget& window, const SystemWindows& system)
+    : m_window(window), m_system(system) {
+    m_system.PrepareCover(m_window, Theme::Instance()->Color(QStringLiteral("lockBackground")));
+}
+
+WindowKeeper::~WindowKeeper() {
+    Release();
+}
+
+void WindowKeeper::Keep(const QRect& place) {
+    m_place = place;
+    m_keeps = true;
+    m_told = false;
+    const qreal scale = m_window.devicePixelRatioF();
+    m_window.setGeometry(QRect(place.topLeft(), place.size() / scale));
+    m_system.Guard(m_window.winId(), place, [this] { OnChanged(); });
+    m_system.Restore(m_window.winId(), place);
+}
+
+void WindowKeeper::Release() {
+    if (!m_keeps)
+        return;
+    m_keeps = false;
+    m_system.Unguard(m_window.winId());
+}
+
+void WindowKeeper::Check() {
+    m_changes = 0;
+    Compare();
+}
+
+// A program that changes the window again and again must not keep this one from everything else.
+void WindowKeeper::OnChanged() {
+    if (++m_changes <= MostChangesBetweenChecks)
+        Compare();
+}
+
+void WindowKeeper::Compare() {
+    if (!m_keeps || !m_window.isVisible())
+        return;
+    const std::optional<SystemWindows::Facts> facts = m_system.FactsOf(m_window.winId());
+    if (!facts) {
+        emit Lost();
+        return;
+    }
+    SystemWindows::Facts wanted;
+    wanted.place = m_place;
+    if (*facts == wanted)
+        return;
+    if (!m_told)
+        LOG(WARNING) << "WindowKeeper::Check another program changes \""
+                     << m_window.objectName().toStdString() << "\"; it is restored, whenever that happens";
+    m_told = true;
+    m_system.Restore(m_window.winId(), m_place);
+    emit Restored();
+}
