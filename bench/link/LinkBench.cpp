@@ -1,17 +1,21 @@
 // How fast the link to the agent service is, beside a bare QLocalSocket doing the same with the same
-// service process: round trips of one message, and messages that stream to a handler.
+// service process: round trips of one message, and messages that stream to a handler. And how many messages a
+// second the whole front end takes that change nothing, beside those that nobody handles.
+#include "app/MainWindow.h"
+#include "controllers/MainController.h"
 #include "platform/link/PipeClientService.h"
 #include "platform/link/RyxPackage.h"
 #include "platform/system/SystemPipe.h"
 #include "support/PairedRun.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <cstdio>
 #include <functional>
 
@@ -56,19 +60,24 @@ private:
 
 class LinkClient : public Client {
 public:
-    explicit LinkClient(const QString& name) {
+    explicit LinkClient(const QString& name, PipeKey key = Key) {
         m_link.SetServer({name, SystemPipe::Native().CurrentAccount()});
         QEventLoop loop;
         QObject::connect(&m_link, &PipeClientService::ConnectChanged, &loop, &QEventLoop::quit);
         m_link.Start();
         loop.exec();
-        send = [this](const std::string& body) { m_link.Send(Key, body); };
-        QObject::connect(&m_link, &PipeClientService::DataReceived,
-                         [this](PipeKey, const std::string& body) { onMessage(body); });
+        send = [this, key](const std::string& body) { m_link.Send(key, body); };
+        m_received = QObject::connect(&m_link, &PipeClientService::DataReceived,
+                                      [this](PipeKey, const std::string& body) { onMessage(body); });
+    }
+    ~LinkClient() {
+        QObject::disconnect(m_received);
+        m_link.Stop();
     }
 
 private:
-    PipeClientService m_link;
+    PipeClientService& m_link = *PipeClientService::Instance();
+    QMetaObject::Connection m_received;
 };
 
 /// Microseconds of one round trip, each sent when the one before has come back.
@@ -90,8 +99,7 @@ double RoundTrip(Client& client, std::size_t bodySize, int count) {
 }
 
 /// Mebibytes a second of bodies that come back, as many on the way as `window` allows.
-double Throughput(Client& client, std::size_t bodySize, int count, int window) {
-    const std::string body(bodySize, 'x');
+double Throughput(Client& client, const std::string& body, int count, int window) {
     QEventLoop loop;
     int toSend = count;
     int toCome = count;
@@ -105,11 +113,11 @@ double Throughput(Client& client, std::size_t bodySize, int count, int window) {
     };
     QElapsedTimer clock;
     clock.start();
-    for (int i = 0; i < window; ++i, --toSend)
+    for (int i = 0; i < std::min(window, count); ++i, --toSend)
         client.send(body);
     loop.exec();
     const double seconds = static_cast<double>(clock.nsecsElapsed()) / 1e9;
-    return static_cast<double>(bodySize) * count / (1024 * 1024) / seconds;
+    return static_cast<double>(body.size()) * count / (1024 * 1024) / seconds;
 }
 
 /// The service: sends back every byte.
@@ -129,9 +137,32 @@ int Echo(const QString& name) {
     return QCoreApplication::exec();
 }
 
+/// Messages a second, with the whole window listening.
+double MessagesToWindow(const QString& name, PipeKey key, int count) {
+    const std::string status = R"({"status": 2})";
+    LinkClient link(name, key);
+    Throughput(link, status, 1, 1); // the first one may change something
+    return Throughput(link, status, count, 256) * 1024 * 1024 / static_cast<double>(status.size());
+}
+
+void MeasureWindow(const QString& name) {
+    MainController controller;
+    controller.SetService(PipeClientService::Instance());
+    const QMap<QString, ControllerBase*> controllers{{QStringLiteral("ryx"), &controller}};
+    qApp->setProperty("controllers", QVariant::fromValue(controllers));
+    MainWindow window;
+    window.show();
+    PrintRow(Compare(
+        {"a status that changes nothing", "1/s", 0, 0, 0, 0.05, true}, 15,
+        [&] { return MessagesToWindow(name, PipeKey::IotStatusNotify, 20000); },
+        [&] { return MessagesToWindow(name, static_cast<PipeKey>(9999), 20000); }));
+}
+
 void Measure(const QString& name) {
     LinkClient link(name);
     BareClient bare(name);
+    const std::string small(200, 'x');
+    const std::string large(65536, 'x');
     PrintRow(Compare(
         {"echo, 200 bytes", "us", 0, 0, 0, 1.25}, 41, [&] { return RoundTrip(link, 200, 500); },
         [&] { return RoundTrip(bare, 200, 500); }));
@@ -140,11 +171,11 @@ void Measure(const QString& name) {
         [&] { return RoundTrip(bare, 65536, 100); }));
     PrintRow(Compare(
         {"throughput, 200 bytes", "MiB/s", 0, 0, 0, 0.8, true}, 41,
-        [&] { return Throughput(link, 200, 20000, 256); },
-        [&] { return Throughput(bare, 200, 20000, 256); }));
+        [&] { return Throughput(link, small, 20000, 256); },
+        [&] { return Throughput(bare, small, 20000, 256); }));
     PrintRow(Compare(
         {"throughput, 64 KiB", "MiB/s", 0, 0, 0, 0.8, true}, 41,
-        [&] { return Throughput(link, 65536, 500, 16); }, [&] { return Throughput(bare, 65536, 500, 16); }));
+        [&] { return Throughput(link, large, 500, 16); }, [&] { return Throughput(bare, large, 500, 16); }));
 }
 
 } // namespace
@@ -153,7 +184,9 @@ int main(int argc, char** argv) {
     const QTemporaryDir folder;
     if (argc < 3)
         qputenv("TMPDIR", folder.path().toLocal8Bit());
-    const QCoreApplication application(argc, argv);
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
     if (argc == 3)
         return Echo(QString::fromLocal8Bit(argv[2]));
 
@@ -167,6 +200,7 @@ int main(int argc, char** argv) {
     }
     PrintHeading();
     Measure(name);
+    MeasureWindow(name);
     service.kill();
     service.waitForFinished();
     return 0;

@@ -5,6 +5,7 @@
 #include "support/PairedRun.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QTextStream>
 #include <chrono>
@@ -54,6 +55,18 @@ double Memory(pid_t id, const char* figure) {
     throw std::runtime_error("there is no such memory figure");
 }
 
+/// Processor time of all threads so far.
+double ProcessorMs(pid_t id) {
+    double nanoseconds = 0;
+    const QDir threads(QStringLiteral("/proc/%1/task").arg(id));
+    for (const QString& thread : threads.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        QFile file(threads.filePath(thread + QStringLiteral("/schedstat")));
+        if (file.open(QIODevice::ReadOnly))
+            nanoseconds += file.readAll().split(' ').front().toDouble();
+    }
+    return nanoseconds / 1e6;
+}
+
 class Bench {
 public:
     Bench() {
@@ -77,6 +90,7 @@ public:
                 {std::string("memory, ") + figure, "MiB", 0, 0, 0, 1.5}, memoryTurns,
                 [&] { return ProductMemory(figure); }, [&] { return BareMemory(figure); }));
         CompareLocks();
+        CompareRest();
     }
 
 private:
@@ -135,6 +149,47 @@ private:
             {"lock command to painted lock", "ms", 0, 0, 0, 1.5}, turns,
             [&] { return lock([&](const char* command) { product.Tell(command); }); },
             [&] { return lock([&](const char* command) { bare.Write(std::string(command) + '\n'); }); }));
+
+        // Beside the painting of a window that its own program shows.
+        product.Tell("lock");
+        const LockScreen screenLock(product);
+        Await("the lock", [&] { return screenLock.IsWhole(); });
+        const auto restore = [&] {
+            const auto window = m_screen.Find(LockScreen::Title);
+            const auto start = Clock::now();
+            m_screen.Hide(window.value());
+            Await("the hidden lock", [this] { return PixelAt(m_screen, {0, 0}) == LockScreen::Background; });
+            return MillisecondsSince(start);
+        };
+        const auto showBare = [&] {
+            product.Tell("unlock");
+            Await("the lock's end", [&] { return !screenLock.IsWhole(); });
+            const double time = lock([&](const char* command) { bare.Write(std::string(command) + '\n'); });
+            product.Tell("lock");
+            Await("the lock", [&] { return screenLock.IsWhole(); });
+            return time;
+        };
+        PrintRow(Compare({"foreign hide to covered again", "ms", 0, 0, 0, 12.5}, turns, restore, showBare));
+    }
+
+    /// What a lock costs while nothing happens, in percent of one core (aim: below 0.5).
+    void CompareRest() {
+        ChildProcess bare;
+        StartBareWindow(bare);
+        RunningProduct product(m_screen);
+        if (!product.StartBoth())
+            throw std::runtime_error("the product did not start");
+        product.Tell("lock");
+        Await("the lock", [&] { return LockScreen(product).IsWhole(); });
+        const auto percent = [](pid_t id) {
+            const double before = ProcessorMs(id);
+            const auto start = Clock::now();
+            std::this_thread::sleep_for(std::chrono::seconds(30));
+            return (ProcessorMs(id) - before) / MillisecondsSince(start) * 100;
+        };
+        PrintRow(Compare(
+            {"processor of a lock at rest, 30 s", "%", 0, 0, 0, 0}, 1,
+            [&] { return percent(product.FrontEnd().Id()); }, [&] { return percent(bare.Id()); }));
     }
 
     Desktop m_screen;

@@ -36,10 +36,13 @@ void PrintHeading() {
 }
 
 void PrintRow(const Comparison& comparison) {
+    std::printf("%-34s %-6s %11.2f %11.2f %7.2f", comparison.name.c_str(), comparison.unit.c_str(),
+                comparison.product, comparison.bare, comparison.ratio);
     const bool met =
         comparison.biggerIsBetter ? comparison.ratio >= comparison.aim : comparison.ratio <= comparison.aim;
-    std::printf("%-34s %-6s %11.1f %11.1f %7.2f   %s %.2f%s\n", comparison.name.c_str(),
-                comparison.unit.c_str(), comparison.product, comparison.bare, comparison.ratio,
-                comparison.biggerIsBetter ? ">=" : "<=", comparison.aim, met ? "" : "  MISSED");
+    if (comparison.aim > 0)
+        std::printf("   %s %.2f%s", comparison.biggerIsBetter ? ">=" : "<=", comparison.aim,
+                    met ? "" : "  MISSED");
+    std::printf("\n");
     std::fflush(stdout);
 }

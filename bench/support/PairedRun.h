@@ -10,7 +10,7 @@ struct Comparison {
     double product = 0;
     double bare = 0;
     double ratio = 0; ///< median of the turns' ratios
-    double aim = 0;   ///< the ratio that is wanted
+    double aim = 0;   ///< the ratio that is wanted; 0 where the figure itself is what counts
     bool biggerIsBetter = false;
 };
 

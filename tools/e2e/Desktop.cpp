@@ -239,6 +239,11 @@ void Desktop::Activate(const DesktopWindow& window) {
     SendToRoot(window.id, "_NET_ACTIVE_WINDOW", fromPager, CurrentTime, 0);
 }
 
+void Desktop::Hide(const DesktopWindow& window) {
+    XUnmapWindow(m_display, window.id);
+    XSync(m_display, False);
+}
+
 void Desktop::Raise(const DesktopWindow& window) {
     XRaiseWindow(m_display, window.id);
     XSync(m_display, False);

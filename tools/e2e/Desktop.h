@@ -61,6 +61,9 @@ public:
     /// Asks the window manager to activate a window, as a task bar does.
     void Activate(const DesktopWindow& window);
 
+    /// Takes a window off the screen, as any other client may.
+    void Hide(const DesktopWindow& window);
+
     /// Lifts a window as its own program does that wants to be above, but not the focus.
     void Raise(const DesktopWindow& window);
 
