@@ -6,6 +6,8 @@
 #include "platform/ProductConstants.h"
 #include "platform/security/PasswordHelper.h"
 
+#include <QLocale>
+
 namespace {
 
 std::string UpdateBody(const std::string& version) {
@@ -18,8 +20,9 @@ std::string UpdateBody(const std::string& version) {
 
 } // namespace
 
-AgentService::AgentService(AgentServer& server)
+AgentService::AgentService(AgentServer& server, const Clock& clock)
     : m_server(server),
+      m_clock(clock),
       m_unlockHash(PasswordHelper::HashVelmoraPassword("123456")),
       m_unbindHash(PasswordHelper::HashVelmoraPassword("654321")) {
     SetAnswer(PipeKey::ContextRequest, PipeKey::ContextReply, "velmora-ryx-agent");
@@ -33,9 +36,13 @@ void AgentService::Greet(int client) {
     m_server.SendTo(client, PipeKey::UnlockPasswordUpdate, m_unlockHash);
     m_server.SendTo(client, PipeKey::UnbindPasswordUpdate, m_unbindHash);
     m_server.SendTo(client, PipeKey::IotStatusNotify, StatusBody());
+    if (m_lock && Holds(*m_lock))
+        m_server.SendTo(client, PipeKey::ScreenLock, m_lock->body);
 }
 
 void AgentService::Answer(PipeKey key, int client) {
+    if (key == PipeKey::ScreenUnlock)
+        m_lock.reset();
     if (const auto answer = m_answers.find(key); answer != m_answers.end())
         m_server.SendTo(client, answer->second.first, answer->second.second);
 }
@@ -62,9 +69,24 @@ void AgentService::SetUpdate(const std::string& version) {
 }
 
 void AgentService::Lock(const std::string& endTime) {
-    DeviceScreenLock lock;
-    lock.endAt = endTime;
-    m_server.Send(PipeKey::ScreenLock, lock.WriteToString());
+    DeviceScreenLock entity;
+    entity.endAt = endTime;
+    const ScreenLock lock{entity.WriteToString(), endTime, m_clock.Now().date()};
+    if (Holds(lock))
+        m_lock = lock;
+    m_server.Send(PipeKey::ScreenLock, lock.body);
+}
+
+void AgentService::ReleaseLock(PipeKey key) {
+    m_lock.reset();
+    m_server.Send(key, {});
+}
+
+bool AgentService::Holds(const ScreenLock& lock) const {
+    const QDateTime now = m_clock.Now();
+    return lock.endTime.empty() ||
+           (now.date() == lock.day &&
+            QLocale::c().toString(now, QStringLiteral("HH:mm")).toStdString() < lock.endTime);
 }
 
 std::string AgentService::StatusBody() const {

@@ -1,20 +1,24 @@
 #pragma once
 
 #include "AgentServer.h"
+#include "platform/application/Clock.h"
 #include "platform/application/IotStatus.h"
 
+#include <QDate>
 #include <QObject>
 #include <map>
+#include <optional>
 #include <string>
 #include <utility>
 
-/// What the agent service knows and answers. It greets every front end with the password hashes and the
-/// link's status, and from the start answers the questions for the context and for an update.
+/// What the agent service knows and answers. It greets every front end with the password hashes, the link's
+/// status and the lock that is in force, and from the start answers the questions for the context and for
+/// an update.
 class AgentService : public QObject {
     Q_OBJECT
 
 public:
-    explicit AgentService(AgentServer& server);
+    explicit AgentService(AgentServer& server, const Clock& clock = Clock::System());
 
     /// Each is told to the front ends that are connected now and to every later one.
     void SetStatus(int status);
@@ -28,17 +32,31 @@ public:
         m_answers[question] = {key, body};
     }
 
-    /// Locks the screens, until a time of day as "HH:mm" or, when it is empty, until they are unlocked.
+    /// Locks the screens, until a time of day as "HH:mm" or, when it is empty, until they are unlocked. The
+    /// lock is in force until its end, ReleaseLock or a front end's ScreenUnlock; one whose end has passed
+    /// already is sent and changes nothing.
     void Lock(const std::string& endTime);
+    /// Releases the lock with ScreenUnlock or ScreenLockReset.
+    void ReleaseLock(PipeKey key);
 
 private:
+    /// An end counts for the day of the lock alone.
+    struct ScreenLock {
+        std::string body;
+        std::string endTime;
+        QDate day;
+    };
+
     void Greet(int client);
     void Answer(PipeKey key, int client);
+    bool Holds(const ScreenLock& lock) const;
     std::string StatusBody() const;
 
     AgentServer& m_server;
+    const Clock& m_clock;
     int m_status = static_cast<int>(IotStatus::Connected);
     std::string m_unlockHash;
     std::string m_unbindHash;
+    std::optional<ScreenLock> m_lock;
     std::map<PipeKey, std::pair<PipeKey, std::string>> m_answers;
 };

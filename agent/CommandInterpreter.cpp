@@ -154,12 +154,12 @@ void CommandInterpreter::AddSendingCommands() {
          {"unlock", "", "release the lock (35 ScreenUnlock)",
           [this](const std::string& arguments) {
               RefuseArguments(arguments);
-              return Act([this] { m_server.Send(PipeKey::ScreenUnlock, {}); });
+              return Act([this] { m_service.ReleaseLock(PipeKey::ScreenUnlock); });
           }},
          {"reset", "", "release the lock and forget its end time (34 ScreenLockReset)",
           [this](const std::string& arguments) {
               RefuseArguments(arguments);
-              return Act([this] { m_server.Send(PipeKey::ScreenLockReset, {}); });
+              return Act([this] { m_service.ReleaseLock(PipeKey::ScreenLockReset); });
           }},
          {"status", "STATE",
           "tell the link's status: not-enrolled, connected, disconnected, connecting or a number",

@@ -33,6 +33,11 @@ struct Client : QLocalSocket {
     FrameDecoder decoder;
 };
 
+struct ManualClock : Clock {
+    QDateTime Now() const override { return now; }
+    QDateTime now{{2024, 5, 6}, {18, 0}};
+};
+
 struct Agent : testing::Test {
     void SetUp() override { ASSERT_EQ(server.Listen(pipe), QString()); }
 
@@ -55,7 +60,8 @@ struct Agent : testing::Test {
     std::ostringstream lines;
     EventLog log{lines};
     AgentServer server{log};
-    AgentService service{server};
+    ManualClock clock;
+    AgentService service{server, clock};
     CommandInterpreter interpreter{server, service, log};
 };
 
@@ -98,6 +104,33 @@ TEST_F(Agent, SendsToEveryClientAndAnswersTheOneThatAsks) {
         EXPECT_TRUE(second.Receives(key, part)) << command << part;
         EXPECT_TRUE(question || first.Receives(key, part)) << command << part;
     }
+}
+
+TEST_F(Agent, SendsTheLockThatIsInForceToWhoeverConnects) {
+    const QDate day = clock.now.date(), next = day.addDays(1);
+    std::optional<Client> client;
+    const auto greets = [&](bool locked) {
+        client.emplace(pipe);
+        client->Send(0); // its answer is the greeting's end
+        return client->Receives(10, "") && client->Receives(11, "") && client->Receives(2, "") &&
+               (!locked || client->Receives(33, "")) && client->Receives(1, "");
+    };
+    for (const auto& [command, connected, locked] : std::vector<std::tuple<const char*, QDateTime, bool>>{
+             {"lock", {next, {3, 0}}, true},
+             {"lock 00:30", {day, {18, 1}}, true}, // has passed already, so the earlier lock stays
+             {"unlock", {day, {18, 2}}, false},
+             {"lock 18:30", {day, {18, 29, 59}}, true},
+             {"pause 0", {day, {18, 30}}, false},
+             {"pause 0", {next, {9, 0}}, false},
+             {"lock 18:31", {next, {18, 30}}, true},
+             {"reset", {next, {18, 30}}, false},
+             {"lock", {next, {18, 31}}, true}}) {
+        EXPECT_TRUE(Play(command));
+        clock.now = connected;
+        EXPECT_TRUE(greets(locked)) << command << lines.str();
+    }
+    client->Send(35);
+    EXPECT_TRUE(Tells("received 35") && greets(false));
 }
 
 TEST_F(Agent, TellsLinesThatItDoesNotUnderstandAndDoesNothing) {
