@@ -1,17 +1,36 @@
 // ryx-agent: stands in for the agent service, for people who try the front end and for its tests.
 #include "CommandInterpreter.h"
 #include "ConsoleInput.h"
+#include "Supervisor.h"
 #include "platform/ProductConstants.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QFile>
+#include <QTimer>
+#include <atomic>
+#include <csignal>
 #include <fstream>
 #include <iostream>
+#include <optional>
 
 namespace {
 
 enum ExitCode { AllMet = 0, NotMet = 1, BadUsage = 2, NotServing = 3 };
+
+constexpr int SignalPollMs = 100;
+std::atomic<int> endingSignal{0};
+
+/// Leaves the event loop at a signal to end, so that what the agent service has started ends with it.
+void QuitAtSignals(QTimer& poll) {
+    for (const int signal : {SIGINT, SIGTERM})
+        std::signal(signal, [](int number) { endingSignal = number; });
+    QObject::connect(&poll, &QTimer::timeout, [] {
+        if (endingSignal)
+            QCoreApplication::quit();
+    });
+    poll.start(SignalPollMs);
+}
 
 int Run(QCoreApplication& application) {
     QCommandLineParser options;
@@ -23,12 +42,20 @@ int Run(QCoreApplication& application) {
                                       QStringLiteral("FILE"));
     const QCommandLineOption console(QStringLiteral("console"),
                                      QStringLiteral("Take commands from standard input after the scenario."));
+    const QCommandLineOption launch(
+        QStringLiteral("launch"),
+        QStringLiteral("Start the front end PROGRAM with the arguments behind \"--\", and "
+                       "again whenever it ends; end it at the end."),
+        QStringLiteral("PROGRAM"));
     options.setApplicationDescription(QStringLiteral(
         "Stand-in for the agent service. Without a scenario it takes commands from standard input."));
     const QCommandLineOption help = options.addHelpOption();
-    options.addOptions({pipe, scenario, console});
+    options.addOptions({pipe, scenario, console, launch});
+    options.addPositionalArgument(QStringLiteral("ARGUMENT"), QStringLiteral("Passed to PROGRAM."),
+                                  QStringLiteral("[-- ARGUMENT...]"));
     EventLog log(std::cout);
-    if (!options.parse(application.arguments()) || !options.positionalArguments().isEmpty()) {
+    if (!options.parse(application.arguments()) ||
+        (!options.positionalArguments().isEmpty() && !options.isSet(launch))) {
         log.Line("error: " + options.errorText().toStdString() + " (--help tells the options)");
         return BadUsage;
     }
@@ -83,6 +110,14 @@ int Run(QCoreApplication& application) {
         });
         QMetaObject::invokeMethod(&interpreter, &CommandInterpreter::Play, Qt::QueuedConnection);
     }
+
+    std::optional<Supervisor> supervisor;
+    QTimer signalPoll;
+    if (options.isSet(launch)) {
+        QuitAtSignals(signalPoll);
+        supervisor.emplace(options.value(launch), options.positionalArguments(), log);
+        supervisor->Start();
+    }
     return QCoreApplication::exec();
 }
 
@@ -94,5 +129,10 @@ int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
     std::cin.tie(nullptr); // reading runs on a thread of its own and must not flush what this one writes
     QCoreApplication application(argc, argv);
-    return Run(application);
+    const int result = Run(application);
+    if (endingSignal) { // for whoever started the agent service, it ends by this signal
+        std::signal(endingSignal, SIG_DFL);
+        std::raise(endingSignal);
+    }
+    return result;
 }

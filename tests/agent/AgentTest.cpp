@@ -1,5 +1,6 @@
 // The stand-in agent service as its users meet it: commands in, lines out, frames on a real pipe.
 #include "CommandInterpreter.h"
+#include "Supervisor.h"
 #include "platform/link/RyxPackage.h"
 #include "platform/security/PasswordHelper.h"
 
@@ -7,6 +8,7 @@
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <fstream>
+#include <regex>
 #include <sstream>
 
 namespace {
@@ -131,6 +133,30 @@ TEST_F(Agent, SendsTheLockThatIsInForceToWhoeverConnects) {
     }
     client->Send(35);
     EXPECT_TRUE(Tells("received 35") && greets(false));
+}
+
+TEST_F(Agent, StartsTheFrontEndAgainAndWaitsWhenItKeepsEnding) {
+    using std::chrono::milliseconds;
+    RestartBackoff backoff;
+    std::vector<milliseconds::rep> waits;
+    for (const int lived : {2000, 0, 1999, 0, 0, 0, 0, 0, 0, 2000, 0})
+        waits.push_back(backoff.Next(milliseconds(lived)).count() / 1000);
+    EXPECT_EQ(waits, (std::vector<milliseconds::rep>{0, 1, 2, 4, 8, 16, 32, 60, 60, 0, 1}));
+
+    {
+        Supervisor missing(folder.filePath(QStringLiteral("none")), {}, log);
+        missing.Start();
+        EXPECT_TRUE(Tells("front end cannot be started: "));
+    }
+    std::istringstream startsAndEnds("0 5000 5000 6000");
+    const auto now = [&] { return milliseconds(*std::istream_iterator<int>(startsAndEnds)); };
+    lines.str({});
+    Supervisor supervisor(QCoreApplication::applicationFilePath(), {QStringLiteral("--gtest_filter=none")},
+                          log, now);
+    supervisor.Start();
+    EXPECT_TRUE(Tells("front end is started again in 1 s\n"));
+    static const std::regex twoLives("(front end started as .*\nfront end ended with exit code 0\n){2}.*\n");
+    EXPECT_TRUE(std::regex_match(lines.str(), twoLives)) << lines.str();
 }
 
 TEST_F(Agent, TellsLinesThatItDoesNotUnderstandAndDoesNothing) {
