@@ -1,5 +1,7 @@
 # What makes the built programs a Windows product: version resource, icon, manifest, installer.
 
+option(RYX_UI_ACCESS "Let the lock stand above the shell's windows; needs a signature and Program Files" OFF)
+
 string(REPLACE "." "," RYX_RC_VERSION "${PROJECT_VERSION}")
 string(REPLACE " " "." RYX_ASSEMBLY_NAME "${RYX_PRODUCT_NAME}")
 set(folder "${CMAKE_CURRENT_LIST_DIR}/windows")
@@ -12,6 +14,10 @@ function(ryx_windows_resources target RYX_RC_DESCRIPTION)
         set(RYX_RC_NAME "${target}.exe")
         set(RYX_RC_TYPE VFT_APP)
         set(RYX_RC_ICON "1 ICON \"${icon}\"")
+        set(RYX_MANIFEST_UI_ACCESS false)
+        if(RYX_UI_ACCESS AND target STREQUAL "velmora-ryx")
+            set(RYX_MANIFEST_UI_ACCESS true)
+        endif()
         configure_file("${folder}/app.manifest.in" "${CMAKE_BINARY_DIR}/resources/${target}.manifest" @ONLY)
         if(MSVC) # whose linker takes the manifest itself
             target_sources(${target} PRIVATE "${CMAKE_BINARY_DIR}/resources/${target}.manifest")

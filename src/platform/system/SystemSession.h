@@ -27,17 +27,6 @@ public:
     /// an apartment of its own. Throws HResultError; does nothing where there is no COM.
     virtual void InitializeCom() const = 0;
 
-    /// The same text as long as the system runs without a new start.
-    virtual std::string BootId() const = 0;
-
-    /// Whether the user session is ending; `wasAskedToSave` tells whether a session manager has asked this
-    /// program to save its data for that.
-    virtual bool IsEnding(bool wasAskedToSave) const = 0;
-
-    /// Lets the system start the program again after a crash, and keeps other programs of the same user from
-    /// ending it or reaching into it, as far as the system does that.
-    virtual void ProtectProcess() const = 0;
-
     /// Before the application object is made: leaves out what Qt would load and this program never uses.
     virtual void PrepareApplication() const = 0;
 
@@ -53,11 +42,22 @@ public:
     /// Folder of the agent platform's configuration, shared by all users.
     virtual QString ConfigurationFolder() const = 0;
 
-    /// Folder of this user's own data.
-    virtual QString UserDataFolder() const = 0;
-
     /// Folder of the log files.
     virtual QString LogFolder() const = 0;
+
+    /// Folder of what the program keeps for this user alone; it may not exist yet.
+    virtual QString UserDataFolder() const = 0;
+
+    /// Whether the session ends, and not only something that says so. `wasAskedToSave`: the session manager
+    /// has asked this program for its state, which is all there is to go by where the system cannot tell.
+    virtual bool IsEnding(bool wasAskedToSave) const = 0;
+
+    /// The same text from one start of the system to the next, and never again; empty when it cannot be told.
+    virtual std::string BootId() const = 0;
+
+    /// Where the system can: other programs of the user may neither end this process nor look or write into
+    /// it, and the system starts it again, hidden, after a crash. Main thread; what fails is logged.
+    virtual void ProtectProcess() const = 0;
 
     /// `text` in the code page that the C library's file functions expect.
     virtual std::string ToAnsi(const std::wstring& text) const = 0;

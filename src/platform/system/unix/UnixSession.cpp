@@ -1,9 +1,9 @@
 #include "platform/system/SystemSession.h"
 
 #include <QDir>
-#include <QFile>
 #include <QSharedMemory>
 #include <QStandardPaths>
+#include <fstream>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -40,20 +40,24 @@ public:
 
     QString ConfigurationFolder() const override { return QStringLiteral("/etc/velmora-ryx"); }
 
+    QString LogFolder() const override { return UserDataFolder() + QStringLiteral("/log"); }
+
     QString UserDataFolder() const override {
         return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
                QStringLiteral("/velmora-ryx");
     }
 
-    QString LogFolder() const override { return UserDataFolder() + QStringLiteral("/log"); }
-
-    std::string BootId() const override {
-        QFile file(QStringLiteral("/proc/sys/kernel/random/boot_id"));
-        return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed().toStdString() : std::string();
-    }
-
     bool IsEnding(bool wasAskedToSave) const override { return wasAskedToSave; }
 
+    std::string BootId() const override {
+        std::string id;
+        std::ifstream file("/proc/sys/kernel/random/boot_id");
+        std::getline(file, id);
+        return id;
+    }
+
+    /// Nothing keeps a user from ending a process of their own here, and one that leaves no core dump cannot
+    /// be examined after a crash.
     void ProtectProcess() const override {}
 
     std::string ToAnsi(const std::wstring& text) const override {

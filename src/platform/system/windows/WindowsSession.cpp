@@ -1,30 +1,47 @@
 #include "platform/ProductConstants.h"
 #include "platform/system/SystemSession.h"
+#include "platform/system/windows/AccessList.h"
 
 #include <windows.h>
 
 #include <QDir>
+#include <glog/logging.h>
 #include <knownfolders.h>
 #include <memory>
 #include <objbase.h>
-#include <sddl.h>
 #include <shlobj.h>
+#include <winternl.h>
 
 namespace {
 
 /// An access list: everything for the system, the administrators and the file's owner, nothing inherited.
 constexpr wchar_t SystemAdministratorsOwner[] = L"D:P(A;;FA;;;SY)(A;;FA;;;BA)(A;;FA;;;OW)";
 
-/// "C:\ProgramData\Velmora RYX", with the separators that Qt uses.
-QString SharedFolder() {
+/// The product's folder in one of the system's, such as "C:\ProgramData\Velmora RYX", with the separators
+/// that Qt uses. `variable` names the system's folder, too.
+QString ProductFolder(const KNOWNFOLDERID& id, const char* variable) {
     PWSTR folder = nullptr;
-    const HRESULT result = SHGetKnownFolderPath(FOLDERID_ProgramData, KF_FLAG_DEFAULT, nullptr, &folder);
+    const HRESULT result = SHGetKnownFolderPath(id, KF_FLAG_DEFAULT, nullptr, &folder);
     const std::unique_ptr<wchar_t, decltype(&CoTaskMemFree)> owner(folder, &CoTaskMemFree);
-    const QString base =
-        SUCCEEDED(result) ? QString::fromWCharArray(folder) : qEnvironmentVariable("ProgramData");
+    const QString base = SUCCEEDED(result) ? QString::fromWCharArray(folder) : qEnvironmentVariable(variable);
     return QString(base).replace(QLatin1Char('\\'), QLatin1Char('/')) + QLatin1Char('/') +
            QLatin1String(Product::Name);
 }
+
+QString SharedFolder() {
+    return ProductFolder(FOLDERID_ProgramData, "ProgramData");
+}
+
+/// What the system tells of its clock; the documented part of the structure ends before the bias.
+struct TimeOfDay {
+    LARGE_INTEGER bootTime; // in 100 ns, moves with the clock when that is set
+    LARGE_INTEGER currentTime;
+    LARGE_INTEGER timeZoneBias;
+    ULONG timeZoneId;
+    ULONG reserved;
+    ULONGLONG bootTimeBias; // how far it has been moved
+    ULONGLONG sleepTimeBias;
+};
 
 class WindowsSession final : public SystemSession {
 public:
@@ -39,8 +56,8 @@ public:
             throw HResultError("CoInitializeEx", result);
         // The apartment must outlive this thread's part in it: Qt needs the thread single-threaded for the
         // clipboard, dropped files and file dialogs.
-        CO_MTA_USAGE_COOKIE forever{};
-        const HRESULT kept = CoIncrementMTAUsage(&forever);
+        CO_MTA_USAGE_COOKIE cookie{};
+        const HRESULT kept = CoIncrementMTAUsage(&cookie);
         if (FAILED(kept))
             throw HResultError("CoIncrementMTAUsage", kept);
         CoUninitialize();
@@ -49,14 +66,10 @@ public:
     void PrepareApplication() const override {}
 
     bool KeepPrivate(const QString& file) const override {
-        PSECURITY_DESCRIPTOR descriptor = nullptr;
-        if (!ConvertStringSecurityDescriptorToSecurityDescriptorW(SystemAdministratorsOwner, SDDL_REVISION_1,
-                                                                  &descriptor, nullptr))
-            return false;
-        const std::unique_ptr<void, decltype(&LocalFree)> owner(descriptor, &LocalFree);
-        return SetFileSecurityW(QDir::toNativeSeparators(file).toStdWString().c_str(),
-                                DACL_SECURITY_INFORMATION | PROTECTED_DACL_SECURITY_INFORMATION,
-                                descriptor) != FALSE;
+        const auto list = MakeAccessList(SystemAdministratorsOwner);
+        return list &&
+               SetFileSecurityW(QDir::toNativeSeparators(file).toStdWString().c_str(),
+                                DACL_SECURITY_INFORMATION | PROTECTED_DACL_SECURITY_INFORMATION, list.get());
     }
 
     QString SharedMemoryKey(const QString& name) const override { return name; }
@@ -67,6 +80,27 @@ public:
     QString ConfigurationFolder() const override { return SharedFolder(); }
 
     QString LogFolder() const override { return SharedFolder() + QStringLiteral("/log"); }
+
+    QString UserDataFolder() const override { return ProductFolder(FOLDERID_LocalAppData, "LOCALAPPDATA"); }
+
+    bool IsEnding(bool) const override { return GetSystemMetrics(SM_SHUTTINGDOWN) != 0; }
+
+    std::string BootId() const override {
+        TimeOfDay time{};
+        if (NtQuerySystemInformation(SystemTimeOfDayInformation, &time, sizeof time, nullptr) < 0)
+            return {};
+        constexpr ULONGLONG perSecond = 10'000'000;
+        return std::to_string((static_cast<ULONGLONG>(time.bootTime.QuadPart) - time.bootTimeBias) /
+                              perSecond);
+    }
+
+    void ProtectProcess() const override {
+        const HRESULT restart = RegisterApplicationRestart(L"-hide", RESTART_NO_PATCH | RESTART_NO_REBOOT);
+        if (FAILED(restart))
+            LOG(WARNING) << HResultError("RegisterApplicationRestart", restart).what();
+        ProtectThisProcess();
+        ProtectThisThread();
+    }
 
     std::string ToAnsi(const std::wstring& text) const override {
         const int length = static_cast<int>(text.size());

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QAbstractNativeEventFilter>
+#include <QRect>
+#include <functional>
+#include <unordered_map>
+
+#include <windows.h>
+
+/// Sees every message to the program's windows before Qt does. Of what other programs do to a guarded window
+/// it refuses what the system asks for, and tells of the rest. GUI thread.
+class WindowsGuard final : public QAbstractNativeEventFilter {
+public:
+    static WindowsGuard& Instance();
+
+    /// `changed` is called from the event loop, once for all changes since the last call.
+    void Guard(HWND window, const QRect& place, const std::function<void()>& changed);
+    void Unguard(HWND window);
+
+    /// While it lives, what happens to guarded windows is the program's own doing.
+    class OwnAct {
+    public:
+        OwnAct() { ++Instance().m_ownActs; }
+        ~OwnAct() { --Instance().m_ownActs; }
+        OwnAct(const OwnAct&) = delete;
+        OwnAct& operator=(const OwnAct&) = delete;
+    };
+
+    bool nativeEventFilter(const QByteArray& type, void* message, long* result) override;
+
+private:
+    struct Guarded {
+        QRect place;
+        std::function<void()> changed;
+        bool isToBeTold = false;
+    };
+
+    WindowsGuard() = default;
+    bool Refuses(const MSG& message, const QRect& place, LRESULT& answer) const;
+    void Tell(HWND window);
+
+    std::unordered_map<HWND, Guarded> m_windows;
+    int m_ownActs = 0;
+};
