@@ -6,8 +6,6 @@
 #include "platform/ProductConstants.h"
 #include "platform/security/PasswordHelper.h"
 
-#include <QLocale>
-
 namespace {
 
 std::string UpdateBody(const std::string& version) {
@@ -71,7 +69,8 @@ void AgentService::SetUpdate(const std::string& version) {
 void AgentService::Lock(const std::string& endTime) {
     DeviceScreenLock entity;
     entity.endAt = endTime;
-    const ScreenLock lock{entity.WriteToString(), endTime, m_clock.Now().date()};
+    const ScreenLock lock{entity.WriteToString(), EndTime::Parse(endTime).value_or(EndTime()),
+                          m_clock.Now().date()};
     if (Holds(lock))
         m_lock = lock;
     m_server.Send(PipeKey::ScreenLock, lock.body);
@@ -83,10 +82,7 @@ void AgentService::ReleaseLock(PipeKey key) {
 }
 
 bool AgentService::Holds(const ScreenLock& lock) const {
-    const QDateTime now = m_clock.Now();
-    return lock.endTime.empty() ||
-           (now.date() == lock.day &&
-            QLocale::c().toString(now, QStringLiteral("HH:mm")).toStdString() < lock.endTime);
+    return !lock.end.IsSet() || (m_clock.Now().date() == lock.day && !lock.end.HasPassed(m_clock));
 }
 
 std::string AgentService::StatusBody() const {

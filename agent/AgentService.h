@@ -1,7 +1,7 @@
 #pragma once
 
 #include "AgentServer.h"
-#include "platform/application/Clock.h"
+#include "platform/application/EndTime.h"
 #include "platform/application/IotStatus.h"
 
 #include <QDate>
@@ -32,7 +32,7 @@ public:
         m_answers[question] = {key, body};
     }
 
-    /// Locks the screens, until a time of day as "HH:mm" or, when it is empty, until they are unlocked. The
+    /// Locks the screens, until a time of day as "HH:mm" or, when it is none, until they are unlocked. The
     /// lock is in force until its end, ReleaseLock or a front end's ScreenUnlock; one whose end has passed
     /// already is sent and changes nothing.
     void Lock(const std::string& endTime);
@@ -43,7 +43,7 @@ private:
     /// An end counts for the day of the lock alone.
     struct ScreenLock {
         std::string body;
-        std::string endTime;
+        EndTime end;
         QDate day;
     };
 

@@ -315,9 +315,11 @@ bool CommandInterpreter::AddScenario(std::istream& lines, const QString& path) {
 }
 
 Step CommandInterpreter::Parse(const std::string& line) const {
-    const auto [name, arguments] = SplitFirst(line);
-    const auto command = std::find_if(m_commands.begin(), m_commands.end(),
-                                      [&](const Command& candidate) { return candidate.name == name; });
+    const auto words = SplitFirst(line);
+    const auto& [name, arguments] = words;
+    const auto command = std::find_if(m_commands.begin(), m_commands.end(), [&](const Command& candidate) {
+        return candidate.name == words.first;
+    });
     if (command == m_commands.end())
         Refuse("\"" + name + "\" is no command; help lists them");
     try {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "lock/EndTime.h"
 #include "platform/application/Clock.h"
+#include "platform/application/EndTime.h"
 
 #include <QString>
 #include <optional>

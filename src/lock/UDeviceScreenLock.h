@@ -1,9 +1,9 @@
 #pragma once
 
-#include "lock/EndTime.h"
 #include "lock/LockMarker.h"
 #include "lock/TopmostCover.h"
 #include "platform/application/Clock.h"
+#include "platform/application/EndTime.h"
 #include "platform/application/IdleTimer.h"
 #include "platform/link/PipeKey.h"
 #include "platform/system/SystemInput.h"

@@ -1,5 +1,4 @@
 target_sources(ryx_user_objects PRIVATE
-    ${CMAKE_CURRENT_LIST_DIR}/EndTime.cpp
     ${CMAKE_CURRENT_LIST_DIR}/LockMarker.cpp
     ${CMAKE_CURRENT_LIST_DIR}/PasswordAttempts.cpp
     ${CMAKE_CURRENT_LIST_DIR}/PasswordPad.cpp

@@ -13,9 +13,9 @@ TEST(SentryGuard, SetsItsOptionsBeforeTheStartAndEndsWithItsScopeAlsoWhenTheStar
         sentryCalls.clear();
         { const SentryGuard guard("VelmoraRYX@User@7", L"temp/sentry-ryx-user"); }
         EXPECT_EQ(sentryCalls, (std::vector<std::string>{
-                                   "new", "dsn https://key@crash.example/1",
-                                   "release VelmoraRYX@User@7", "database temp/sentry-ryx-user",
-                                   "sessions 0", "symbolize 1", "environment velmora", "init", "close"}));
+                                   "new", "dsn https://key@crash.example/1", "release VelmoraRYX@User@7",
+                                   "database temp/sentry-ryx-user", "sessions 0", "symbolize 1",
+                                   "environment velmora", "init", "close"}));
         EXPECT_EQ(log.Count(line), 1);
     }
 }

@@ -33,7 +33,7 @@ std::string TitleOf(Window window) {
     unsigned char* text = nullptr;
     XGetWindowProperty(display, window, XInternAtom(display, "_NET_WM_NAME", False), 0, 200, False,
                        AnyPropertyType, &type, &format, &count, &rest, &text);
-    const std::string title = text ? reinterpret_cast<const char*>(text) : "";
+    std::string title = text ? reinterpret_cast<const char*>(text) : "";
     XFree(text);
     return title;
 }

@@ -95,7 +95,7 @@ std::string Desktop::Title(unsigned long window) const {
         XTextProperty text{};
         if (!XGetTextProperty(m_display, window, &text, AtomOf(property)) || !text.value)
             continue;
-        const std::string title(reinterpret_cast<char*>(text.value), text.nitems);
+        std::string title(reinterpret_cast<char*>(text.value), text.nitems);
         XFree(text.value);
         if (!title.empty())
             return title;
@@ -173,9 +173,9 @@ QImage Desktop::Screenshot(const QRect& part) const {
                                 AllPlanes, ZPixmap);
     if (!picture)
         throw std::runtime_error("the screen cannot be read");
-    const QImage image = QImage(reinterpret_cast<uchar*>(picture->data), part.width(), part.height(),
-                                picture->bytes_per_line, QImage::Format_RGB32)
-                             .copy();
+    QImage image = QImage(reinterpret_cast<uchar*>(picture->data), part.width(), part.height(),
+                          picture->bytes_per_line, QImage::Format_RGB32)
+                       .copy();
     XDestroyImage(picture);
     return image;
 }

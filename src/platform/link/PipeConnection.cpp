@@ -113,11 +113,11 @@ bool PipeConnection::ReadSome() {
         return false;
     m_decoder.Append(bytes.data(), static_cast<std::size_t>(count));
 
-    std::vector<PipeExchange::Event> events;
-    PipeExchange::Event event;
+    std::vector<PipeExchange::Event> events(1);
     FrameDecoder::Result result;
-    while ((result = m_decoder.Next(event.frame)) == FrameDecoder::Result::Frame)
-        events.push_back(std::move(event));
+    while ((result = m_decoder.Next(events.back().frame)) == FrameDecoder::Result::Frame)
+        events.emplace_back();
+    events.pop_back();
     Push(std::move(events));
     if (result != FrameDecoder::Result::TooLong)
         return true;

@@ -94,12 +94,25 @@ bool WindowsGuard::Refuses(const MSG& message, const QRect& place, LRESULT& answ
     case WM_CLOSE:
     case WM_SETREDRAW: // which takes the window's visibility without any other word
         return true;
+    case WM_ERASEBKGND:
+        Erase(message.hwnd, reinterpret_cast<HDC>(message.wParam));
+        answer = TRUE;
+        return true;
     case WM_TABLET_QUERYSYSTEMGESTURESTATUS:
         answer = NoPenGestures;
         return true;
     default:
         return false;
     }
+}
+
+void WindowsGuard::Erase(HWND window, HDC canvas) const {
+    RECT whole{};
+    const auto background = m_backgrounds.find(window);
+    if (background == m_backgrounds.end() || !GetClientRect(window, &whole))
+        return;
+    SetDCBrushColor(canvas, background->second);
+    FillRect(canvas, &whole, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
 }
 
 void WindowsGuard::Tell(HWND window) {

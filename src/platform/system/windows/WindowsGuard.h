@@ -17,6 +17,9 @@ public:
     void Guard(HWND window, const QRect& place, const std::function<void()>& changed);
     void Unguard(HWND window);
 
+    /// The color of what nobody paints of the window while it is guarded.
+    void SetBackground(HWND window, COLORREF color) { m_backgrounds[window] = color; }
+
     /// While it lives, what happens to guarded windows is the program's own doing.
     class OwnAct {
     public:
@@ -37,8 +40,10 @@ private:
 
     WindowsGuard() = default;
     bool Refuses(const MSG& message, const QRect& place, LRESULT& answer) const;
+    void Erase(HWND window, HDC canvas) const;
     void Tell(HWND window);
 
     std::unordered_map<HWND, Guarded> m_windows;
+    std::unordered_map<HWND, COLORREF> m_backgrounds;
     int m_ownActs = 0;
 };

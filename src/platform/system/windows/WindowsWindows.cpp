@@ -120,8 +120,10 @@ public:
 
     bool CanCover() const override { return true; }
 
-    void PrepareCover(QWidget& window) const override {
+    void PrepareCover(QWidget& window, const QColor& background) const override {
         const HWND handle = Handle(window.winId());
+        WindowsGuard::Instance().SetBackground(handle,
+                                               RGB(background.red(), background.green(), background.blue()));
         constexpr BOOL yes = TRUE;
         const HRESULT gestures = IgnoreEdgeGestures(handle);
         const HRESULT peek = DwmSetWindowAttribute(handle, DWMWA_EXCLUDED_FROM_PEEK, &yes, sizeof yes);

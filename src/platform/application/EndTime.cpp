@@ -1,4 +1,4 @@
-#include "lock/EndTime.h"
+#include "platform/application/EndTime.h"
 
 #include <QLocale>
 #include <regex>
