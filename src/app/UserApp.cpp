@@ -54,15 +54,33 @@ std::wstring CrashDatabasePath() {
     return (QDir(QDir::tempPath()).absolutePath() + QStringLiteral("/sentry-ryx-user")).toStdWString();
 }
 
+/// Knows whether the user session is ending. Told to end then, the program does so, whatever its windows say.
+class SessionEnd : public QObject {
+public:
+    explicit SessionEnd(QGuiApplication& application) {
+        connect(&application, &QGuiApplication::commitDataRequest, this, [this] { m_wasAskedToSave = true; });
+        application.installEventFilter(this);
+    }
+
+    bool IsNear() const { return SystemSession::Native().IsEnding(m_wasAskedToSave); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == qApp && event->type() == QEvent::Quit && IsNear())
+            QCoreApplication::exit();
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    bool m_wasAskedToSave = false;
+};
+
 /// Runs the event loop until the session ends, or whatever else ends it while the screen is not locked: a
 /// message that any program may send is no way past the lock.
 int Execute(QApplication& application, const UDeviceScreenLock& screenLock) {
-    bool wasAskedToSave = false;
-    QObject::connect(&application, &QGuiApplication::commitDataRequest,
-                     [&wasAskedToSave] { wasAskedToSave = true; });
+    const SessionEnd sessionEnd(application);
     for (;;) {
         const int result = QApplication::exec();
-        if (!screenLock.isVisible() || SystemSession::Native().IsEnding(wasAskedToSave))
+        if (!screenLock.isVisible() || sessionEnd.IsNear())
             return result;
         LOG(WARNING) << "UserApp::Execute goes on: the screen is locked, and the session does not end";
     }

@@ -372,15 +372,23 @@ TEST_F(EndToEndTest, NeitherWindowNorLockVetoesTheEndOfTheSession) {
     }
     ChildProcess session;
     product.Start(session, Steering::SessionManager, {});
-    ASSERT_TRUE(WaitUntil([&] { return session.Output().find('\n') != std::string::npos; }));
+    const auto says = [&session](const char* text) {
+        return WaitUntil([&] { return session.Output().find(text) != std::string::npos; });
+    };
+    ASSERT_TRUE(says("\n"));
     product.SetVariable(session.Output().substr(0, session.Output().find('\n')));
     ASSERT_TRUE(StartBoth());
     product.Tell("lock");
     ASSERT_TRUE(lock.Wait());
-    ASSERT_TRUE(WaitUntil([&] { return session.Output().find("client") != std::string::npos; }));
+    ASSERT_TRUE(says("client"));
+    // Told to end in a session that does not end, it goes on.
+    session.Write("die\n");
+    EXPECT_FALSE(WaitUntil([&] { return !lock.IsWhole(); }, std::chrono::milliseconds(500)));
     session.Write("end\n");
-    EXPECT_TRUE(WaitUntil([&] { return session.Output().find("agreed") != std::string::npos; }));
+    EXPECT_TRUE(says("agreed"));
     EXPECT_EQ(session.Output().find("refused"), std::string::npos);
+    session.Write("die\n");
+    EXPECT_TRUE(WaitUntil([&] { return product.FrontEnd().Result() == 0; }));
 }
 
 TEST_F(EndToEndTest, AnImpostorIsRefusedAndToldNothing) {
