@@ -223,6 +223,22 @@ TEST_F(EndToEndTest, ClosingTheWindowHidesItAndASecondStartShowsIt) {
     EXPECT_EQ(product.AgentLines(" connected"), 1); // and nobody else ever came to the service
 }
 
+TEST_F(EndToEndTest, OnlyASecondStartWithoutArgumentsBringsAMinimisedWindowUp) {
+    if (product.HasLauncher())
+        GTEST_SKIP() << "a minimised window of Wine's is the window manager's";
+    ASSERT_TRUE(StartBoth());
+    product.Attack("minimise", MainPage::Title);
+    ASSERT_TRUE(screen->WaitForNoWindow(MainPage::Title));
+    EXPECT_EQ(product.StartAgain({"-hide"}), 0);
+    EXPECT_TRUE(product.WaitForLog("Other instance commandline: -hide\n"));
+    product.Tell("status disconnected");
+    EXPECT_EQ(product.StartAgain({"forged\nI20260101 line"}), 0);
+    EXPECT_TRUE(product.WaitForLog("Other instance commandline: forged\xEF\xBF\xBDI20260101 line\n"));
+    EXPECT_FALSE(screen->Find(MainPage::Title));
+    EXPECT_EQ(product.StartAgain(), 0);
+    EXPECT_TRUE(mainPage.WaitForStatus(MainPage::Disconnected));
+}
+
 TEST_F(EndToEndTest, StartedHiddenTheWindowIsNeverSeenUntilASecondStart) {
     ASSERT_TRUE(product.StartAgent());
     screen->HasAnyAppeared();
