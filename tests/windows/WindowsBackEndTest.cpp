@@ -6,11 +6,9 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QKeyEvent>
 #include <QTemporaryFile>
 #include <QWidget>
 #include <QtTest>
-#include <algorithm>
 #include <gtest/gtest.h>
 #include <thread>
 #include <vector>
@@ -37,21 +35,6 @@ DWORD ProcessOfService(const wchar_t* name) {
     CloseServiceHandle(service);
     CloseServiceHandle(manager);
     return status.dwProcessId;
-}
-
-void SendKey(WORD key, bool down) {
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wVk = key;
-    input.ki.dwFlags = down ? 0 : KEYEVENTF_KEYUP;
-    SendInput(1, &input, sizeof input);
-}
-
-/// Presses the keys one after the other, then releases them.
-void PressTogether(const std::vector<WORD>& keys) {
-    for (const WORD key : keys)
-        SendKey(key, true);
-    std::for_each(keys.rbegin(), keys.rend(), [](WORD key) { SendKey(key, false); });
 }
 
 /// Runs `act` on a thread that has not met COM yet.
@@ -94,52 +77,6 @@ TEST(WindowsWindows, AHiddenWindowIsMadeOffTheTaskbarAndGetsItsStyleBack) {
     EXPECT_EQ(window.shownWith & taskbar, WS_EX_TOOLWINDOW);
     EXPECT_EQ(ExtendedStyle(window), before);
     EXPECT_FALSE(IsWindowVisible(reinterpret_cast<HWND>(window.winId())));
-}
-
-TEST(WindowsInput, AHeldKeyboardKeepsTheShellsKeysAndOnlyThose) {
-    struct Window : QWidget {
-        bool event(QEvent* event) override {
-            if (event->type() != QEvent::KeyPress)
-                return QWidget::event(event);
-            keys.push_back(static_cast<QKeyEvent*>(event)->nativeVirtualKey());
-            return true;
-        }
-        std::vector<DWORD> keys;
-    } window;
-    window.show();
-    window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-    const std::vector<std::vector<WORD>> forShell{
-        {VK_LWIN},       {VK_LWIN, 'D'}, {VK_MENU, VK_TAB}, {VK_MENU, VK_ESCAPE}, {VK_CONTROL, VK_ESCAPE},
-        {VK_LAUNCH_APP1}};
-    // The D is a letter like any other when the Windows key has never gone down.
-    const std::vector<DWORD> seenWhileHeld{'D', VK_MENU, VK_MENU, VK_CONTROL, '5'};
-    const auto pressAll = [&] {
-        window.keys.clear();
-        for (const std::vector<WORD>& combination : forShell)
-            PressTogether(combination);
-        PressTogether({'5'});
-        return QTest::qWaitFor([&] { return !window.keys.empty() && window.keys.back() == '5'; });
-    };
-
-    SystemInput::Native().HoldKeyboard(*window.windowHandle());
-    ASSERT_TRUE(pressAll());
-    EXPECT_EQ(window.keys, seenWhileHeld);
-    SystemInput::Native().ReleaseKeyboard(*window.windowHandle());
-    ASSERT_TRUE(pressAll());
-    EXPECT_GT(window.keys.size(), seenWhileHeld.size());
-
-    // A Windows key that is already down counts, and comes up again.
-    window.keys.clear();
-    SendKey(VK_LWIN, true);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !window.keys.empty(); }));
-    SystemInput::Native().HoldKeyboard(*window.windowHandle());
-    PressTogether({'D'});
-    SendKey(VK_LWIN, false);
-    PressTogether({'5'});
-    EXPECT_TRUE(QTest::qWaitFor([&] { return window.keys.back() == '5'; }));
-    SystemInput::Native().ReleaseKeyboard(*window.windowHandle());
-    EXPECT_EQ(window.keys, (std::vector<DWORD>{VK_LWIN, '5'}));
 }
 
 TEST(WindowsInput, InputEndsTheIdleTime) {
@@ -214,6 +151,37 @@ TEST(WindowsSession, AnsiTextIsInTheCodePageOfFileFunctions) {
     wchar_t back[64] = {};
     MultiByteToWideChar(CP_ACP, 0, ansi.c_str(), -1, back, 64);
     EXPECT_EQ(back, wide);
+}
+
+TEST(WindowsSession, ABootIsNamedByItsTime) {
+    FILETIME now{};
+    GetSystemTimeAsFileTime(&now);
+    const quint64 seconds = ((quint64{now.dwHighDateTime} << 32) | now.dwLowDateTime) / 10'000'000;
+    const quint64 boot = std::stoull(SystemSession::Native().BootId());
+    EXPECT_LE(boot, seconds);
+    EXPECT_GT(boot, seconds - 3600ull * 24 * 365);
+}
+
+// The rights of the same user, who is no administrator.
+TEST(WindowsSession, AProtectedProcessIsClosedToItsUsersOtherPrograms) {
+    constexpr DWORD closed[] = {PROCESS_TERMINATE,  PROCESS_VM_WRITE,      PROCESS_VM_READ,
+                                PROCESS_DUP_HANDLE, PROCESS_CREATE_THREAD, PROCESS_SUSPEND_RESUME};
+    SystemSession::Native().ProtectProcess();
+    BYTE administrators[SECURITY_MAX_SID_SIZE];
+    DWORD size = sizeof administrators;
+    ASSERT_TRUE(CreateWellKnownSid(WinBuiltinAdministratorsSid, nullptr, administrators, &size));
+    SID_AND_ATTRIBUTES disabled{administrators, 0};
+    HANDLE own = nullptr, restricted = nullptr;
+    ASSERT_TRUE(OpenProcessToken(GetCurrentProcess(), TOKEN_ALL_ACCESS, &own));
+    ASSERT_TRUE(
+        CreateRestrictedToken(own, DISABLE_MAX_PRIVILEGE, 1, &disabled, 0, nullptr, 0, nullptr, &restricted));
+    ASSERT_TRUE(ImpersonateLoggedOnUser(restricted));
+    for (const DWORD right : closed)
+        EXPECT_FALSE(OpenProcess(right, FALSE, GetCurrentProcessId())) << right;
+    EXPECT_FALSE(OpenThread(THREAD_TERMINATE, FALSE, GetCurrentThreadId()));
+    EXPECT_FALSE(OpenThread(THREAD_SUSPEND_RESUME, FALSE, GetCurrentThreadId()));
+    EXPECT_TRUE(OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, GetCurrentProcessId()));
+    RevertToSelf();
 }
 
 TEST(WindowsPipe, AccountOfAProcess) {

@@ -1,11 +1,15 @@
 // Does to another program's window what any program of the same user may do: attack COMMAND TITLE [NUMBER]
 // Prints "done" when it is done and ends, unless a line below says that it stays.
 //
-//   hide, hide-in-place, minimise, force-minimise, system-minimise, move, shrink, disable, region,
-//   transparent, untop, bottom, adopt, close quit, end-session       posts WM_QUIT or WM_ENDSESSION to the
-//   window's thread query-end-session       asks every window of the process; prints "answer N" for each kill
-//   ends the process raise NUMBER            shows a topmost window of its own and lifts it so many times;
-//   stays hot-key                 takes Ctrl+Alt+K; prints "hot key" when it is pressed; stays
+//   hide, hide-in-place, minimise, force-minimise, system-minimise, maximise, move, shrink, disable, freeze,
+//   region, transparent, untop, bottom, adopt, close
+//   quit, end-session     posts WM_QUIT or WM_ENDSESSION to the window's thread
+//   query-end-session     asks every window of the process; prints "answer N" for each
+//   kill                  ends the process
+//   own                   makes the window belong to one of its own; stays
+//   raise NUMBER          shows a topmost window of its own and lifts it so many times; stays
+//   hang                  shows a window of its own, takes the foreground, and answers nobody for 10 seconds
+//   hot-key               takes Ctrl+Alt+K; prints "hot key" when it is pressed; stays
 #include <cstdio>
 #include <cstdlib>
 #include <cwchar>
@@ -63,14 +67,32 @@ int RunMessageLoop() {
     return EXIT_SUCCESS;
 }
 
+HWND ShowOwnWindow() {
+    return CreateWindowExW(WS_EX_TOPMOST | WS_EX_TOOLWINDOW, L"STATIC", L"Raised",
+                           WS_POPUP | WS_VISIBLE | SS_WHITERECT, 300, 200, 500, 400, nullptr, nullptr,
+                           nullptr, nullptr);
+}
+
 int Raise(int times) {
-    const HWND own = CreateWindowExW(WS_EX_TOPMOST | WS_EX_TOOLWINDOW, L"STATIC", L"Raised",
-                                     WS_POPUP | WS_VISIBLE | SS_WHITERECT, 300, 200, 500, 400, nullptr,
-                                     nullptr, nullptr, nullptr);
+    const HWND own = ShowOwnWindow();
     for (int i = 0; i < times; ++i)
         SetWindowPos(own, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     Say("done");
     return RunMessageLoop();
+}
+
+int Own(HWND window) {
+    SetWindowLongPtrW(window, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(ShowOwnWindow()));
+    Say("done");
+    return RunMessageLoop();
+}
+
+int Hang() {
+    const HWND own = ShowOwnWindow();
+    SetForegroundWindow(own);
+    Say("done");
+    Sleep(10000);
+    return EXIT_SUCCESS;
 }
 
 int TakeHotKey() {
@@ -93,6 +115,10 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
     }
     if (command == L"raise")
         return Raise(count > 3 ? static_cast<int>(std::wcstol(words[3], nullptr, 10)) : 1);
+    if (command == L"own")
+        return Own(window);
+    if (command == L"hang")
+        return Hang();
     if (command == L"hot-key")
         return TakeHotKey();
 
@@ -106,9 +132,11 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
         {L"minimise", [=] { ShowWindow(window, SW_MINIMIZE); }},
         {L"force-minimise", [=] { ShowWindow(window, SW_FORCEMINIMIZE); }},
         {L"system-minimise", [=] { PostMessageW(window, WM_SYSCOMMAND, SC_MINIMIZE, 0); }},
+        {L"maximise", [=] { ShowWindow(window, SW_MAXIMIZE); }},
         {L"move", [=] { SetWindowPos(window, nullptr, 4000, 3000, 0, 0, still | SWP_NOSIZE); }},
         {L"shrink", [=] { SetWindowPos(window, nullptr, 0, 0, 40, 30, still | SWP_NOMOVE); }},
         {L"disable", [=] { EnableWindow(window, FALSE); }},
+        {L"freeze", [=] { SendMessageW(window, WM_SETREDRAW, FALSE, 0); }},
         {L"region", [=] { SetWindowRgn(window, CreateRectRgn(0, 0, 10, 10), TRUE); }},
         {L"transparent",
          [=] {

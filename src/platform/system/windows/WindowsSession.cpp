@@ -86,8 +86,11 @@ public:
     bool IsEnding(bool) const override { return GetSystemMetrics(SM_SHUTTINGDOWN) != 0; }
 
     std::string BootId() const override {
+        // Linked against, its library would take functions of the C library's name from the real one.
+        const auto query = reinterpret_cast<decltype(&NtQuerySystemInformation)>(
+            reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll"), "NtQuerySystemInformation")));
         TimeOfDay time{};
-        if (NtQuerySystemInformation(SystemTimeOfDayInformation, &time, sizeof time, nullptr) < 0)
+        if (!query || query(SystemTimeOfDayInformation, &time, sizeof time, nullptr) < 0)
             return {};
         constexpr ULONGLONG perSecond = 10'000'000;
         return std::to_string((static_cast<ULONGLONG>(time.bootTime.QuadPart) - time.bootTimeBias) /

@@ -124,6 +124,8 @@ public:
         const HWND handle = Handle(window.winId());
         WindowsGuard::Instance().SetBackground(handle,
                                                RGB(background.red(), background.green(), background.blue()));
+        // Of a window whose program is busy the system would show a copy that can be moved away.
+        DisableProcessWindowsGhosting();
         constexpr BOOL yes = TRUE;
         const HRESULT gestures = IgnoreEdgeGestures(handle);
         const HRESULT peek = DwmSetWindowAttribute(handle, DWMWA_EXCLUDED_FROM_PEEK, &yes, sizeof yes);
