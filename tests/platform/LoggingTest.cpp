@@ -42,7 +42,9 @@ TEST(Logging, KeepsTheNewestFilesAndEndsTwiceInPeace) {
     EXPECT_TRUE(text.contains("first line"));
     EXPECT_TRUE(text.contains("an error belongs"));
     const auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
-    EXPECT_FALSE(newest.permissions() & others) << "a log is its user's";
+    if (QDir::separator() == QLatin1Char('/')) { // what else there is, Qt does not look at by itself
+        EXPECT_FALSE(newest.permissions() & others) << "a log is its user's";
+    }
 }
 
 TEST(Logging, TextFromOutsideStaysOnItsLine) {
