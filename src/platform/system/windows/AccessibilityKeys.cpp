@@ -1,7 +1,5 @@
 #include "platform/system/windows/AccessibilityKeys.h"
 
-#include <windows.h>
-
 #include <glog/logging.h>
 #include <utility>
 
@@ -38,32 +36,32 @@ union Settings {
     HIGHCONTRASTW contrast;
 };
 
-/// Gives the feature the flags of its hot key and leaves all others; returns those it had.
-DWORD ExchangeFlags(const Feature& feature, DWORD flags) {
+} // namespace
+
+DWORD AccessibilityKeys::Exchange(std::size_t index, DWORD flags) const {
+    const Feature& feature = Features[index];
     Settings settings{};
     settings.head.cbSize = feature.size;
-    if (!SystemParametersInfoW(feature.get, feature.size, &settings, 0))
+    if (!m_system(feature.get, feature.size, &settings, 0))
         return flags;
     const DWORD before = settings.head.dwFlags & HotKeyFlags;
     settings.head.dwFlags = (settings.head.dwFlags & ~HotKeyFlags) | flags | feature.quietly;
-    if (before != flags && !SystemParametersInfoW(feature.set, feature.size, &settings, 0)) {
+    if (before != flags && !m_system(feature.set, feature.size, &settings, 0)) {
         LOG_FIRST_N(WARNING, 1) << "AccessibilityKeys " << feature.set << " error " << GetLastError();
     }
     return before;
 }
 
-} // namespace
-
 void AccessibilityKeys::HoldOff() {
     if (std::exchange(m_areHeldOff, true))
         return;
     for (std::size_t i = 0; i < Features.size(); ++i)
-        m_before[i] = ExchangeFlags(Features[i], 0);
+        m_before[i] = Exchange(i, 0);
 }
 
 void AccessibilityKeys::Restore() {
     if (!std::exchange(m_areHeldOff, false))
         return;
     for (std::size_t i = 0; i < Features.size(); ++i)
-        ExchangeFlags(Features[i], m_before[i]);
+        Exchange(i, m_before[i]);
 }
