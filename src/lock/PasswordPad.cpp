@@ -57,11 +57,14 @@ void PasswordPad::Initialization() {
     connect(m_viewPassword, &QCheckBox::toggled, this, &PasswordPad::OnButtonViewPasswordClicked);
     connect(m_viewPassword, &QCheckBox::clicked, this, &PasswordPad::OnAreaPressed);
 
-    auto* column = new QVBoxLayout(this);
-    column->setSpacing(24);
-    column->addWidget(m_passwordArea, 0, Qt::AlignHCenter);
-    column->addWidget(m_viewPassword, 0, Qt::AlignHCenter);
-    column->addWidget(CreateKeypad(), 0, Qt::AlignHCenter);
+    auto* entry = new QVBoxLayout;
+    entry->setSpacing(24);
+    entry->addWidget(m_passwordArea, 0, Qt::AlignHCenter);
+    entry->addWidget(m_viewPassword, 0, Qt::AlignHCenter);
+    m_parts = new QBoxLayout(QBoxLayout::TopToBottom, this);
+    m_parts->setSpacing(24);
+    m_parts->addLayout(entry);
+    m_parts->addWidget(CreateKeypad(), 0, Qt::AlignCenter);
 }
 
 QWidget* PasswordPad::CreateKeypad() {
@@ -87,6 +90,10 @@ QWidget* PasswordPad::CreateKeypad() {
     connect(erase, &QPushButton::clicked, this, [this] { Erase(CurrentBox()); });
     m_erase = erase;
     return keypad;
+}
+
+void PasswordPad::SetLow(bool low) {
+    m_parts->setDirection(low ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
 }
 
 void PasswordPad::LanguageChanges() {

@@ -3,6 +3,7 @@
 #include <QFrame>
 #include <array>
 
+class QBoxLayout;
 class QCheckBox;
 class QKeyEvent;
 class QLineEdit;
@@ -27,6 +28,9 @@ public:
     void Reset();
     void FocusBox(int index);
     void FocusFirstEmpty();
+
+    /// Places the digit keys beside the boxes instead of below, where there is little height.
+    void SetLow(bool low);
 
     /// Shakes the boxes: the password was wrong.
     void StartInvalidPasswordAnimation();
@@ -56,6 +60,7 @@ private:
     int CurrentBox() const;
 
     std::array<QLineEdit*, Digits> m_boxes{};
+    QBoxLayout* m_parts = nullptr;
     QFrame* m_passwordArea = nullptr;
     QCheckBox* m_viewPassword = nullptr;
     QWidget* m_erase = nullptr;

@@ -18,6 +18,7 @@ constexpr int TopLevel = 6;
 constexpr int BackMs = 30000;
 constexpr int UnlockCheckMs = 1000;
 constexpr int RelockIdleSeconds = 1200;
+constexpr int LowestWithKeysBelow = 700;
 
 } // namespace
 
@@ -41,6 +42,7 @@ void UDeviceScreenLock::Initialization() {
     setAttribute(Qt::WA_StyledBackground);
     setProperty("TopLevel", TopLevel);
     m_ui->setupUi(this);
+    m_ui->rows->setSizeConstraint(QLayout::SetNoConstraint); // the screen decides
     m_ui->enterPasswordButton->setDefault(true);
     m_backTimer.setObjectName(QStringLiteral("backTimer"));
     m_backTimer.setSingleShot(true);
@@ -214,6 +216,16 @@ void UDeviceScreenLock::hideEvent(QHideEvent* event) {
     m_cover->Uncover();
     emit VisibleChanged(false);
     QWidget::hideEvent(event);
+}
+
+// A small screen at a large scale has few pixels to speak of.
+void UDeviceScreenLock::resizeEvent(QResizeEvent* event) {
+    const bool low = height() < LowestWithKeysBelow;
+    m_ui->passwordPart->SetLow(low);
+    m_ui->rows->setSpacing(low ? 8 : 24);
+    m_ui->rows->setContentsMargins(48, low ? 8 : 32, 48, low ? 8 : 32);
+    m_ui->messageRows->setSpacing(low ? 16 : 40);
+    QWidget::resizeEvent(event);
 }
 
 void UDeviceScreenLock::closeEvent(QCloseEvent* event) {

@@ -188,6 +188,12 @@ QVector<Scene> OtherScenes() {
              UDeviceScreenLock& lock = Lock(stage, "{}");
              lock.findChild<QPushButton*>(QStringLiteral("enterPasswordButton"))->click();
          }},
+        {QStringLiteral("lock-low"), true,
+         [](Stage& stage) {
+             UDeviceScreenLock& lock = Lock(stage, "{}");
+             lock.findChild<QPushButton*>(QStringLiteral("enterPasswordButton"))->click();
+             lock.setGeometry(0, 0, 960, 540);
+         }},
         {QStringLiteral("lock-waits-for-service"), true,
          [](Stage& stage) {
              UDeviceScreenLock& lock = Lock(stage, "{}");
