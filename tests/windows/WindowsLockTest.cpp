@@ -47,7 +47,7 @@ class Cover : public QWidget {
 public:
     Cover() : QWidget(nullptr, Qt::FramelessWindowHint) {
         setWindowTitle(QStringLiteral("Cover"));
-        windows.PrepareCover(*this);
+        windows.PrepareCover(*this, Qt::black);
         show();
         windows.Restore(winId(), place);
         EXPECT_TRUE(QTest::qWaitForWindowExposed(this));
