@@ -29,7 +29,8 @@ TopmostCover::TopmostCover(QWidget& window, Keyboard keyboard, const SystemWindo
     m_second.setInterval(LookAfterMs);
     connect(&m_second, &QTimer::timeout, this, &TopmostCover::LookAfter);
     connect(&m_keeper, &WindowKeeper::Restored, this, [this] {
-        HoldKeyboard(); // a window that was hidden has lost it
+        WindowStack::Instance()->Restack(); // restored, it is above its betters
+        HoldKeyboard();                     // a window that was hidden has lost it
         FetchFocus();
     });
     connect(&m_keeper, &WindowKeeper::Lost, this, &TopmostCover::Lost);
