@@ -34,7 +34,7 @@ void AgentService::Greet(int client) {
     m_server.SendTo(client, PipeKey::UnlockPasswordUpdate, m_unlockHash);
     m_server.SendTo(client, PipeKey::UnbindPasswordUpdate, m_unbindHash);
     m_server.SendTo(client, PipeKey::IotStatusNotify, StatusBody());
-    if (m_lock && Holds(*m_lock))
+    if (HoldsLock())
         m_server.SendTo(client, PipeKey::ScreenLock, m_lock->body);
 }
 

@@ -36,6 +36,7 @@ public:
     /// lock is in force until its end, ReleaseLock or a front end's ScreenUnlock; one whose end has passed
     /// already is sent and changes nothing.
     void Lock(const std::string& endTime);
+    bool HoldsLock() const { return m_lock && Holds(*m_lock); }
     /// Releases the lock with ScreenUnlock or ScreenLockReset.
     void ReleaseLock(PipeKey key);
 

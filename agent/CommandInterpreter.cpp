@@ -1,6 +1,7 @@
 #include "CommandInterpreter.h"
 
 #include "KeyText.h"
+#include "platform/application/EndTime.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -56,8 +57,7 @@ std::string Digits(const std::string& text) {
 }
 
 std::string TimeOfDay(const std::string& text) {
-    static const std::regex time("([01][0-9]|2[0-3]):[0-5][0-9]");
-    if (!text.empty() && !std::regex_match(text, time))
+    if (!EndTime::Parse(text))
         Refuse("wants no argument or a time of day as HH:mm");
     return text;
 }

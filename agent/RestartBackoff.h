@@ -13,8 +13,10 @@ public:
     static constexpr Duration First = std::chrono::seconds(1);
     static constexpr Duration Longest = std::chrono::seconds(60);
 
-    /// The wait after a life of this length.
-    Duration Next(Duration lived) {
+    /// The wait after a life of this length; `urgent`: never longer than the first.
+    Duration Next(Duration lived, bool urgent = false) {
+        if (lived < ShortLife && urgent)
+            return First;
         if (lived < ShortLife)
             return std::exchange(m_next, std::min(m_next * 2, Longest));
         m_next = First;

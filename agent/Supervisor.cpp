@@ -8,8 +8,9 @@ constexpr int GraceMs = 1000;
 
 } // namespace
 
-Supervisor::Supervisor(const QString& program, const QStringList& arguments, EventLog& log, MonotonicTime now)
-    : m_log(log), m_now(std::move(now)) {
+Supervisor::Supervisor(const QString& program, const QStringList& arguments, EventLog& log,
+                       std::function<bool()> isUrgent, MonotonicTime now)
+    : m_log(log), m_isUrgent(std::move(isUrgent)), m_now(std::move(now)) {
     m_process.setProgram(program);
     m_process.setArguments(arguments);
     m_process.setStandardInputFile(QProcess::nullDevice()); // the console's lines are the agent's
@@ -54,13 +55,13 @@ RestartBackoff::Duration Supervisor::SystemTime() {
 }
 
 void Supervisor::TellEnd() const {
-    m_log.Line((m_process.exitStatus() == QProcess::CrashExit ? "front end was ended by signal "
+    m_log.Line((m_process.exitStatus() == QProcess::CrashExit ? "front end crashed or was killed, code "
                                                               : "front end ended with exit code ") +
                std::to_string(m_process.exitCode()));
 }
 
 void Supervisor::StartAgain() {
-    const RestartBackoff::Duration wait = m_backoff.Next(m_now() - m_startedAt);
+    const RestartBackoff::Duration wait = m_backoff.Next(m_now() - m_startedAt, m_isUrgent());
     if (wait > RestartBackoff::Duration::zero())
         m_log.Line("front end is started again in " +
                    std::to_string(std::chrono::duration_cast<std::chrono::seconds>(wait).count()) + " s");

@@ -17,8 +17,9 @@ public:
     /// The time that has passed since some fixed point.
     using MonotonicTime = std::function<RestartBackoff::Duration()>;
 
+    /// While `isUrgent` says so, a front end that keeps ending is started again within a second all the same.
     Supervisor(const QString& program, const QStringList& arguments, EventLog& log,
-               MonotonicTime now = SystemTime);
+               std::function<bool()> isUrgent, MonotonicTime now = SystemTime);
     ~Supervisor() override;
 
     void Start();
@@ -29,6 +30,7 @@ private:
     void StartAgain();
 
     EventLog& m_log;
+    std::function<bool()> m_isUrgent;
     MonotonicTime m_now;
     QProcess m_process;
     QTimer m_restart;

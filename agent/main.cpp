@@ -56,7 +56,10 @@ int Run(QCoreApplication& application) {
     EventLog log(std::cout);
     if (!options.parse(application.arguments()) ||
         (!options.positionalArguments().isEmpty() && !options.isSet(launch))) {
-        log.Line("error: " + options.errorText().toStdString() + " (--help tells the options)");
+        const QString reason = options.errorText().isEmpty()
+                                   ? QStringLiteral("arguments are for --launch alone")
+                                   : options.errorText();
+        log.Line("error: " + reason.toStdString() + " (--help tells the options)");
         return BadUsage;
     }
     if (options.isSet(help)) {
@@ -115,7 +118,8 @@ int Run(QCoreApplication& application) {
     QTimer signalPoll;
     if (options.isSet(launch)) {
         QuitAtSignals(signalPoll);
-        supervisor.emplace(options.value(launch), options.positionalArguments(), log);
+        supervisor.emplace(options.value(launch), options.positionalArguments(), log,
+                           [&service] { return service.HoldsLock(); });
         supervisor->Start();
     }
     return QCoreApplication::exec();

@@ -6,6 +6,7 @@
 #include "platform/context/AppContextData.h"
 
 #include <QStackedWidget>
+#include <glog/logging.h>
 
 namespace {
 
@@ -56,6 +57,7 @@ void Navigator::Show() {
     const int page = main == Launcher ? 0 : main;
     m_views.menu->Select(page);
     m_views.body->SwitchPage(page);
+    LOG_IF(ERROR, !m_views.body->IsSwitchPage(page)) << "Navigator::Show there is no page " << page;
     m_views.stack->setCurrentWidget(IsWindowPage(m_place) ? m_views.windowPage
                                     : m_place == Launcher ? m_views.launcher
                                                           : m_views.mainPage);

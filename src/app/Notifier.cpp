@@ -1,14 +1,38 @@
 #include "app/Notifier.h"
 
+#include "platform/application/WindowStack.h"
 #include "widgets/UToast.h"
 
 #include <QSystemTrayIcon>
 #include <QWidget>
+#include <utility>
+
+namespace {
+
+constexpr int LookAgainMs = 1000;
+
+} // namespace
 
 Notifier::Notifier(QWidget& window, QSystemTrayIcon& tray)
-    : m_window(window), m_tray(tray), m_toast(new UToast(&window)) {}
+    : m_window(window), m_tray(tray), m_toast(new UToast(&window)) {
+    m_later.setInterval(LookAgainMs);
+    connect(&m_later, &QTimer::timeout, this, &Notifier::TellWaiting);
+}
+
+void Notifier::TellWaiting() {
+    if (WindowStack::Instance()->Highest())
+        return;
+    m_later.stop();
+    for (const auto& [kind, text] : std::exchange(m_waiting, {}))
+        Notify(kind, text);
+}
 
 void Notifier::Notify(NoticeKind kind, const QString& text) {
+    if (WindowStack::Instance()->Highest()) {
+        m_waiting.append({kind, text});
+        m_later.start();
+        return;
+    }
     // A toast in a window that nobody sees would be gone before it is read.
     if (!m_window.isVisible() || m_window.isMinimized()) {
         m_tray.showMessage(m_window.windowTitle(), text, m_window.windowIcon());

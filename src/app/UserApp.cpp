@@ -18,6 +18,7 @@
 #include "platform/system/SystemWindows.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QMap>
 #include <QSharedMemory>
 #include <cstring>
@@ -58,11 +59,14 @@ std::wstring CrashDatabasePath() {
 class SessionEnd : public QObject {
 public:
     explicit SessionEnd(QGuiApplication& application) {
-        connect(&application, &QGuiApplication::commitDataRequest, this, [this] { m_wasAskedToSave = true; });
+        connect(&application, &QGuiApplication::commitDataRequest, this, [this] { m_askedToSave.start(); });
         application.installEventFilter(this);
     }
 
-    bool IsNear() const { return SystemSession::Native().IsEnding(m_wasAskedToSave); }
+    // A request to save counts for a while only: the end that it announced may have been called off.
+    bool IsNear() const {
+        return SystemSession::Native().IsEnding(m_askedToSave.isValid() && !m_askedToSave.hasExpired(EndMs));
+    }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (watched == qApp && event->type() == QEvent::Quit && IsNear())
@@ -71,7 +75,8 @@ public:
     }
 
 private:
-    bool m_wasAskedToSave = false;
+    static constexpr int EndMs = 60000;
+    QElapsedTimer m_askedToSave;
 };
 
 /// Runs the event loop until the session ends, or whatever else ends it while the screen is not locked: a
@@ -82,7 +87,8 @@ int Execute(QApplication& application, const UDeviceScreenLock& screenLock) {
         const int result = QApplication::exec();
         if (!screenLock.isVisible() || sessionEnd.IsNear())
             return result;
-        LOG(WARNING) << "UserApp::Execute goes on: the screen is locked, and the session does not end";
+        LOG_FIRST_N(WARNING, 10)
+            << "UserApp::Execute goes on: the screen is locked, and the session does not end";
     }
 }
 
@@ -109,10 +115,10 @@ int UserApp::Run(int argc, char** argv) {
         return 0;
     }
     application.setProperty("IsUser", true);
-    SystemSession::Native().ProtectProcess();
     SystemWindows::Native().AllowTakingForeground();
 
     const LoggerGuard logger(true, "User");
+    SystemSession::Native().ProtectProcess();
     LOG_IF(WARNING, !application.StartProblem().isEmpty())
         << "UserApp::Run " << LogText(application.StartProblem());
     QSharedMemory marker;
@@ -145,10 +151,8 @@ int UserApp::Run(int argc, char** argv) {
     Watchdog watchdog;
     UDeviceScreenLock screenLock;
     connect(&screenLock, &UDeviceScreenLock::VisibleChanged, &watchdog, &Watchdog::SetLocked);
-    connect(&screenLock, &UDeviceScreenLock::Lost, [] {
-        LOG(ERROR) << "UserApp::Run ends: the lock's window was destroyed, only a new start can lock again";
-        Watchdog::EndProcess();
-    });
+    connect(&screenLock, &UDeviceScreenLock::Lost,
+            [] { Watchdog::EndProcess("the lock's window was destroyed, only a new start can lock again"); });
     screenLock.Resume();
     const PipeLinkGuard link;
 

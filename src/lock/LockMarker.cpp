@@ -36,8 +36,10 @@ void LockMarker::Remove() const {
 }
 
 std::optional<EndTime> LockMarker::Read() const {
+    // Opening something else, such as a pipe that nobody writes to, could take for ever.
+    const QFileInfo info(m_file);
     QFile file(m_file);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!info.isFile() || info.isSymLink() || !file.open(QIODevice::ReadOnly))
         return std::nullopt;
     const QJsonObject marker = QJsonDocument::fromJson(file.read(LargestFile)).object();
     const QString endAt = marker.value(QStringLiteral("endAt")).toString(QStringLiteral("none"));
@@ -48,7 +50,7 @@ std::optional<EndTime> LockMarker::Read() const {
     else if (end->IsSet() &&
              (marker.value(QStringLiteral("day")) != DayOf(m_clock) || end->HasPassed(m_clock)))
         fault = "is past its end";
-    else if (!end->IsSet() && marker.value(QStringLiteral("boot")) != m_bootId)
+    else if (!end->IsSet() && (m_bootId.isEmpty() || marker.value(QStringLiteral("boot")) != m_bootId))
         fault = "is from before the last start of the system";
     if (!fault)
         return end;

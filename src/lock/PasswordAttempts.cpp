@@ -5,9 +5,11 @@
 PasswordAttempts::Verdict PasswordAttempts::Check(bool wrongAttempt) {
     const std::int64_t now = m_clock.Now().toSecsSinceEpoch();
     m_lockedOut = false;
-    if (wrongAttempt)
-        LOG(INFO) << "PasswordAttempts::Check input password eorr cout is :" << ++m_wrong << ",time is "
+    if (wrongAttempt) {
+        ++m_wrong;
+        LOG(INFO) << "PasswordAttempts::Check input password eorr cout is :" << m_wrong << ",time is "
                   << m_start;
+    }
     if (m_wrong <= FreeAttempts)
         return Verdict::Free;
     if (m_start == 0) {

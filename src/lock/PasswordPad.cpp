@@ -1,5 +1,6 @@
 #include "lock/PasswordPad.h"
 
+#include "platform/context/Theme.h"
 #include "platform/security/PasswordHelper.h"
 
 #include <QCheckBox>
@@ -19,8 +20,10 @@ constexpr int ShakeMs = 100;
 constexpr int ShakeLoops = 2;
 constexpr int ShakeWidth = 14;
 
-bool IsDigit(const QString& text) {
-    return text.size() == 1 && text[0] >= QLatin1Char('0') && text[0] <= QLatin1Char('9');
+/// The digit that a key types, in whatever script, as the password has it; null when it types none.
+QChar DigitOf(const QString& text) {
+    const int value = text.size() == 1 ? text[0].digitValue() : -1;
+    return value < 0 ? QChar() : QLatin1Char(static_cast<char>('0' + value));
 }
 
 } // namespace
@@ -94,6 +97,13 @@ QWidget* PasswordPad::CreateKeypad() {
 
 void PasswordPad::SetLow(bool low) {
     m_parts->setDirection(low ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    const int gap = low ? 6 : 12;
+    m_passwordArea->layout()->setSpacing(gap);
+    m_erase->parentWidget()->layout()->setSpacing(gap);
+    for (QLineEdit* box : m_boxes)
+        Theme::SetProperty(box, "low", low);
+    for (QPushButton* key : m_erase->parentWidget()->findChildren<QPushButton*>())
+        Theme::SetProperty(key, "low", low);
 }
 
 void PasswordPad::LanguageChanges() {
@@ -200,8 +210,8 @@ bool PasswordPad::eventFilter(QObject* watched, QEvent* event) {
 bool PasswordPad::OnKeyPressed(int box, const QKeyEvent& key) {
     if (key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab)
         return false;
-    if (IsDigit(key.text()))
-        TypeDigit(box, key.text()[0]);
+    if (const QChar digit = DigitOf(key.text()); !digit.isNull())
+        TypeDigit(box, digit);
     else if (key.key() == Qt::Key_Backspace)
         Erase(box);
     return true; // nothing else belongs into a box, pasting included

@@ -120,6 +120,12 @@ void TopmostCover::LookAfter() {
 }
 
 bool TopmostCover::eventFilter(QObject* watched, QEvent* event) {
+    // Qt takes a window for minimised on anybody's word, and would hide what is in it.
+    if (event->type() == QEvent::WindowStateChange && m_keeper.IsKeeping() && m_window.isMinimized()) {
+        m_window.setWindowState(m_window.windowState() & ~Qt::WindowMinimized);
+        m_keeper.Check();
+        return true;
+    }
     if (event->type() == QEvent::ActivationChange && m_keeper.IsKeeping()) {
         // Another program took the focus: fetch it back, and with it the keyboard that could switch windows.
         if (m_window.isActiveWindow())

@@ -4,6 +4,7 @@
 #include "platform/ProductConstants.h"
 #include "platform/context/AppContextData.h"
 #include "platform/context/RyxPath.h"
+#include "platform/context/Theme.h"
 #include "platform/link/PipeClientService.h"
 #include "platform/security/LogText.h"
 #include "platform/system/SystemSession.h"
@@ -18,7 +19,7 @@ constexpr int TopLevel = 6;
 constexpr int BackMs = 30000;
 constexpr int UnlockCheckMs = 1000;
 constexpr int RelockIdleSeconds = 1200;
-constexpr int LowestWithKeysBelow = 700;
+constexpr int LowestWithKeysBelow = 680;
 
 } // namespace
 
@@ -202,6 +203,8 @@ void UDeviceScreenLock::setVisible(bool visible) {
 
 void UDeviceScreenLock::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
+    if (event->spontaneous())
+        return;
     m_cover->Raise();
     emit VisibleChanged(true);
     m_cover->Cover();
@@ -211,6 +214,8 @@ void UDeviceScreenLock::showEvent(QShowEvent* event) {
 }
 
 void UDeviceScreenLock::hideEvent(QHideEvent* event) {
+    if (event->spontaneous()) // somebody else's hiding ends no lock
+        return;
     m_ui->passwordPart->Clear();
     m_backTimer.stop();
     m_cover->Uncover();
@@ -223,8 +228,10 @@ void UDeviceScreenLock::resizeEvent(QResizeEvent* event) {
     const bool low = height() < LowestWithKeysBelow;
     m_ui->passwordPart->SetLow(low);
     m_ui->rows->setSpacing(low ? 8 : 24);
-    m_ui->rows->setContentsMargins(48, low ? 8 : 32, 48, low ? 8 : 32);
+    m_ui->rows->setContentsMargins(low ? 16 : 48, low ? 8 : 32, low ? 16 : 48, low ? 8 : 32);
     m_ui->messageRows->setSpacing(low ? 16 : 40);
+    m_ui->lockIcon->setVisible(!low);
+    Theme::SetProperty(m_ui->messageLabel, "low", low);
     QWidget::resizeEvent(event);
 }
 

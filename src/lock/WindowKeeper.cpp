@@ -9,11 +9,15 @@
 namespace {
 
 constexpr int MostChangesBetweenChecks = 500;
+constexpr int RestMs = 20;
 
 } // namespace
 
 WindowKeeper::WindowKeeper(QWidget& window, const SystemWindows& system)
     : m_window(window), m_system(system) {
+    m_rests.setSingleShot(true);
+    m_rests.setInterval(RestMs);
+    connect(&m_rests, &QTimer::timeout, this, &WindowKeeper::Compare);
     m_system.PrepareCover(m_window, Theme::Instance()->Color(QStringLiteral("lockBackground")));
 }
 
@@ -47,6 +51,8 @@ void WindowKeeper::Check() {
 void WindowKeeper::OnChanged() {
     if (++m_changes <= MostChangesBetweenChecks)
         Compare();
+    else if (!m_rests.isActive())
+        m_rests.start();
 }
 
 void WindowKeeper::Compare() {
@@ -57,6 +63,8 @@ void WindowKeeper::Compare() {
         emit Lost();
         return;
     }
+    if (!facts->place.isValid())
+        return; // the system cannot tell
     SystemWindows::Facts wanted;
     wanted.place = m_place;
     if (*facts == wanted)

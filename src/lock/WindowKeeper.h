@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QRect>
+#include <QTimer>
 
 class QWidget;
 class SystemWindows;
@@ -45,4 +46,5 @@ private:
     bool m_keeps = false;
     bool m_told = false; // the log knows that somebody changes the window
     int m_changes = 0;   // told by the system since the last check
+    QTimer m_rests{this};
 };

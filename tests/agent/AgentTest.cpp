@@ -141,18 +141,21 @@ TEST_F(Agent, StartsTheFrontEndAgainAndWaitsWhenItKeepsEnding) {
     std::vector<milliseconds::rep> waits;
     for (const int lived : {2000, 0, 1999, 0, 0, 0, 0, 0, 0, 2000, 0})
         waits.push_back(backoff.Next(milliseconds(lived)).count() / 1000);
+    for (int i = 0; i < 10; ++i)
+        EXPECT_EQ(backoff.Next(milliseconds(0), true), RestartBackoff::First) << "while a lock is in force";
     EXPECT_EQ(waits, (std::vector<milliseconds::rep>{0, 1, 2, 4, 8, 16, 32, 60, 60, 0, 1}));
 
     {
-        Supervisor missing(folder.filePath(QStringLiteral("none")), {}, log);
+        Supervisor missing(folder.filePath(QStringLiteral("none")), {}, log, [] { return false; });
         missing.Start();
         EXPECT_TRUE(Tells("front end cannot be started: "));
     }
     std::istringstream startsAndEnds("0 5000 5000 6000");
     const auto now = [&] { return milliseconds(*std::istream_iterator<int>(startsAndEnds)); };
     lines.str({});
-    Supervisor supervisor(QCoreApplication::applicationFilePath(), {QStringLiteral("--gtest_filter=none")},
-                          log, now);
+    Supervisor supervisor(
+        QCoreApplication::applicationFilePath(), {QStringLiteral("--gtest_filter=none")}, log,
+        [] { return false; }, now);
     supervisor.Start();
     EXPECT_TRUE(Tells("front end is started again in 1 s\n"));
     static const std::regex twoLives("(front end started as .*\nfront end ended with exit code 0\n){2}.*\n");

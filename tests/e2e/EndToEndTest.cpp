@@ -303,10 +303,10 @@ std::vector<AttackCase> Attacks() {
                 {"raise 100", false},
                 {"hot-key", false},
                 {"kill", true}};
-    return {{"hide", false},   {"minimise", false},     {"move", false},        {"shrink", false},
-            {"region", false}, {"input-region", false}, {"transparent", false}, {"bottom", false},
-            {"adopt", false},  {"close", false},        {"raise 100", false},   {"grab", false},
-            {"destroy", true}, {"kill-client", true},   {"kill", true}};
+    return {{"hide", false},   {"iconic-property", false}, {"minimise", false},     {"move", false},
+            {"shrink", false}, {"region", false},          {"input-region", false}, {"transparent", false},
+            {"bottom", false}, {"adopt", false},           {"close", false},        {"raise 100", false},
+            {"grab", false},   {"destroy", true},          {"kill-client", true},   {"kill", true}};
 }
 
 class LockUnderAttack : public EndToEndTest, public testing::WithParamInterface<AttackCase> {};

@@ -1,10 +1,10 @@
 // Does to another program's window what any client of the X server may do: ryx-attack COMMAND TITLE [NUMBER]
 // Prints "done" when it is done and ends, unless a line below says that it stays.
 //
-//   hide, minimise, move, shrink, region, transparent, bottom, adopt, close, destroy
-//   kill-client, kill       cuts the program off the server; ends its process
-//   raise NUMBER            shows a window that no window manager sees and lifts it so many times; stays
-//   grab                    takes keyboard and pointer, if it can within a second; stays
+//   hide, minimise, iconic-property, move, shrink, region, input-region, transparent, bottom, adopt, close,
+//   destroy kill-client, kill       cuts the program off the server; ends its process raise NUMBER shows a
+//   window that no window manager sees and lifts it so many times; stays grab                    takes
+//   keyboard and pointer, if it can within a second; stays
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
@@ -132,6 +132,13 @@ int main(int argc, char** argv) {
     const std::map<std::string, std::function<void()>> acts{
         {"hide", [=] { XUnmapWindow(display, window); }},
         {"minimise", [=] { XIconifyWindow(display, window, DefaultScreen(display)); }},
+        {"iconic-property",
+         [=] {
+             const Atom state = XInternAtom(display, "WM_STATE", False);
+             const unsigned long iconic[2] = {IconicState, None};
+             XChangeProperty(display, window, state, state, 32, PropModeReplace,
+                             reinterpret_cast<const unsigned char*>(iconic), 2);
+         }},
         {"move", [=] { XMoveWindow(display, window, 4000, 3000); }},
         {"shrink", [=] { XResizeWindow(display, window, 40, 30); }},
         {"region",

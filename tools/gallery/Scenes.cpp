@@ -192,7 +192,7 @@ QVector<Scene> OtherScenes() {
          [](Stage& stage) {
              UDeviceScreenLock& lock = Lock(stage, "{}");
              lock.findChild<QPushButton*>(QStringLiteral("enterPasswordButton"))->click();
-             lock.setGeometry(0, 0, 960, 540);
+             lock.setGeometry(0, 0, 615, 346);
          }},
         {QStringLiteral("lock-waits-for-service"), true,
          [](Stage& stage) {

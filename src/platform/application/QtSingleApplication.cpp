@@ -6,6 +6,7 @@
 #include <QDataStream>
 #include <QDeadlineTimer>
 #include <QDir>
+#include <QFileInfo>
 #include <QLocalSocket>
 #include <QWidget>
 #include <glog/logging.h>
@@ -25,9 +26,16 @@ QtSingleApplication::QtSingleApplication(const QString& id, int& argc, char** ar
                        .arg(id)
                        .arg(qHash(SystemPipe::Native().CurrentAccount()), 0, 16)
                        .arg(SystemSession::Native().SessionId());
-    m_lock = std::make_unique<QLockFile>(QDir::temp().filePath(m_serverName + QStringLiteral(".lock")));
+    const QString lockPath = QDir::temp().filePath(m_serverName + QStringLiteral(".lock"));
+    m_lock = std::make_unique<QLockFile>(lockPath);
     m_lock->setStaleLockTime(0); // held as long as its process lives, however long
-    m_isRunning = !m_lock->tryLock() && IsAnotherRunning();
+    const QFileInfo file(lockPath);
+    if (file.exists() && !file.isFile()) { // reading it could take for ever
+        m_startProblem = QStringLiteral("finds something else where its lock file stands: ") + lockPath;
+        m_isRunning = Answers();
+    } else {
+        m_isRunning = !m_lock->tryLock() && IsAnotherRunning();
+    }
     if (!m_isRunning)
         Listen();
 }

@@ -1,5 +1,7 @@
 #include "platform/application/Watchdog.h"
 
+#include "platform/system/SystemSession.h"
+
 #include <QCoreApplication>
 #include <QEvent>
 #include <algorithm>
@@ -28,7 +30,7 @@ StallMeter::Verdict StallMeter::Look(int elapsedMs, bool answered, bool mustAnsw
     m_silentMs += std::min(elapsedMs, LongestLookMs);
     if (mustAnswer && m_silentMs >= GiveUpMs)
         return Verdict::Hopeless;
-    if (m_silentMs > TellMs && !std::exchange(m_told, true))
+    if (m_silentMs >= TellMs && !std::exchange(m_told, true))
         return Verdict::Stalled;
     return Verdict::Well;
 }
@@ -44,7 +46,12 @@ Watchdog::~Watchdog() {
     m_thread.join();
 }
 
-void Watchdog::EndProcess() {
+void Watchdog::EndProcess(const std::string& reason) {
+    std::thread([] {
+        std::this_thread::sleep_for(std::chrono::seconds(1));
+        std::_Exit(ExitCode);
+    }).detach();
+    LOG(ERROR) << "Watchdog::EndProcess " << reason;
     google::FlushLogFiles(google::GLOG_INFO);
     std::_Exit(ExitCode);
 }
@@ -58,6 +65,7 @@ bool Watchdog::event(QEvent* event) {
 
 void Watchdog::Watch() {
     using Clock = std::chrono::steady_clock;
+    SystemSession::Native().ProtectThread();
     StallMeter meter;
     Clock::time_point before = Clock::now();
     std::unique_lock<std::mutex> lock(m_mutex);
@@ -78,11 +86,8 @@ void Watchdog::Watch() {
                          << " ms";
             break;
         case StallMeter::Verdict::Hopeless:
-            LOG(ERROR)
-                << "Watchdog::Watch ends the program: the screen is locked and the user interface has not "
-                   "answered for "
-                << meter.SilentMs() << " ms";
-            EndProcess();
+            EndProcess("the screen is locked and the user interface has not answered for " +
+                       std::to_string(meter.SilentMs()) + " ms");
         }
         if (answered)
             QCoreApplication::postEvent(this, new QEvent(Question));

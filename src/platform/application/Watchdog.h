@@ -4,6 +4,7 @@
 #include <atomic>
 #include <condition_variable>
 #include <mutex>
+#include <string>
 #include <thread>
 
 /// How long a thread has not answered, judged from time to time. Plain arithmetic; owned by one thread.
@@ -46,8 +47,8 @@ public:
     /// While set, a hopeless stall ends the program. Any thread.
     void SetLocked(bool locked) { m_locked = locked; }
 
-    /// Writes the log out and ends the process at once, without anything that could hang. Any thread.
-    [[noreturn]] static void EndProcess();
+    /// Logs the reason and ends the process within a second, even when the log hangs. Any thread.
+    [[noreturn]] static void EndProcess(const std::string& reason);
 
 protected:
     bool event(QEvent* event) override;

@@ -4,6 +4,7 @@
 #include "platform/link/ControllerBase.h"
 #include "platform/link/PipeReceiveEvent.h"
 #include "platform/security/LogText.h"
+#include "platform/system/SystemSession.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -46,6 +47,7 @@ void PipeClientService::Start() {
         m_connection, &PipeConnection::EventsReady, this,
         [this] { QCoreApplication::postEvent(this, new QEvent(WakeEvent)); }, Qt::DirectConnection);
     m_thread.start();
+    QMetaObject::invokeMethod(m_connection, [] { SystemSession::Native().ProtectThread(); });
     QMetaObject::invokeMethod(m_connection, &PipeConnection::Open);
 }
 

@@ -130,7 +130,7 @@ bool PipeConnection::ReadSome() {
 
 void PipeConnection::WritePackets() {
     // A write to a service that has gone closes the socket, with what it had sent before: that is read first.
-    while (m_up && !m_waiting && m_socket.waitForReadyRead(0))
+    if (m_up && !m_waiting && m_socket.waitForReadyRead(0))
         ReadFrames();
     if (!m_waiting)
         FlushPackets();

@@ -59,6 +59,9 @@ public:
     /// it, and the system starts it again, hidden, after a crash. Main thread; what fails is logged.
     virtual void ProtectProcess() const = 0;
 
+    /// The same for the calling thread; the main thread has it from ProtectProcess.
+    virtual void ProtectThread() const = 0;
+
     /// `text` in the code page that the C library's file functions expect.
     virtual std::string ToAnsi(const std::wstring& text) const = 0;
 

@@ -60,7 +60,8 @@ public:
     /// The window is the program's own again. Harmless for one that is not guarded.
     virtual void Unguard(WId window) const = 0;
 
-    /// The window as it is; nothing when it is not there any more.
+    /// The window as it is; nothing when it is not there any more. The place is invalid where the system
+    /// cannot tell.
     virtual std::optional<Facts> FactsOf(WId window) const = 0;
 
     /// Makes the window what a cover must be: shown, enabled, whole, topmost, and exactly at `place`.

@@ -60,6 +60,8 @@ public:
     /// be examined after a crash.
     void ProtectProcess() const override {}
 
+    void ProtectThread() const override {}
+
     std::string ToAnsi(const std::wstring& text) const override {
         return QString::fromStdWString(text).toLocal8Bit().toStdString();
     }

@@ -43,8 +43,9 @@ void RenewHook(HHOOK& hook) {
         LOG_FIRST_N(WARNING, 1) << "KeyboardHook error " << GetLastError();
         return;
     }
-    if (hook)
-        UnhookWindowsHookEx(hook);
+    // One that Windows has dropped may have missed that a modifier came up.
+    if (hook && !UnhookWindowsHookEx(hook))
+        keyFilter.ForgetModifiers();
     hook = fresh;
 }
 

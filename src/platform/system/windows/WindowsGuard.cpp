@@ -1,6 +1,7 @@
 #include "platform/system/windows/WindowsGuard.h"
 
 #include <QCoreApplication>
+#include <iterator>
 #include <tpcshrd.h>
 #include <utility>
 
@@ -68,6 +69,10 @@ bool WindowsGuard::nativeEventFilter(const QByteArray&, void* data, long* result
     if (message.message == WM_ENDSESSION) {
         // Qt ends the program on it, whichever window it comes to.
         isRefused = message.wParam && !GetSystemMetrics(SM_SHUTTINGDOWN);
+    } else if (message.message == WM_ERASEBKGND && m_windows.count(message.hwnd) > 0) {
+        Erase(message.hwnd, reinterpret_cast<HDC>(message.wParam));
+        answer = TRUE;
+        isRefused = true;
     } else if (const auto window = m_windows.find(message.hwnd);
                m_ownActs == 0 && window != m_windows.end()) {
         isRefused = Refuses(message, window->second.place, answer);
@@ -91,12 +96,12 @@ bool WindowsGuard::Refuses(const MSG& message, const QRect& place, LRESULT& answ
     }
     case WM_SYSCOMMAND: // whose low four bits are the system's own
         return (message.wParam & 0xFFF0) != SC_MONITORPOWER;
+    case WM_SHOWWINDOW: // which Qt, too, would believe, and paint no more
+        return message.wParam == FALSE;
+    case WM_SIZE:
+        return message.wParam == SIZE_MINIMIZED;
     case WM_CLOSE:
     case WM_SETREDRAW: // which takes the window's visibility without any other word
-        return true;
-    case WM_ERASEBKGND:
-        Erase(message.hwnd, reinterpret_cast<HDC>(message.wParam));
-        answer = TRUE;
         return true;
     case WM_TABLET_QUERYSYSTEMGESTURESTATUS:
         answer = NoPenGestures;
@@ -104,6 +109,12 @@ bool WindowsGuard::Refuses(const MSG& message, const QRect& place, LRESULT& answ
     default:
         return false;
     }
+}
+
+void WindowsGuard::SetBackground(HWND window, COLORREF color) {
+    for (auto known = m_backgrounds.begin(); known != m_backgrounds.end();)
+        known = IsWindow(known->first) ? std::next(known) : m_backgrounds.erase(known);
+    m_backgrounds[window] = color;
 }
 
 void WindowsGuard::Erase(HWND window, HDC canvas) const {

@@ -18,7 +18,7 @@ public:
     void Unguard(HWND window);
 
     /// The color of what nobody paints of the window while it is guarded.
-    void SetBackground(HWND window, COLORREF color) { m_backgrounds[window] = color; }
+    void SetBackground(HWND window, COLORREF color);
 
     /// While it lives, what happens to guarded windows is the program's own doing.
     class OwnAct {

@@ -105,6 +105,8 @@ public:
         ProtectThisThread();
     }
 
+    void ProtectThread() const override { ProtectThisThread(); }
+
     std::string ToAnsi(const std::wstring& text) const override {
         const int length = static_cast<int>(text.size());
         const int size = WideCharToMultiByte(CP_ACP, 0, text.data(), length, nullptr, 0, nullptr, nullptr);

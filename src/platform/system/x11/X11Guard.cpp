@@ -2,6 +2,7 @@
 
 #include "platform/system/x11/X11Connection.h"
 
+#include <glog/logging.h>
 #include <set>
 #include <xcb/shape.h>
 
@@ -51,8 +52,10 @@ void X11Guard::ReadEvents() {
     std::set<xcb_window_t> changed;
     while (const auto event = Own(xcb_poll_for_event(m_server)))
         changed.insert(WindowOf(*event));
-    if (xcb_connection_has_error(m_server))
+    if (xcb_connection_has_error(m_server)) {
+        LOG(ERROR) << "X11Guard::ReadEvents the server has ended the connection";
         m_notifier->setEnabled(false);
+    }
     for (const xcb_window_t window : changed)
         if (const auto watched = m_watched.find(window); watched != m_watched.end())
             std::function<void()>(watched->second)(); // it may end the watch
@@ -67,6 +70,8 @@ xcb_window_t X11Guard::WindowOf(const xcb_generic_event_t& event) const {
         return reinterpret_cast<const xcb_visibility_notify_event_t&>(event).window;
     case XCB_PROPERTY_NOTIFY:
         return reinterpret_cast<const xcb_property_notify_event_t&>(event).window;
+    case 0: // an error, of a request about a window that has gone
+        return XCB_WINDOW_NONE;
     default: // the structure's events name the window that hears of it first
         return reinterpret_cast<const xcb_unmap_notify_event_t&>(event).event;
     }
