@@ -418,7 +418,8 @@ TEST_F(EndToEndTest, AnImpostorIsRefusedAndToldNothing) {
         qputenv(Steering::Agent.variable, copy.toLocal8Bit());
     }
     const bool started = product.StartAgent({}, asAnother);
-    qunsetenv(Steering::Agent.variable);
+    if (!asAnother.empty()) // the tests behind this one start their own again
+        qunsetenv(Steering::Agent.variable);
     ASSERT_TRUE(started);
     product.StartFrontEnd();
 

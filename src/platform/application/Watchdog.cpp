@@ -14,7 +14,7 @@ namespace {
 
 constexpr int LookMs = 1000;
 // A machine that slept has not stalled: no look counts for more than this.
-constexpr int LongestLookMs = 2 * LookMs;
+constexpr int LongestLookMs = LookMs * 3 / 2;
 
 const QEvent::Type Question = static_cast<QEvent::Type>(QEvent::registerEventType());
 
