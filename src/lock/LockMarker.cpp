@@ -43,7 +43,7 @@ std::optional<EndTime> LockMarker::Read() const {
         return std::nullopt;
     const QJsonObject marker = QJsonDocument::fromJson(file.read(LargestFile)).object();
     const QString endAt = marker.value(QStringLiteral("endAt")).toString(QStringLiteral("none"));
-    const std::optional<EndTime> end = EndTime::Parse(endAt.toStdString());
+    std::optional<EndTime> end = EndTime::Parse(endAt.toStdString());
     const char* fault = nullptr;
     if (!end)
         fault = "is broken";
