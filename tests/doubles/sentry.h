@@ -29,8 +29,9 @@ inline void sentry_options_set_dsn(sentry_options_t* options, const char* dsn) {
 inline void sentry_options_set_release(sentry_options_t* options, const char* release) {
     NoteSentryCall(options, std::string("release ") + release);
 }
-inline void sentry_options_set_database_pathw(sentry_options_t* options, const std::wstring& path) {
-    NoteSentryCall(options, "database " + std::string(path.begin(), path.end()));
+inline void sentry_options_set_database_pathw(sentry_options_t* options, const wchar_t* path) {
+    const std::wstring text = path;
+    NoteSentryCall(options, "database " + std::string(text.begin(), text.end()));
 }
 inline void sentry_options_set_auto_session_tracking(sentry_options_t* options, int on) {
     NoteSentryCall(options, "sessions " + std::to_string(on));
