@@ -280,7 +280,7 @@ TEST_F(EndToEndTest, AKilledFrontEndLocksAgainAtItsNextStart) {
 
 struct AttackCase {
     const char* command;
-    bool ends; ///< the front end's process ends, and its supervisor starts it again
+    bool ends; ///< the front end's process ends, and the next start locks again
 };
 
 std::vector<AttackCase> Attacks() {
@@ -312,11 +312,9 @@ std::vector<AttackCase> Attacks() {
 
 class LockUnderAttack : public EndToEndTest, public testing::WithParamInterface<AttackCase> {
 protected:
-    /// Two seconds after an attack at the latest the lock is whole, and stays so. Wine hands what happens to
-    /// windows on to the X server, which takes its time.
+    /// Two seconds after an attack at the latest the lock is whole, and stays so.
     bool IsWholeForGood() {
-        const auto end =
-            std::chrono::steady_clock::now() + std::chrono::seconds(product.HasLauncher() ? 6 : 2);
+        const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(2);
         do {
             if (WaitUntil([&] { return lock.IsWhole(); }, std::chrono::seconds(2)) &&
                 !WaitUntil([&] { return !lock.IsWhole(); }, std::chrono::milliseconds(500)))
