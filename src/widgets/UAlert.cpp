@@ -1,7 +1,6 @@
 #include "widgets/UAlert.h"
 
 #include "widgets/AccessibleRole.h"
-#include "widgets/NoticeQueue.h"
 #include "widgets/UTextButton.h"
 #include "widgets/UTextLabel.h"
 
@@ -18,15 +17,11 @@ constexpr int CardWidth = 480;
 } // namespace
 
 UAlert::UAlert(QWidget* parent)
-    : QWidget(parent),
-      m_owner(parent),
+    : UOverlay(parent),
       m_title(new UTextLabel("alertTitle")),
       m_content(new UTextLabel("alertContent")),
       m_ok(new UTextButton(UTextButton::Look::Primary)),
       m_cancel(new UTextButton) {
-    setAttribute(Qt::WA_StyledBackground);
-    SetAccessibleRole(this, QAccessible::Dialog);
-
     auto* card = new QFrame(this);
     card->setObjectName(QStringLiteral("alertCard"));
     card->setMaximumWidth(CardWidth);
@@ -61,7 +56,6 @@ UAlert::UAlert(QWidget* parent)
     m_timeout.setSingleShot(true);
     connect(&m_timeout, &QTimer::timeout, this, [this] { Close(false); });
     Retranslate();
-    QWidget::setVisible(false);
 }
 
 UAlert::~UAlert() = default;
@@ -91,42 +85,12 @@ void UAlert::SetDangerous(bool dangerous) {
 }
 
 void UAlert::setVisible(bool visible) {
-    if (visible) {
-        Request();
-        return;
-    }
-    m_timeout.stop();
-    const bool wasShown = !isHidden();
-    QWidget::setVisible(false);
-    if (!m_queue)
-        return;
-    if (!wasShown) {
-        m_queue->Withdraw(this);
-        return;
-    }
-    if (m_focusBefore)
-        m_focusBefore->setFocus();
-    m_queue->Finish(this);
+    if (!visible)
+        m_timeout.stop();
+    UOverlay::setVisible(visible);
 }
 
-void UAlert::Request() {
-    if (!m_owner || !isHidden())
-        return;
-    QWidget* window = m_owner->window();
-    if (parentWidget() != window)
-        setParent(window);
-    m_queue = NoticeQueue::Of(window, QStringLiteral("alert"));
-    if (!m_queue->IsWaiting(this))
-        m_queue->Add(this, [this] { Present(); });
-}
-
-void UAlert::Present() {
-    parentWidget()->removeEventFilter(this);
-    parentWidget()->installEventFilter(this);
-    setGeometry(parentWidget()->rect());
-    m_focusBefore = parentWidget()->focusWidget();
-    QWidget::setVisible(true);
-    raise();
+void UAlert::Presented() {
     m_ok->setFocus(Qt::PopupFocusReason);
     if (m_timeoutMs > 0)
         m_timeout.start(m_timeoutMs);
@@ -141,13 +105,6 @@ void UAlert::Close(bool accepted) {
         emit Rejected();
 }
 
-// Every Tab within the box arrives here, and there are at most two places to go.
-bool UAlert::focusNextPrevChild(bool) {
-    const bool toCancel = m_ok->hasFocus() && !m_cancel->isHidden();
-    (toCancel ? m_cancel : m_ok)->setFocus(Qt::TabFocusReason);
-    return true;
-}
-
 void UAlert::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape)
         (m_cancel->isHidden() ? m_ok : m_cancel)->click();
@@ -155,21 +112,10 @@ void UAlert::keyPressEvent(QKeyEvent* event) {
         (m_cancel->hasFocus() ? m_cancel : m_ok)->click();
 }
 
-// The window below must not take presses beside the box for its own.
-void UAlert::mousePressEvent(QMouseEvent* event) {
-    event->accept();
-}
-
-bool UAlert::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == parentWidget() && event->type() == QEvent::Resize)
-        setGeometry(parentWidget()->rect());
-    return QWidget::eventFilter(watched, event);
-}
-
 void UAlert::changeEvent(QEvent* event) {
     if (event->type() == QEvent::LanguageChange)
         Retranslate();
-    QWidget::changeEvent(event);
+    UOverlay::changeEvent(event);
 }
 
 void UAlert::Retranslate() {

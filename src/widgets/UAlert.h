@@ -1,23 +1,18 @@
 #pragma once
 
-#include <QPointer>
-#include <QTimer>
-#include <QWidget>
+#include "widgets/UOverlay.h"
 
-class NoticeQueue;
+#include <QTimer>
+
 class QLabel;
 class UTextButton;
 
-/// A box over a window that asks or tells something and waits for the answer; the rest of the window is
-/// dimmed and out of reach meanwhile, for the keyboard too.
-///
-/// The alerts of a window never cover each other: show() shows it at once, or when those before it are
-/// answered. Screen readers announce it. Escape is the cancel button, or the OK button when it is alone.
-class UAlert : public QWidget {
+/// A box over a window that asks or tells something. Screen readers announce it. Escape is the cancel button,
+/// or the OK button when it is alone.
+class UAlert : public UOverlay {
     Q_OBJECT
 
 public:
-    /// The alert covers the window that `parent` is in when it is shown.
     explicit UAlert(QWidget* parent);
     ~UAlert() override;
 
@@ -39,21 +34,14 @@ signals:
     void Rejected();
 
 protected:
-    bool focusNextPrevChild(bool next) override;
+    void Presented() override;
     void keyPressEvent(QKeyEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
-    void Request();
-    void Present();
     void Close(bool accepted);
     void Retranslate();
 
-    QPointer<QWidget> m_owner;
-    QPointer<NoticeQueue> m_queue;
-    QPointer<QWidget> m_focusBefore;
     QLabel* m_title;
     QLabel* m_content;
     UTextButton* m_ok;

@@ -1,6 +1,6 @@
 #include "app/WidgetWalk.h"
 
-#include "widgets/UAlert.h"
+#include "widgets/UOverlay.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -27,9 +27,9 @@ bool IsInteractive(const QWidget* widget) {
 }
 
 QWidget& TopPart(QWidget& root) {
-    for (UAlert* alert : root.findChildren<UAlert*>())
-        if (alert->isVisible())
-            return *alert;
+    for (UOverlay* overlay : root.findChildren<UOverlay*>())
+        if (overlay->isVisible())
+            return *overlay;
     return root;
 }
 
