@@ -67,17 +67,18 @@ void PasswordPad::Initialization() {
     m_parts = new QBoxLayout(QBoxLayout::TopToBottom, this);
     m_parts->setSpacing(24);
     m_parts->addLayout(entry);
-    m_parts->addWidget(CreateKeypad(), 0, Qt::AlignCenter);
+    CreateKeypad();
+    m_parts->addWidget(m_keypad, 0, Qt::AlignCenter);
 }
 
-QWidget* PasswordPad::CreateKeypad() {
-    auto* keypad = new QWidget(this);
-    keypad->setObjectName(QStringLiteral("keypad"));
-    keypad->setLayoutDirection(Qt::LeftToRight);
-    auto* grid = new QGridLayout(keypad);
+void PasswordPad::CreateKeypad() {
+    m_keypad = new QWidget(this);
+    m_keypad->setObjectName(QStringLiteral("keypad"));
+    m_keypad->setLayoutDirection(Qt::LeftToRight);
+    auto* grid = new QGridLayout(m_keypad);
     grid->setSpacing(12);
     const auto add = [&](const QString& text, int row, int column) {
-        auto* key = new QPushButton(text, keypad);
+        auto* key = new QPushButton(text, m_keypad);
         key->setProperty("passwordKey", true);
         key->setFocusPolicy(Qt::TabFocus); // a press leaves the focus in the boxes
         grid->addWidget(key, row, column);
@@ -90,19 +91,23 @@ QWidget* PasswordPad::CreateKeypad() {
                 [this, digit] { TypeDigit(CurrentBox(), QLatin1Char(static_cast<char>('0' + digit))); });
     }
     auto* erase = add(QStringLiteral("\u232b"), 3, 2);
-    connect(erase, &QPushButton::clicked, this, [this] { Erase(CurrentBox()); });
+    connect(erase, &QPushButton::clicked, this, &PasswordPad::EraseDigit);
     m_erase = erase;
-    return keypad;
+}
+
+QWidget* PasswordPad::TakeKeypad() {
+    m_keypad->setParent(nullptr);
+    return m_keypad;
 }
 
 void PasswordPad::SetLow(bool low) {
     m_parts->setDirection(low ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
     const int gap = low ? 6 : 12;
     m_passwordArea->layout()->setSpacing(gap);
-    m_erase->parentWidget()->layout()->setSpacing(gap);
+    m_keypad->layout()->setSpacing(gap);
     for (QLineEdit* box : m_boxes)
         Theme::SetProperty(box, "low", low);
-    for (QPushButton* key : m_erase->parentWidget()->findChildren<QPushButton*>())
+    for (QPushButton* key : m_keypad->findChildren<QPushButton*>())
         Theme::SetProperty(key, "low", low);
 }
 
@@ -131,8 +136,10 @@ std::string PasswordPad::GetPasswordHash() const {
 }
 
 void PasswordPad::Clear() {
-    for (QLineEdit* box : m_boxes)
+    for (QLineEdit* box : m_boxes) {
         box->clear();
+        box->clearFocus();
+    }
 }
 
 void PasswordPad::Reset() {
@@ -176,6 +183,15 @@ void PasswordPad::Erase(int box) {
     emit Used();
 }
 
+void PasswordPad::EraseDigit() {
+    Erase(CurrentBox());
+}
+
+void PasswordPad::SetUsable(bool usable) {
+    m_passwordArea->setEnabled(usable);
+    m_keypad->setEnabled(usable);
+}
+
 void PasswordPad::OnButtonViewPasswordClicked() {
     for (QLineEdit* box : m_boxes)
         box->setEchoMode(m_viewPassword->isChecked() ? QLineEdit::Normal : QLineEdit::Password);
@@ -201,20 +217,30 @@ bool PasswordPad::eventFilter(QObject* watched, QEvent* event) {
         OnAreaPressed();
         return true;
     case QEvent::KeyPress:
-        return OnKeyPressed(index.toInt(), *static_cast<QKeyEvent*>(event));
+        return OnKeyPressed(index.toInt(), static_cast<QKeyEvent&>(*event));
     default:
         return QFrame::eventFilter(watched, event);
     }
 }
 
-bool PasswordPad::OnKeyPressed(int box, const QKeyEvent& key) {
-    if (key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab)
+bool PasswordPad::OnKeyPressed(int box, QKeyEvent& key) {
+    switch (key.key()) {
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
         return false;
-    if (const QChar digit = DigitOf(key.text()); !digit.isNull())
-        TypeDigit(box, digit);
-    else if (key.key() == Qt::Key_Backspace)
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Escape:
+        key.ignore(); // for whoever holds the pad
+        return true;
+    case Qt::Key_Backspace:
         Erase(box);
-    return true; // nothing else belongs into a box, pasting included
+        return true;
+    default:
+        if (const QChar digit = DigitOf(key.text()); !digit.isNull())
+            TypeDigit(box, digit);
+        return true; // nothing else belongs into a box, pasting included
+    }
 }
 
 void PasswordPad::StartInvalidPasswordAnimation() {

@@ -9,7 +9,8 @@ class QKeyEvent;
 class QLineEdit;
 
 /// Six single-character boxes for a password of digits, the choice to show them, and digit keys for
-/// displays without a keyboard. Every dialog that asks for the password holds one. GUI thread.
+/// displays without a keyboard. Every dialog that asks for the password holds one, and gets Return and
+/// Escape from it. GUI thread.
 class PasswordPad : public QFrame {
     Q_OBJECT
 
@@ -23,11 +24,20 @@ public:
     /// The hash of GetPassword, as the service knows passwords.
     std::string GetPasswordHash() const;
 
+    /// Empties the boxes and takes the focus away from them.
     void Clear();
     /// As at every first look: no digits, and none to be shown.
     void Reset();
     void FocusBox(int index);
     void FocusFirstEmpty();
+    /// Takes back the digit of the box in use.
+    void EraseDigit();
+
+    /// Whether boxes and digit keys can be used; at first they can.
+    void SetUsable(bool usable);
+
+    /// The digit keys, for a dialog that puts them elsewhere than below the boxes; Tab reaches them there.
+    QWidget* TakeKeypad();
 
     /// Places the digit keys beside the boxes instead of below, where there is little height.
     void SetLow(bool low);
@@ -49,12 +59,12 @@ protected:
 
 private:
     void Initialization();
-    QWidget* CreateKeypad();
+    void CreateKeypad();
     void OnButtonViewPasswordClicked();
     void LanguageChanges();
     void OnAreaPressed();
-    /// True when the key goes no further.
-    bool OnKeyPressed(int box, const QKeyEvent& key);
+    /// True when the box itself does not get the key.
+    bool OnKeyPressed(int box, QKeyEvent& key);
     void TypeDigit(int box, QChar digit);
     void Erase(int box);
     int CurrentBox() const;
@@ -63,6 +73,7 @@ private:
     QBoxLayout* m_parts = nullptr;
     QFrame* m_passwordArea = nullptr;
     QCheckBox* m_viewPassword = nullptr;
+    QWidget* m_keypad = nullptr;
     QWidget* m_erase = nullptr;
     bool m_shaking = false;
 };

@@ -48,7 +48,6 @@ ScreenCovers::Cover ScreenCovers::Make(const QRect& place) {
     cover.window->setProperty("TopLevel", m_level);
     cover.keeper = std::make_unique<WindowKeeper>(*cover.window, m_system);
     connect(cover.keeper.get(), &WindowKeeper::Lost, this, &ScreenCovers::Lost);
-    connect(cover.keeper.get(), &WindowKeeper::Restored, WindowStack::Instance(), &WindowStack::Restack);
     WindowStack::Instance()->PushWindow(cover.window.get());
     cover.keeper->Keep(place);
     cover.window->show();

@@ -29,8 +29,7 @@ TopmostCover::TopmostCover(QWidget& window, Keyboard keyboard, const SystemWindo
     m_second.setInterval(LookAfterMs);
     connect(&m_second, &QTimer::timeout, this, &TopmostCover::LookAfter);
     connect(&m_keeper, &WindowKeeper::Restored, this, [this] {
-        WindowStack::Instance()->Restack(); // restored, it is above its betters
-        HoldKeyboard();                     // a window that was hidden has lost it
+        HoldKeyboard(); // a window that was hidden has lost it
         FetchFocus();
     });
     connect(&m_keeper, &WindowKeeper::Lost, this, &TopmostCover::Lost);
@@ -70,12 +69,16 @@ void TopmostCover::ClosePopups() {
 }
 
 void TopmostCover::Raise() {
-    m_windows.RaiseTopmost(m_window.winId());
+    if (const QWidget* above = WindowStack::Instance()->NextAbove(&m_window))
+        m_windows.PlaceBelow(m_window.winId(), above->winId());
+    else
+        m_windows.RaiseTopmost(m_window.winId());
 }
 
 void TopmostCover::Cover() {
     CoverScreens();
-    m_windows.Activate(m_window);
+    if (WindowStack::Instance()->Highest() == &m_window)
+        m_windows.Activate(m_window);
     m_second.start();
 }
 

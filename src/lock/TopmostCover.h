@@ -28,7 +28,8 @@ public:
     /// and keep the keyboard.
     static void ClosePopups();
 
-    /// Lifts the window to the topmost band without moving, resizing or activating it.
+    /// Lifts the window to the topmost band, below what has a higher level, without moving, resizing or
+    /// activating it.
     void Raise();
 
     /// Covers every screen and takes what the window must have. To be called when the window is shown.

@@ -42,6 +42,7 @@ void UDeviceScreenLock::Initialization() {
     setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
     setAttribute(Qt::WA_StyledBackground);
     setProperty("TopLevel", TopLevel);
+    setProperty("lockLook", true);
     m_ui->setupUi(this);
     m_ui->rows->setSizeConstraint(QLayout::SetNoConstraint); // the screen decides
     m_ui->enterPasswordButton->setDefault(true);

@@ -1,5 +1,6 @@
 #include "lock/WindowKeeper.h"
 
+#include "platform/application/WindowStack.h"
 #include "platform/context/Theme.h"
 #include "platform/system/SystemWindows.h"
 
@@ -32,7 +33,7 @@ void WindowKeeper::Keep(const QRect& place) {
     const qreal scale = m_window.devicePixelRatioF();
     m_window.setGeometry(QRect(place.topLeft(), place.size() / scale));
     m_system.Guard(m_window.winId(), place, [this] { OnChanged(); });
-    m_system.Restore(m_window.winId(), place);
+    Restore();
 }
 
 void WindowKeeper::Release() {
@@ -73,6 +74,12 @@ void WindowKeeper::Compare() {
         LOG(WARNING) << "WindowKeeper::Check another program changes \""
                      << m_window.objectName().toStdString() << "\"; it is restored, whenever that happens";
     m_told = true;
-    m_system.Restore(m_window.winId(), m_place);
+    Restore();
     emit Restored();
+}
+
+// Not above what has a higher level, not even for a moment.
+void WindowKeeper::Restore() {
+    const QWidget* above = WindowStack::Instance()->NextAbove(&m_window);
+    m_system.Restore(m_window.winId(), m_place, above ? above->winId() : 0);
 }

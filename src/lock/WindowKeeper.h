@@ -39,6 +39,7 @@ signals:
 private:
     void OnChanged();
     void Compare();
+    void Restore();
 
     QWidget& m_window;
     const SystemWindows& m_system;

@@ -65,13 +65,15 @@ TEST_P(AllScenesAccessibility, EveryControlHasNameRoleSizeAndTabStop) {
     }
 }
 
-// The strip at the top comes first, then the menu, then what stands beside it.
+// The strip at the top comes first, then the menu, then what stands beside it, and the digit keys last.
 int Region(const QWidget& widget) {
     for (const QWidget* part = &widget; part; part = part->parentWidget()) {
         if (qobject_cast<const UExitButton*>(part) && qobject_cast<const MainWindow*>(part->parentWidget()))
             return 0;
         if (qobject_cast<const UMenu*>(part))
             return 1;
+        if (part->objectName() == QLatin1String("keypad"))
+            return 3;
     }
     return 2;
 }

@@ -1,4 +1,3 @@
-#include "lock/PasswordAttempts.h"
 #include "lock/UDeviceScreenLock.h"
 #include "platform/application/Watchdog.h"
 #include "platform/context/AppConfigData.h"
@@ -505,40 +504,5 @@ TEST(StallMeter, TellsAStallOnceAndGivesUpOnlyWhileLocked) {
             last = meter.Look(1000, false, locked);
         EXPECT_EQ(last == Verdict::Hopeless, locked);
         EXPECT_EQ(meter.SilentMs(), 20000);
-    }
-}
-
-TEST(PasswordAttempts, FourAreFreeAndTheFifthStartsTheClock) {
-    struct SecondsClock : Clock {
-        QDateTime Now() const override { return QDateTime::fromSecsSinceEpoch(1'000'000 + seconds); }
-        qint64 seconds = 0;
-    } clock;
-    using Verdict = PasswordAttempts::Verdict;
-    // What happens when: a wrong attempt, or just a look (the dialog is shown, its timer has run).
-    struct Step {
-        qint64 second;
-        bool wrong;
-        Verdict verdict;
-    };
-    const std::vector<Step> fiveWrong{{0, true, Verdict::Free},  {0, true, Verdict::Free},
-                                      {0, true, Verdict::Free},  {0, true, Verdict::Free},
-                                      {0, false, Verdict::Free}, {10, true, Verdict::Counting}};
-    const std::vector<std::vector<Step>> endings{
-        {{10, false, Verdict::LockedOut}, {69, false, Verdict::LockedOut}, {70, false, Verdict::Released}},
-        {{11, true, Verdict::LockedOut}, {70, false, Verdict::Released}, {70, true, Verdict::Free}},
-        {{70, true, Verdict::Released}, {71, false, Verdict::Free}},
-        {{5000, false, Verdict::Released}, {5000, true, Verdict::Free}},
-    };
-    for (const std::vector<Step>& ending : endings) {
-        LogCapture log;
-        PasswordAttempts attempts(clock);
-        std::vector<Step> steps = fiveWrong;
-        steps.insert(steps.end(), ending.begin(), ending.end());
-        for (const Step& step : steps) {
-            clock.seconds = step.second;
-            EXPECT_EQ(attempts.Check(step.wrong), step.verdict) << step.second;
-            EXPECT_EQ(attempts.IsLockedOut(), step.verdict == Verdict::LockedOut);
-        }
-        EXPECT_EQ(log.Count("input password eorr cout is :5,time is 0\n"), 1);
     }
 }

@@ -28,7 +28,7 @@ public:
     }
     void Unguard(WId window) const override { guarded.erase(window); }
     std::optional<Facts> FactsOf(WId window) const override { return facts[window]; }
-    void Restore(WId window, const QRect& place) const override {
+    void Restore(WId window, const QRect& place, WId) const override {
         ++restored;
         facts[window] = Facts();
         facts[window]->place = place;

@@ -6,7 +6,9 @@
 #include "app/UMenu.h"
 #include "controllers/MainController.h"
 #include "gallery/ControlSheet.h"
+#include "lock/UBodySettingLockModal.h"
 #include "lock/UDeviceScreenLock.h"
+#include "lock/USettingsLockMaskModal.h"
 #include "platform/context/AppConfigData.h"
 #include "platform/context/AppContextData.h"
 #include "platform/link/PipeClientService.h"
@@ -74,6 +76,17 @@ UDeviceScreenLock& Lock(Stage& stage, const char* body) {
     stage.Receive(33, body);
     lock.setGeometry(QRect(QPoint(), DesignSize));
     return lock;
+}
+
+Scene SettingsMask(const QString& name, int wrongPasswords) {
+    return {name, true, [wrongPasswords](Stage& stage) {
+                static ControllerBase nobody;
+                auto& mask = stage.Show(std::make_unique<USettingsLockMaskModal>(nobody));
+                mask.BringForward();
+                mask.setGeometry(QRect(QPoint(), DesignSize));
+                for (int i = 0; i < wrongPasswords; ++i)
+                    mask.findChild<QPushButton*>(QStringLiteral("okButton"))->click();
+            }};
 }
 
 QVector<Scene> PageScenes() {
@@ -199,6 +212,20 @@ QVector<Scene> OtherScenes() {
              UDeviceScreenLock& lock = Lock(stage, "{}");
              AppContextData::Instance()->SetUnlockPassword({});
              lock.findChild<QPushButton*>(QStringLiteral("enterPasswordButton"))->click();
+         }},
+        SettingsMask(QStringLiteral("settings-mask"), 0),
+        SettingsMask(QStringLiteral("settings-mask-error"), 1),
+        SettingsMask(QStringLiteral("settings-mask-locked-out"), 6),
+        {QStringLiteral("settings-dialog"), true,
+         [](Stage& stage) {
+             GoTo(stage, PageId::Settings);
+             (new UBodySettingLockModal(&stage.Window()))->show();
+         }},
+        {QStringLiteral("settings-dialog-narrow"), true,
+         [](Stage& stage) {
+             stage.Window().resize(700, 560);
+             Settle();
+             (new UBodySettingLockModal(&stage.Window()))->show();
          }},
     };
 }

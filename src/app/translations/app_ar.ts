@@ -76,10 +76,6 @@
         <translation>الشبكة</translation>
     </message>
     <message>
-        <source>menu_settings</source>
-        <translation>الإعدادات</translation>
-    </message>
-    <message>
         <source>Open</source>
         <translation>فتح</translation>
     </message>

@@ -76,10 +76,6 @@
         <translation>Netzwerk</translation>
     </message>
     <message>
-        <source>menu_settings</source>
-        <translation>Einstellungen</translation>
-    </message>
-    <message>
         <source>Open</source>
         <translation>Öffnen</translation>
     </message>

@@ -76,10 +76,6 @@
         <translation>Network</translation>
     </message>
     <message>
-        <source>menu_settings</source>
-        <translation>Settings</translation>
-    </message>
-    <message>
         <source>Open</source>
         <translation>Open</translation>
     </message>

@@ -76,10 +76,6 @@
         <translation>Red</translation>
     </message>
     <message>
-        <source>menu_settings</source>
-        <translation>Ajustes</translation>
-    </message>
-    <message>
         <source>Open</source>
         <translation>Abrir</translation>
     </message>

@@ -76,10 +76,6 @@
         <translation>Réseau</translation>
     </message>
     <message>
-        <source>menu_settings</source>
-        <translation>Paramètres</translation>
-    </message>
-    <message>
         <source>Open</source>
         <translation>Ouvrir</translation>
     </message>

@@ -76,10 +76,6 @@
         <translation>ネットワーク</translation>
     </message>
     <message>
-        <source>menu_settings</source>
-        <translation>設定</translation>
-    </message>
-    <message>
         <source>Open</source>
         <translation>開く</translation>
     </message>

@@ -76,10 +76,6 @@
         <translation>网络</translation>
     </message>
     <message>
-        <source>menu_settings</source>
-        <translation>设置</translation>
-    </message>
-    <message>
         <source>Open</source>
         <translation>打开</translation>
     </message>

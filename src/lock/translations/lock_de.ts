@@ -4,6 +4,18 @@
 <context>
     <name>Ryx</name>
     <message>
+        <source>app_lock_view_content</source>
+        <translation>Ihre Organisation hat die Einstellungen dieses Geräts gesperrt. Geben Sie das sechsstellige Passwort ein, um sie zu öffnen.</translation>
+    </message>
+    <message>
+        <source>app_lock_view_tip</source>
+        <translation>Ihr Administrator kennt das Passwort.</translation>
+    </message>
+    <message>
+        <source>app_lock_view_title</source>
+        <translation>%1 sind gesperrt</translation>
+    </message>
+    <message>
         <source>lock_cannot_hold</source>
         <translation>Dieser Desktop lässt kein Fenster über allen anderen, daher kann die Sperre hier nicht halten.</translation>
     </message>
@@ -32,6 +44,10 @@
         <translation>Bildschirmsperre</translation>
     </message>
     <message>
+        <source>menu_settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
         <source>remote_x_btn_enter_pwd</source>
         <translation>Passwort eingeben</translation>
     </message>
@@ -42,6 +58,30 @@
     <message>
         <source>remote_x_screen_lock_msg_without_time</source>
         <translation>%1 hat diesen Bildschirm gesperrt.</translation>
+    </message>
+    <message>
+        <source>setting_permission_content</source>
+        <translation>Ihr Administrator hat diese Einstellung gesperrt. Geben Sie das sechsstellige Passwort ein, um sie zu ändern.</translation>
+    </message>
+    <message>
+        <source>setting_permission_title</source>
+        <translation>Diese Einstellung ist gesperrt</translation>
+    </message>
+    <message>
+        <source>view_lock_button_connect</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>view_lock_password_error</source>
+        <translation>Dieses Passwort ist falsch.</translation>
+    </message>
+    <message>
+        <source>view_lock_password_lock_tip</source>
+        <translation>Zu viele falsche Passwörter. Brechen Sie ab und kommen Sie in einer Minute wieder.</translation>
+    </message>
+    <message>
+        <source>view_register_windows_button_cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 </TS>

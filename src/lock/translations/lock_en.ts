@@ -4,6 +4,18 @@
 <context>
     <name>Ryx</name>
     <message>
+        <source>app_lock_view_content</source>
+        <translation>Your organisation has locked the settings of this device. Enter the six-digit password to open them.</translation>
+    </message>
+    <message>
+        <source>app_lock_view_tip</source>
+        <translation>Your administrator knows the password.</translation>
+    </message>
+    <message>
+        <source>app_lock_view_title</source>
+        <translation>%1 are locked</translation>
+    </message>
+    <message>
         <source>lock_cannot_hold</source>
         <translation>This desktop lets no window stay above all others, so the lock cannot hold here.</translation>
     </message>
@@ -32,6 +44,10 @@
         <translation>Screen lock</translation>
     </message>
     <message>
+        <source>menu_settings</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
         <source>remote_x_btn_enter_pwd</source>
         <translation>Enter password</translation>
     </message>
@@ -42,6 +58,30 @@
     <message>
         <source>remote_x_screen_lock_msg_without_time</source>
         <translation>%1 has locked this screen.</translation>
+    </message>
+    <message>
+        <source>setting_permission_content</source>
+        <translation>Your administrator has locked this setting. Enter the six-digit password to change it.</translation>
+    </message>
+    <message>
+        <source>setting_permission_title</source>
+        <translation>This setting is locked</translation>
+    </message>
+    <message>
+        <source>view_lock_button_connect</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>view_lock_password_error</source>
+        <translation>This password is wrong.</translation>
+    </message>
+    <message>
+        <source>view_lock_password_lock_tip</source>
+        <translation>Too many wrong passwords. Cancel, and come back in a minute.</translation>
+    </message>
+    <message>
+        <source>view_register_windows_button_cancel</source>
+        <translation>Cancel</translation>
     </message>
 </context>
 </TS>

@@ -4,6 +4,18 @@
 <context>
     <name>Ryx</name>
     <message>
+        <source>app_lock_view_content</source>
+        <translation>Su organización ha bloqueado los ajustes de este dispositivo. Introduzca la contraseña de seis dígitos para abrirlos.</translation>
+    </message>
+    <message>
+        <source>app_lock_view_tip</source>
+        <translation>Su administrador conoce la contraseña.</translation>
+    </message>
+    <message>
+        <source>app_lock_view_title</source>
+        <translation>%1 bloqueados</translation>
+    </message>
+    <message>
         <source>lock_cannot_hold</source>
         <translation>Este escritorio no permite que una ventana quede sobre todas las demás, así que el bloqueo no puede mantenerse aquí.</translation>
     </message>
@@ -32,6 +44,10 @@
         <translation>Bloqueo de pantalla</translation>
     </message>
     <message>
+        <source>menu_settings</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
         <source>remote_x_btn_enter_pwd</source>
         <translation>Introducir la contraseña</translation>
     </message>
@@ -42,6 +58,30 @@
     <message>
         <source>remote_x_screen_lock_msg_without_time</source>
         <translation>%1 ha bloqueado esta pantalla.</translation>
+    </message>
+    <message>
+        <source>setting_permission_content</source>
+        <translation>Su administrador ha bloqueado este ajuste. Introduzca la contraseña de seis dígitos para cambiarlo.</translation>
+    </message>
+    <message>
+        <source>setting_permission_title</source>
+        <translation>Este ajuste está bloqueado</translation>
+    </message>
+    <message>
+        <source>view_lock_button_connect</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>view_lock_password_error</source>
+        <translation>Esta contraseña es incorrecta.</translation>
+    </message>
+    <message>
+        <source>view_lock_password_lock_tip</source>
+        <translation>Demasiadas contraseñas incorrectas. Cancele y vuelva dentro de un minuto.</translation>
+    </message>
+    <message>
+        <source>view_register_windows_button_cancel</source>
+        <translation>Cancelar</translation>
     </message>
 </context>
 </TS>

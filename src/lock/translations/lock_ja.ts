@@ -4,6 +4,18 @@
 <context>
     <name>Ryx</name>
     <message>
+        <source>app_lock_view_content</source>
+        <translation>組織がこのデバイスの設定をロックしています。開くには 6 桁のパスワードを入力してください。</translation>
+    </message>
+    <message>
+        <source>app_lock_view_tip</source>
+        <translation>パスワードは管理者にお問い合わせください。</translation>
+    </message>
+    <message>
+        <source>app_lock_view_title</source>
+        <translation>%1はロックされています</translation>
+    </message>
+    <message>
         <source>lock_cannot_hold</source>
         <translation>このデスクトップではウィンドウを常に最前面に置けないため、ロックを維持できません。</translation>
     </message>
@@ -32,6 +44,10 @@
         <translation>画面ロック</translation>
     </message>
     <message>
+        <source>menu_settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
         <source>remote_x_btn_enter_pwd</source>
         <translation>パスワードを入力</translation>
     </message>
@@ -42,6 +58,30 @@
     <message>
         <source>remote_x_screen_lock_msg_without_time</source>
         <translation>%1 により、この画面はロックされています。</translation>
+    </message>
+    <message>
+        <source>setting_permission_content</source>
+        <translation>管理者がこの設定をロックしています。変更するには 6 桁のパスワードを入力してください。</translation>
+    </message>
+    <message>
+        <source>setting_permission_title</source>
+        <translation>この設定はロックされています</translation>
+    </message>
+    <message>
+        <source>view_lock_button_connect</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>view_lock_password_error</source>
+        <translation>パスワードが正しくありません。</translation>
+    </message>
+    <message>
+        <source>view_lock_password_lock_tip</source>
+        <translation>パスワードの誤りが多すぎます。キャンセルして 1 分後にもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>view_register_windows_button_cancel</source>
+        <translation>キャンセル</translation>
     </message>
 </context>
 </TS>

@@ -4,6 +4,18 @@
 <context>
     <name>Ryx</name>
     <message>
+        <source>app_lock_view_content</source>
+        <translation>您的组织已锁定此设备的设置。请输入六位数密码以打开设置。</translation>
+    </message>
+    <message>
+        <source>app_lock_view_tip</source>
+        <translation>请向管理员索取密码。</translation>
+    </message>
+    <message>
+        <source>app_lock_view_title</source>
+        <translation>%1已锁定</translation>
+    </message>
+    <message>
         <source>lock_cannot_hold</source>
         <translation>此桌面不允许窗口始终位于最上层，因此锁定在此无法保持。</translation>
     </message>
@@ -32,6 +44,10 @@
         <translation>屏幕锁定</translation>
     </message>
     <message>
+        <source>menu_settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
         <source>remote_x_btn_enter_pwd</source>
         <translation>输入密码</translation>
     </message>
@@ -42,6 +58,30 @@
     <message>
         <source>remote_x_screen_lock_msg_without_time</source>
         <translation>%1 已锁定此屏幕。</translation>
+    </message>
+    <message>
+        <source>setting_permission_content</source>
+        <translation>管理员已锁定此设置。请输入六位数密码以进行更改。</translation>
+    </message>
+    <message>
+        <source>setting_permission_title</source>
+        <translation>此设置已锁定</translation>
+    </message>
+    <message>
+        <source>view_lock_button_connect</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>view_lock_password_error</source>
+        <translation>密码错误。</translation>
+    </message>
+    <message>
+        <source>view_lock_password_lock_tip</source>
+        <translation>密码错误次数过多。请取消，一分钟后再试。</translation>
+    </message>
+    <message>
+        <source>view_register_windows_button_cancel</source>
+        <translation>取消</translation>
     </message>
 </context>
 </TS>

@@ -39,6 +39,17 @@ QWidget* WindowStack::Highest() const {
     return shown == m_windows.end() ? nullptr : shown->data();
 }
 
+QWidget* WindowStack::NextAbove(const QWidget* window) const {
+    QWidget* above = nullptr;
+    for (const QPointer<QWidget>& other : m_windows) {
+        if (other == window)
+            return above;
+        if (other && other->isVisible())
+            above = other;
+    }
+    return nullptr;
+}
+
 void WindowStack::Restack() {
     const QWidget* above = nullptr;
     for (const QPointer<QWidget>& window : m_windows) {
@@ -52,8 +63,18 @@ void WindowStack::Restack() {
     }
 }
 
+// When a lock goes, the next one below it has the keyboard at once.
+void WindowStack::PassFocusOn() {
+    QWidget* highest = std::exchange(m_focusIsFree, false) ? Highest() : nullptr;
+    if (highest && !highest->windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus))
+        m_system.Activate(*highest);
+}
+
 bool WindowStack::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
+    case QEvent::Hide:
+        m_focusIsFree = true;
+        Q_FALLTHROUGH();
     case QEvent::Show:
     case QEvent::WindowActivate:
     case QEvent::WindowDeactivate: // another program's window may have come above
@@ -64,6 +85,7 @@ bool WindowStack::eventFilter(QObject* watched, QEvent* event) {
                 [this] {
                     m_restackPosted = false;
                     Restack();
+                    PassFocusOn();
                 },
                 Qt::QueuedConnection);
         break;

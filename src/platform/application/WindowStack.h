@@ -24,6 +24,9 @@ public:
     /// The registered window on screen with the highest level; null when none is there.
     QWidget* Highest() const;
 
+    /// The registered window on screen that is next above `window`; null when none is.
+    QWidget* NextAbove(const QWidget* window) const;
+
     /// Lifts the highest window that is on screen and places the others below it, each below the next
     /// higher one, so that none shows above its betters even for a moment.
     void Restack();
@@ -31,7 +34,10 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void PassFocusOn();
+
     const SystemWindows& m_system;
     std::vector<QPointer<QWidget>> m_windows; // the highest first
     bool m_restackPosted = false;
+    bool m_focusIsFree = false; // one of the windows has gone from the screen
 };

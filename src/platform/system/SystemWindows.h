@@ -64,8 +64,9 @@ public:
     /// cannot tell.
     virtual std::optional<Facts> FactsOf(WId window) const = 0;
 
-    /// Makes the window what a cover must be: shown, enabled, whole, topmost, and exactly at `place`.
-    virtual void Restore(WId window, const QRect& place) const = 0;
+    /// Makes the window what a cover must be: shown, enabled, whole, exactly at `place`, and topmost or, when
+    /// `above` is not 0, directly below that topmost window.
+    virtual void Restore(WId window, const QRect& place, WId above = 0) const = 0;
 
     /// Gives the window the foreground and the keyboard's focus, and waits for no other program meanwhile.
     virtual void Activate(QWidget& window) const = 0;

@@ -159,7 +159,7 @@ public:
         return facts;
     }
 
-    void Restore(WId window, const QRect& place) const override {
+    void Restore(WId window, const QRect& place, WId above) const override {
         const HWND handle = Handle(window);
         const WindowsGuard::OwnAct act;
         if (GetAncestor(handle, GA_PARENT) != GetDesktopWindow())
@@ -175,8 +175,8 @@ public:
             DwmSetWindowAttribute(handle, DWMWA_CLOAK, &no, sizeof no);
         if (IsIconic(handle))
             ShowWindow(handle, SW_SHOWNOACTIVATE);
-        SetWindowPos(handle, HWND_TOPMOST, place.x(), place.y(), place.width(), place.height(),
-                     SWP_NOACTIVATE | SWP_SHOWWINDOW);
+        SetWindowPos(handle, above ? Handle(above) : HWND_TOPMOST, place.x(), place.y(), place.width(),
+                     place.height(), SWP_NOACTIVATE | SWP_SHOWWINDOW);
     }
 
     void Activate(QWidget& window) const override {

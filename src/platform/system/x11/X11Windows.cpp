@@ -159,7 +159,7 @@ public:
         return facts;
     }
 
-    void Restore(WId window, const QRect& place) const override {
+    void Restore(WId window, const QRect& place, WId above) const override {
         const X11Connection* x11 = X11Connection::Get();
         if (!x11)
             return;
@@ -172,14 +172,17 @@ public:
         for (const xcb_shape_sk_t kind : {XCB_SHAPE_SK_BOUNDING, XCB_SHAPE_SK_CLIP, XCB_SHAPE_SK_INPUT})
             xcb_shape_mask(x11->Server(), XCB_SHAPE_SO_SET, kind, id, 0, 0, XCB_NONE);
         xcb_delete_property(x11->Server(), id, Atom(*x11, OpacityProperty));
-        xcb_map_window(x11->Server(), id);
-        const std::array<std::uint32_t, 5> values{
+        if (above)
+            PlaceBelow(window, above);
+        else
+            RaiseTopmost(window);
+        const std::array<std::uint32_t, 4> values{
             static_cast<std::uint32_t>(place.x()), static_cast<std::uint32_t>(place.y()),
-            static_cast<std::uint32_t>(place.width()), static_cast<std::uint32_t>(place.height()),
-            XCB_STACK_MODE_ABOVE};
+            static_cast<std::uint32_t>(place.width()), static_cast<std::uint32_t>(place.height())};
+        xcb_map_window(x11->Server(), id);
         Configure(id,
                   XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y | XCB_CONFIG_WINDOW_WIDTH |
-                      XCB_CONFIG_WINDOW_HEIGHT | XCB_CONFIG_WINDOW_STACK_MODE,
+                      XCB_CONFIG_WINDOW_HEIGHT,
                   values.data());
     }
 
