@@ -6,6 +6,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QWidget>
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <map>
 #include <vector>
@@ -17,8 +18,10 @@ public:
     void CreateHidden(QWidget&) const override {}
     void RaiseTopmost(WId window) const override { order = {window}; }
     void PlaceBelow(WId window, WId above) const override {
-        EXPECT_EQ(order.empty() ? 0 : order.back(), above);
-        order.push_back(window);
+        order.erase(std::remove(order.begin(), order.end(), window), order.end());
+        const auto place = std::find(order.begin(), order.end(), above);
+        ASSERT_NE(place, order.end());
+        order.insert(place + 1, window);
     }
     QVector<QRect> ScreenPlaces() const override { return screens; }
     bool CanCover() const override { return true; }

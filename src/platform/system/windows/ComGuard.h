@@ -1,0 +1,36 @@
+#pragma once
+
+#include <windows.h>
+
+#include <memory>
+#include <objbase.h>
+#include <oleauto.h>
+
+/// COM on this thread while it lives. Where COM runs in another model already, that one serves as well and is
+/// left as it is.
+class ComGuard {
+public:
+    /// `model` is one of COINIT's.
+    explicit ComGuard(DWORD model) : m_result(CoInitializeEx(nullptr, model)) {}
+    ~ComGuard() {
+        if (SUCCEEDED(m_result))
+            CoUninitialize();
+    }
+    ComGuard(const ComGuard&) = delete;
+    ComGuard& operator=(const ComGuard&) = delete;
+
+    HRESULT Result() const { return m_result == RPC_E_CHANGED_MODE ? S_OK : m_result; }
+
+private:
+    const HRESULT m_result;
+};
+
+struct BstrFree {
+    void operator()(OLECHAR* text) const { SysFreeString(text); }
+};
+/// A text as COM takes it.
+using ComText = std::unique_ptr<OLECHAR, BstrFree>;
+
+inline ComText MakeComText(const wchar_t* text) {
+    return ComText(SysAllocString(text));
+}

@@ -1,0 +1,84 @@
+#include "platform/system/SystemDesktop.h"
+
+#include <windows.h>
+
+#include <dwmapi.h>
+
+namespace {
+
+constexpr int ClassNameSize = 256;
+
+HWND Handle(WId window) {
+    return reinterpret_cast<HWND>(window);
+}
+
+BOOL CALLBACK Append(HWND window, LPARAM windows) {
+    reinterpret_cast<std::vector<WId>*>(windows)->push_back(reinterpret_cast<WId>(window));
+    return TRUE;
+}
+
+class WindowsDesktop final : public SystemDesktop {
+public:
+    WId NextWindow(const char* className, WId after) const override {
+        const std::wstring name(className, className + std::char_traits<char>::length(className));
+        return reinterpret_cast<WId>(FindWindowExW(nullptr, Handle(after), name.c_str(), nullptr));
+    }
+
+    std::optional<std::vector<WId>> TopLevelWindows() const override {
+        std::vector<WId> windows;
+        if (!EnumWindows(Append, reinterpret_cast<LPARAM>(&windows)))
+            return std::nullopt;
+        return windows;
+    }
+
+    quint32 LastError() const override { return GetLastError(); }
+
+    quint32 ProcessOf(WId window) const override {
+        DWORD process = 0;
+        GetWindowThreadProcessId(Handle(window), &process);
+        return process;
+    }
+
+    bool IsOwnRoot(WId window) const override {
+        return GetAncestor(Handle(window), GA_ROOT) == Handle(window);
+    }
+
+    Style StyleOf(WId window) const override {
+        const LONG style = GetWindowLongW(Handle(window), GWL_STYLE);
+        const LONG extended = GetWindowLongW(Handle(window), GWL_EXSTYLE);
+        return {(style & WS_CHILD) != 0, (style & WS_DISABLED) != 0, (extended & WS_EX_NOACTIVATE) != 0,
+                (extended & WS_EX_TOOLWINDOW) != 0};
+    }
+
+    bool IsDesktopOrShell(WId window) const override {
+        return Handle(window) == GetDesktopWindow() || Handle(window) == GetShellWindow();
+    }
+
+    std::string ClassOf(WId window) const override {
+        char name[ClassNameSize] = {};
+        GetClassNameA(Handle(window), name, ClassNameSize);
+        return name;
+    }
+
+    std::optional<QSize> SizeOf(WId window) const override {
+        RECT place{};
+        if (!GetWindowRect(Handle(window), &place))
+            return std::nullopt;
+        return QSize(place.right - place.left, place.bottom - place.top);
+    }
+
+    bool IsCloaked(WId window) const override {
+        DWORD cloaked = 0;
+        return SUCCEEDED(DwmGetWindowAttribute(Handle(window), DWMWA_CLOAKED, &cloaked, sizeof cloaked)) &&
+               cloaked != 0;
+    }
+
+    bool IsVisible(WId window) const override { return IsWindowVisible(Handle(window)) != FALSE; }
+};
+
+} // namespace
+
+const SystemDesktop& SystemDesktop::Native() {
+    static const WindowsDesktop desktop;
+    return desktop;
+}
