@@ -161,6 +161,21 @@ void CommandInterpreter::AddSendingCommands() {
               RefuseArguments(arguments);
               return Act([this] { m_service.ReleaseLock(PipeKey::ScreenLockReset); });
           }},
+         {"settings-lock", "", "lock the system's settings (78 SettingsLockShow)",
+          [this](const std::string& arguments) {
+              RefuseArguments(arguments);
+              return Act([this] { m_server.Send(PipeKey::SettingsLockShow, {}); });
+          }},
+         {"settings-unlock", "", "take the mask of the settings away (80 SettingsLockHide)",
+          [this](const std::string& arguments) {
+              RefuseArguments(arguments);
+              return Act([this] { m_server.Send(PipeKey::SettingsLockHide, {}); });
+          }},
+         {"control-panel", "", "have the Control Panel end with its window (81 ControllExit)",
+          [this](const std::string& arguments) {
+              RefuseArguments(arguments);
+              return Act([this] { m_server.Send(PipeKey::ControllExit, {}); });
+          }},
          {"status", "STATE",
           "tell the link's status: not-enrolled, connected, disconnected, connecting or a number",
           [this](const std::string& arguments) {
