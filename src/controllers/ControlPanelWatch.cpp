@@ -79,10 +79,12 @@ bool ControlPanelWatch::IsRealWindow(WId window) {
 }
 
 void ControlPanelWatch::Remember(WId window) {
-    if (m_window != window || !m_destroy)
-        m_logged.clear();
+    if (m_window == window && m_destroy)
+        return;
     m_window = window;
     m_destroy = true;
+    m_logged.clear();
+    LogOnce("sees the window of pid" + std::to_string(m_process.id));
 }
 
 void ControlPanelWatch::Terminate() {

@@ -1,11 +1,11 @@
-// Another program's window, for the end-to-end tests: foreign_window TITLE X Y WIDTH HEIGHT
-// It is topmost, takes the foreground, and does not close; it goes when its process is ended.
+// Another program's window, for tests: foreign_window TITLE X Y WIDTH HEIGHT [CLASS]
+// It is topmost, takes the foreground, and nobody else closes it; it goes when its process is ended.
 // On a line "raise" it comes above all windows without the focus, on a line "activate" it takes the
-// foreground again; when that is done, it repeats the line on standard output.
+// foreground again, on "hide" and "close" it goes, and its process stays; when that is done, it repeats the
+// line on standard output.
 #include <cstdio>
 #include <cstdlib>
 #include <cwchar>
-#include <string>
 #include <thread>
 
 #include <windows.h>
@@ -14,15 +14,29 @@
 
 namespace {
 
-constexpr UINT RaiseMessage = WM_APP;
-constexpr UINT ActivateMessage = WM_APP + 1;
+constexpr UINT CommandMessage = WM_APP; // with the command's first letter
 
 /// The commands are carried out by the window's thread.
 void FollowCommands(HWND window) {
     for (char line[32]; std::fgets(line, sizeof line, stdin);) {
-        SendMessageW(window, std::string(line) == "raise\n" ? RaiseMessage : ActivateMessage, 0, 0);
+        SendMessageW(window, CommandMessage, static_cast<WPARAM>(line[0]), 0);
         std::fputs(line, stdout);
         std::fflush(stdout);
+    }
+}
+
+LRESULT Follow(HWND window, WPARAM command) {
+    switch (command) {
+    case 'r':
+        return SetWindowPos(window, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    case 'a':
+        return SetForegroundWindow(window);
+    case 'h':
+        return ShowWindow(window, SW_HIDE);
+    case 'c':
+        return DestroyWindow(window);
+    default:
+        return 0;
     }
 }
 
@@ -30,10 +44,8 @@ LRESULT CALLBACK HandleMessage(HWND window, UINT message, WPARAM wide, LPARAM ex
     switch (message) {
     case WM_CLOSE:
         return 0;
-    case RaiseMessage:
-        return SetWindowPos(window, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-    case ActivateMessage:
-        return SetForegroundWindow(window);
+    case CommandMessage:
+        return Follow(window, wide);
     default:
         return DefWindowProcW(window, message, wide, extra);
     }
@@ -44,7 +56,7 @@ LRESULT CALLBACK HandleMessage(HWND window, UINT message, WPARAM wide, LPARAM ex
 int WINAPI WinMain(HINSTANCE program, HINSTANCE, LPSTR, int) {
     int count = 0;
     wchar_t** words = CommandLineToArgvW(GetCommandLineW(), &count);
-    if (!words || count != 6)
+    if (!words || count < 6)
         return EXIT_FAILURE;
     const auto number = [words](int index) {
         return static_cast<int>(std::wcstol(words[index], nullptr, 10));
@@ -53,7 +65,7 @@ int WINAPI WinMain(HINSTANCE program, HINSTANCE, LPSTR, int) {
     WNDCLASSW kind{};
     kind.lpfnWndProc = HandleMessage;
     kind.hInstance = program;
-    kind.lpszClassName = L"ForeignWindow";
+    kind.lpszClassName = count > 6 ? words[6] : L"ForeignWindow";
     kind.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_HIGHLIGHT + 1);
     RegisterClassW(&kind);
     const HWND window =
