@@ -34,7 +34,7 @@ void ControlPanelWatch::Pass() {
             return Remember(window);
 
     if (m_processes.Identify(m_process.id) != m_process) {
-        LogOnce("has ended by itself: pid " + std::to_string(m_process.id));
+        LogOnce("process has ended by itself: pid " + std::to_string(m_process.id));
         return Forget();
     }
     if (m_window == 0)
@@ -84,7 +84,7 @@ void ControlPanelWatch::Remember(WId window) {
     m_window = window;
     m_destroy = true;
     m_logged.clear();
-    LogOnce("sees the window of pid" + std::to_string(m_process.id));
+    LogOnce("sees the window of pid " + std::to_string(m_process.id));
 }
 
 void ControlPanelWatch::Terminate() {

@@ -1,6 +1,4 @@
 #include "controllers/SettingsLockController.h"
-#include "lock/UDeviceScreenLock.h"
-#include "platform/application/WindowStack.h"
 #include "platform/context/AppContextData.h"
 #include "platform/context/LanguageHelper.h"
 #include "platform/link/PipeClientService.h"
@@ -70,7 +68,6 @@ protected:
     const Clock clock;
     FakeService service;
     PipeClientService& link = *PipeClientService::Instance();
-    UDeviceScreenLock lock{clock, windows, input};
     SettingsLockController controller{clock, windows, input, desktop, processes};
     QWidget* mask = nullptr;
 };
@@ -113,33 +110,6 @@ TEST_F(SettingsLock, TheMaskComesAndGoesByTheServicesWordAndTheUsers) {
     const FrameDecoder::Frame frame = service.Receive();
     EXPECT_EQ(frame.key, PipeKey::SettingsLockUnlock);
     EXPECT_EQ(frame.body, "");
-}
-
-TEST_F(SettingsLock, TheScreenLockLosesNothingToTheMask) {
-    link.Deliver(PipeKey::ScreenLock, "{}");
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&lock));
-    QTest::mouseClick(lock.findChild<QWidget*>(QStringLiteral("enterPasswordButton")), Qt::LeftButton);
-    Type(lock, "123");
-    link.Deliver(PipeKey::SettingsLockShow, "");
-    EXPECT_TRUE(mask->isVisible());
-    EXPECT_EQ(windows.order, (std::vector<WId>{lock.winId(), mask->winId()}));
-    link.Deliver(PipeKey::SettingsLockHide, "");
-    link.Deliver(PipeKey::SettingsLockShow, "");
-    EXPECT_EQ(input.keyboard, lock.windowHandle());
-    EXPECT_EQ(QApplication::activeWindow(), &lock);
-    Type(lock, "456");
-    EXPECT_FALSE(lock.isVisible());
-    EXPECT_EQ(input.keyboard, nullptr);
-    ASSERT_TRUE(MaskIsActive()) << "by itself, without the cover's second";
-
-    link.Deliver(PipeKey::ScreenLock, "{}"); // and the other way round
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&lock));
-    EXPECT_EQ(WindowStack::Instance()->Highest(), &lock);
-    link.Deliver(PipeKey::ScreenLockReset, "");
-    ASSERT_TRUE(MaskIsActive());
-    Type(*mask, "123456");
-    Press(Qt::Key_Return);
-    EXPECT_FALSE(mask->isVisible());
 }
 
 TEST_F(SettingsLock, TheControlPanelIsLookedUpFiveTimesAndThenOnlyWhenAskedAgain) {

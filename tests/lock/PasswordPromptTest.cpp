@@ -172,22 +172,6 @@ TEST_F(Prompt, TheSixthDigitLeadsToOkAndKeysDoWhatButtonsDo) {
     EXPECT_FALSE(dialog->isVisible());
 }
 
-TEST_F(Prompt, ALockedOutPromptTakesNoDigitsAndLeavesItsWayOut) {
-    for (int attempt = 0; attempt < 6; ++attempt) {
-        Try("111111");
-    }
-    ASSERT_EQ(Status(), QLatin1String(LockedText));
-    Type("123456");
-    for (auto* key : Part<QWidget>("keypad")->findChildren<QPushButton*>())
-        QTest::mouseClick(key, Qt::LeftButton);
-    for (auto* box : dialog->findChildren<QLineEdit*>())
-        QTest::mouseClick(box, Qt::LeftButton);
-    EXPECT_EQ(Typed(), QString());
-    EXPECT_EQ(window.focusWidget(), Part<QWidget>("closeButton"));
-    Press(Qt::Key_Return);
-    EXPECT_FALSE(dialog->isVisible());
-}
-
 TEST_F(Prompt, TheDialogGoesWithItsPageAndWhenNothingIsLockedAnyMore) {
     auto* page = new QWidget(&window);
     page->show();
