@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr UINT RenewMs = 1000;
+constexpr UINT RenewMessage = WM_APP;
 
 thread_local KeyFilter keyFilter; // the hook's procedure runs on the hook's thread
 
@@ -35,8 +35,8 @@ void CALLBACK ForgetModifiers(HWINEVENTHOOK, DWORD, HWND, LONG, LONG, DWORD, DWO
     keyFilter.ForgetModifiers();
 }
 
-/// Windows silently drops a hook that has been too slow, so it is made anew now and then; the new one stands
-/// before the old one goes.
+/// Windows silently drops a hook that has been too slow, so it is made anew with every hold; the new one
+/// stands before the old one goes.
 void RenewHook(HHOOK& hook) {
     const HHOOK fresh = SetWindowsHookExW(WH_KEYBOARD_LL, FilterKey, GetModuleHandleW(nullptr), 0);
     if (!fresh) {
@@ -55,17 +55,16 @@ void FilterKeys(std::promise<DWORD> threadId, const std::atomic<bool>& stopping)
     RenewHook(hook);
     const HWINEVENTHOOK desktop = SetWinEventHook(EVENT_SYSTEM_DESKTOPSWITCH, EVENT_SYSTEM_DESKTOPSWITCH,
                                                   nullptr, ForgetModifiers, 0, 0, WINEVENT_OUTOFCONTEXT);
-    const UINT_PTR timer = SetTimer(nullptr, 0, RenewMs, nullptr);
-    threadId.set_value(GetCurrentThreadId());
     MSG message;
+    PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE); // from now on the thread can be posted to
+    threadId.set_value(GetCurrentThreadId());
     // WM_QUIT, which any program may post, ends nothing here.
     while (GetMessageW(&message, nullptr, 0, 0) >= 0 && !stopping) {
-        if (message.message == WM_TIMER && message.wParam == timer)
+        if (message.message == RenewMessage)
             RenewHook(hook);
         else
             DispatchMessageW(&message);
     }
-    KillTimer(nullptr, timer);
     UnhookWinEvent(desktop);
     UnhookWindowsHookEx(hook);
 }
@@ -73,8 +72,10 @@ void FilterKeys(std::promise<DWORD> threadId, const std::atomic<bool>& stopping)
 } // namespace
 
 void KeyboardHook::Start() {
-    if (m_thread.joinable())
+    if (m_thread.joinable()) {
+        PostThreadMessageW(m_threadId, RenewMessage, 0, 0);
         return;
+    }
     m_stopping = false;
     std::promise<DWORD> threadId;
     std::future<DWORD> started = threadId.get_future();

@@ -9,7 +9,7 @@ class KeyboardHook {
 public:
     ~KeyboardHook() { Stop(); }
 
-    /// Returns when the hook stands; does nothing while it does.
+    /// Returns when the hook stands; one that stands is made anew.
     void Start();
     void Stop();
 
