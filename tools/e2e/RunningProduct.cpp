@@ -34,6 +34,11 @@ int CountOf(const std::string& text, const std::string& part) {
     return count;
 }
 
+std::string FileOf(const Program& program) {
+    const std::string chosen = Variable(program.variable);
+    return chosen.empty() ? std::string(RYX_BIN_DIR "/") + program.name : chosen;
+}
+
 } // namespace
 
 RunningProduct::RunningProduct(Desktop& desktop)
@@ -58,6 +63,10 @@ RunningProduct::RunningProduct(Desktop& desktop)
 
 RunningProduct::~RunningProduct() {
     m_frontEnd.Kill();
+    if (m_agent.IsRunning()) { // what it has launched goes with it
+        Tell("quit");
+        WaitUntil([this] { return !m_agent.IsRunning(); }, std::chrono::seconds(5));
+    }
     // Its shared memory outlives it on Linux; the folder that names it goes now.
     const SystemSession& system = SystemSession::Native();
     const QFileInfo key(system.SharedMemoryKey(QString::fromLatin1(Product::ShellMarker)));
@@ -93,8 +102,7 @@ void RunningProduct::Start(ChildProcess& process, const Program& program, const 
                            const std::string& errorFile, const Words& before) const {
     Words command = before;
     command.insert(command.end(), m_launcher.begin(), m_launcher.end());
-    const std::string chosen = Variable(program.variable);
-    command.push_back(chosen.empty() ? std::string(RYX_BIN_DIR "/") + program.name : chosen);
+    command.push_back(FileOf(program));
     command.insert(command.end(), arguments.begin(), arguments.end());
     process.Start(command, Environment(), errorFile.empty() ? errorFile : Folder() + '/' + errorFile);
 }
@@ -141,17 +149,29 @@ int RunningProduct::AgentLines(const std::string& text) {
     return CountOf(m_agent.Output(), text);
 }
 
-void RunningProduct::StartFrontEnd(const Words& arguments) {
+void RunningProduct::WriteConfiguration() const {
     QFile file(m_folder.filePath(QStringLiteral("ryx.json")));
     if (!file.open(QIODevice::WriteOnly) || file.write(QJsonDocument(m_configuration).toJson()) < 0)
         throw std::runtime_error("the configuration cannot be written");
-    file.close();
+}
+
+void RunningProduct::StartFrontEnd(const Words& arguments) {
+    WriteConfiguration();
     Start(m_frontEnd, Steering::FrontEnd, arguments, "frontend.err");
+}
+
+bool RunningProduct::HaveMet() {
+    return AgentSays("received 0 ContextRequest") && AgentSays("received 12 OtaVersionInfo");
 }
 
 bool RunningProduct::StartBoth() {
     StartFrontEnd();
-    return StartAgent() && AgentSays("received 0 ContextRequest") && AgentSays("received 12 OtaVersionInfo");
+    return StartAgent() && HaveMet();
+}
+
+bool RunningProduct::StartSupervised() {
+    WriteConfiguration();
+    return StartAgent({"--launch", PathForPrograms(FileOf(Steering::FrontEnd))}) && HaveMet();
 }
 
 std::optional<int> RunningProduct::StartAgain(const Words& arguments) {

@@ -60,6 +60,8 @@ public:
     void StartFrontEnd(const Words& arguments = {});
     /// Starts the front end and the agent service, and waits until they have met.
     bool StartBoth();
+    /// The same with a front end that the agent service starts, and starts again whenever it ends.
+    bool StartSupervised();
     /// Starts the front end a second time and waits for that to end; its exit code, if it ended.
     std::optional<int> StartAgain(const Words& arguments = {});
 
@@ -90,6 +92,8 @@ public:
 
 private:
     Words Environment() const;
+    void WriteConfiguration() const;
+    bool HaveMet();
     std::string PathForPrograms(const std::string& path) const;
     std::string Log() const;
 
