@@ -66,8 +66,8 @@ void PasswordPrompt::Initialization() {
 
 void PasswordPrompt::InitConnect() {
     connect(m_pad, &PasswordPad::Completed, this, [this] { m_ok->setFocus(); });
-    connect(m_ok, &QPushButton::clicked, this, &PasswordPrompt::HandleConfirm);
-    connect(m_close, &QPushButton::clicked, this, &PasswordPrompt::Closed);
+    connect(m_ok, &QPushButton::clicked, this, &PasswordPrompt::OnButtonOkClicked);
+    connect(m_close, &QPushButton::clicked, this, &PasswordPrompt::OnButtonCloseClicked);
     connect(&m_lockOutTimer, &QTimer::timeout, this, &PasswordPrompt::OnTimer);
 }
 

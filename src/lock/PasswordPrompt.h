@@ -54,6 +54,8 @@ private:
 
     void Initialization();
     void InitConnect();
+    void OnButtonOkClicked() { HandleConfirm(); }
+    void OnButtonCloseClicked() { emit Closed(); }
     void OnTimer();
     void FocusStart();
     void SetStatus(Status status);
