@@ -130,7 +130,7 @@ TEST(WindowsCover, WhatAForeignProgramDoesIsUndone) {
     }
 }
 
-TEST(WindowsCover, AGuardRefusesTransparencyPensGesturesAndTheEndOfASessionThatDoesNotEnd) {
+TEST(WindowsCover, AGuardRefusesWhatItIsAskedAndTheEndOfASessionThatDoesNotEnd) {
     Cover cover;
     const HWND handle = reinterpret_cast<HWND>(cover.winId());
     // Wine keeps styles from other processes, so that this one plays the foreigner.
@@ -143,6 +143,8 @@ TEST(WindowsCover, AGuardRefusesTransparencyPensGesturesAndTheEndOfASessionThatD
     QSignalSpy end(qApp, &QCoreApplication::aboutToQuit);
     windows.Guard(cover.winId(), cover.place, [] {});
     makeTransparent();
+    for (const char* act : {"minimise", "force-minimise", "maximise"})
+        const Attack attack(act);
     EXPECT_TRUE(cover.IsWhole(0));
     EXPECT_EQ(SendMessageW(handle, WM_TABLET_QUERYSYSTEMGESTURESTATUS, 0, 0), 0x10019);
     SendMessageW(handle, WM_ENDSESSION, TRUE, 0);

@@ -52,14 +52,26 @@ WindowsGuard& WindowsGuard::Instance() {
 }
 
 void WindowsGuard::Guard(HWND window, const QRect& place, const std::function<void()>& changed) {
-    if (m_windows.empty())
+    if (m_windows.empty()) {
         qApp->installNativeEventFilter(this);
+        m_hook = SetWindowsHookExW(WH_CBT, RefuseMinMax, nullptr, GetCurrentThreadId());
+    }
     m_windows[window] = {place, changed};
 }
 
 void WindowsGuard::Unguard(HWND window) {
-    if (m_windows.erase(window) && m_windows.empty() && qApp)
-        qApp->removeNativeEventFilter(this);
+    if (!m_windows.erase(window) || !m_windows.empty() || !qApp)
+        return;
+    qApp->removeNativeEventFilter(this);
+    UnhookWindowsHookEx(std::exchange(m_hook, nullptr));
+}
+
+// Asked before anything has happened. A window that is minimised and restored at once may stay away where a
+// window manager of its own hears of both too late, as under Wine.
+LRESULT CALLBACK WindowsGuard::RefuseMinMax(int code, WPARAM window, LPARAM data) {
+    if (code == HCBT_MINMAX && Instance().IsGuarded(reinterpret_cast<HWND>(window)))
+        return TRUE;
+    return CallNextHookEx(nullptr, code, window, data);
 }
 
 bool WindowsGuard::nativeEventFilter(const QByteArray&, void* data, long* result) {
@@ -73,9 +85,8 @@ bool WindowsGuard::nativeEventFilter(const QByteArray&, void* data, long* result
         Erase(message.hwnd, reinterpret_cast<HDC>(message.wParam));
         answer = TRUE;
         isRefused = true;
-    } else if (const auto window = m_windows.find(message.hwnd);
-               m_ownActs == 0 && window != m_windows.end()) {
-        isRefused = Refuses(message, window->second.place, answer);
+    } else if (IsGuarded(message.hwnd)) {
+        isRefused = Refuses(message, m_windows.at(message.hwnd).place, answer);
         if (MayHaveChanged(message))
             Tell(message.hwnd);
     }

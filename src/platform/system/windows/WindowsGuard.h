@@ -39,10 +39,13 @@ private:
     };
 
     WindowsGuard() = default;
+    bool IsGuarded(HWND window) const { return m_ownActs == 0 && m_windows.count(window) > 0; }
+    static LRESULT CALLBACK RefuseMinMax(int code, WPARAM window, LPARAM data);
     bool Refuses(const MSG& message, const QRect& place, LRESULT& answer) const;
     void Erase(HWND window, HDC canvas) const;
     void Tell(HWND window);
 
+    HHOOK m_hook = nullptr;
     std::unordered_map<HWND, Guarded> m_windows;
     std::unordered_map<HWND, COLORREF> m_backgrounds;
     int m_ownActs = 0;
