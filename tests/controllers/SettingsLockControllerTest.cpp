@@ -45,7 +45,7 @@ protected:
             if (window->objectName() == QLatin1String("USettinsLockMaskModal"))
                 mask = window;
         ASSERT_TRUE(mask);
-        link.Deliver(PipeKey::UnlockPasswordUpdate, PasswordHelper::HashVelmoraPassword("123456"));
+        AppContextData::Instance()->SetUnlockPassword(PasswordHelper::HashVelmoraPassword("123456"));
     }
     void TearDown() override {
         LanguageHelper::Instance()->SetLanguage(QStringLiteral("en"));
@@ -97,7 +97,7 @@ TEST_F(SettingsLock, TheMaskComesAndGoesByTheServicesWordAndTheUsers) {
     Type(*mask, "12");
     link.Deliver(PipeKey::SettingsLockShow, ""); // a second one leaves what was typed
     Type(*mask, "3456");
-    link.Deliver(PipeKey::UnlockPasswordUpdate, PasswordHelper::HashVelmoraPassword("000000"));
+    AppContextData::Instance()->SetUnlockPassword(PasswordHelper::HashVelmoraPassword("000000"));
     LanguageHelper::Instance()->SetLanguage(QStringLiteral("de"));
     QCoreApplication::processEvents();
     EXPECT_EQ(mask->findChild<QLabel*>(QStringLiteral("promptTitle"))->text(),
