@@ -146,6 +146,7 @@ TEST_F(EndToEndTest, GuessingTheSettingsPasswordIsSlowed) {
     ASSERT_TRUE(mask.Wait());
     for (int digit = 1; digit <= 6; ++digit)
         mask.Touch(digit);
+    ASSERT_TRUE(mask.WaitUntilFilled());
     screen->Press("Return");
     EXPECT_TRUE(product.AgentSays("received 79 SettingsLockUnlock 0 bytes"));
     EXPECT_TRUE(mask.WaitUntilGone());

@@ -8,7 +8,7 @@ namespace {
 const QColor Border("#5B7691"); // of boxes without the focus
 constexpr int KeyDistanceX = 100;
 constexpr int KeyDistanceY = 68;
-constexpr int UsablePixels = 20000; // of boxes and keys in use
+constexpr int UsablePixels = 60000; // of boxes and keys in use; of those out of use the borders are left
 
 } // namespace
 
@@ -28,10 +28,21 @@ bool SettingsMask::Wait() {
         const QRect boxes = FindColor(picture, Border).bounds;
         if (usable.pixels < UsablePixels || boxes.isEmpty())
             return false;
+        m_boxes =
+            boxes.adjusted(-KeyDistanceX, 0, KeyDistanceX, 0); // the one with the focus has another border
         m_one = usable.bounds.topRight() + QPoint(-KeyDistanceX * 5 / 2, KeyDistanceY / 2);
-        // The box with the focus has another border.
-        return FindColor(picture.copy(boxes.adjusted(-KeyDistanceX, 0, KeyDistanceX, 0)), LockScreen::Accent)
-                   .pixels > 300;
+        return HasFocusInBoxes(picture);
+    });
+}
+
+bool SettingsMask::HasFocusInBoxes(const QImage& picture) const {
+    return FindColor(picture.copy(m_boxes), LockScreen::Accent).pixels > 300;
+}
+
+bool SettingsMask::WaitUntilFilled() const {
+    return WaitUntil([this] {
+        const QImage picture = Picture();
+        return !picture.isNull() && !HasFocusInBoxes(picture);
     });
 }
 

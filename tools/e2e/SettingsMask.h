@@ -2,7 +2,7 @@
 
 #include "RunningProduct.h"
 
-#include <QPoint>
+#include <QRect>
 
 /// The mask over locked settings, as a person sees it.
 class SettingsMask {
@@ -18,12 +18,17 @@ public:
     /// Whether it is there and its boxes and digit keys are out of use.
     bool IsLockedOut() const;
 
+    /// Waits until the last digit has led to the OK button.
+    bool WaitUntilFilled() const;
+
     /// Touches where the digit key stood when the mask took digits.
     void Touch(int digit);
 
 private:
     QImage Picture() const;
+    bool HasFocusInBoxes(const QImage& picture) const;
 
     Desktop& m_desktop;
+    QRect m_boxes;
     QPoint m_one; // the key of the digit 1
 };
