@@ -7,6 +7,7 @@
 
 #include <QEvent>
 #include <QShortcut>
+#include <QVariant>
 #include <QVBoxLayout>
 
 namespace {

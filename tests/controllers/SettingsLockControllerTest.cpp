@@ -64,8 +64,8 @@ protected:
     FakeWindows windows;
     FakeInput input;
     FakeProcesses processes;
-    const SystemDesktop desktop;
-    const Clock clock;
+    const SystemDesktop desktop{};
+    const Clock clock{};
     FakeService service;
     PipeClientService& link = *PipeClientService::Instance();
     SettingsLockController controller{clock, windows, input, desktop, processes};
