@@ -28,9 +28,14 @@ void ControlPanelWatch::Pass() {
             list = GetCurrentWindowList();
         return list && std::find(list->begin(), list->end(), window) != list->end();
     };
+    // The whole walk first: a window that goes meanwhile would end it early.
+    std::vector<WId> own;
     for (WId window = m_desktop.NextWindow(FolderWindow, 0); window != 0;
          window = m_desktop.NextWindow(FolderWindow, window))
-        if (m_desktop.ProcessOf(window) == m_process.id && isReal(window))
+        if (m_desktop.ProcessOf(window) == m_process.id)
+            own.push_back(window);
+    for (const WId window : own)
+        if (isReal(window))
             return Remember(window);
 
     if (m_processes.Identify(m_process.id) != m_process) {

@@ -60,7 +60,6 @@ void SettingsLockController::OnLookedUp(quint32 pid) {
 }
 
 void SettingsLockController::OnLookUpTimer() {
-    m_lookUpTimer.stop();
     if (m_lookUps < MostLookUps)
         m_watcher.LookUp();
     else

@@ -3,6 +3,7 @@
 #include "platform/context/Theme.h"
 #include "platform/security/PasswordHelper.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QEvent>
 #include <QGridLayout>
@@ -184,7 +185,8 @@ void PasswordPad::Erase(int box) {
 }
 
 void PasswordPad::EraseDigit() {
-    Erase(CurrentBox());
+    const bool inBoxes = m_passwordArea->isAncestorOf(QApplication::focusWidget());
+    Erase(inBoxes ? CurrentBox() : qMax(0, GetPassword().size() - 1));
 }
 
 void PasswordPad::SetUsable(bool usable) {

@@ -30,7 +30,7 @@ public:
     void Reset();
     void FocusBox(int index);
     void FocusFirstEmpty();
-    /// Takes back the digit of the box in use.
+    /// Takes back the digit of the box in use, or the last one when the focus is elsewhere.
     void EraseDigit();
 
     /// Whether boxes and digit keys can be used; at first they can.

@@ -93,6 +93,7 @@ void PasswordPrompt::HandleConfirm() {
     m_lockOutTimer.stop();
     m_pad->Clear();
     FocusStart();
+    AnnounceStatus();
 }
 
 void PasswordPrompt::CheckForceInputPassword(bool wrongAttempt) {
@@ -135,10 +136,12 @@ void PasswordPrompt::Clear() {
 }
 
 void PasswordPrompt::SetStatus(Status status) {
-    const bool isNew = m_status != status;
     m_status = status;
     LanguageChanges();
-    if (isNew && status != Status::None)
+}
+
+void PasswordPrompt::AnnounceStatus() {
+    if (m_status != Status::None)
         AnnounceAlert(m_statusLabel);
 }
 
@@ -158,6 +161,7 @@ void PasswordPrompt::showEvent(QShowEvent* event) {
     m_pad->Clear();
     CheckForceInputPassword(false);
     FocusStart();
+    AnnounceStatus();
 }
 
 void PasswordPrompt::hideEvent(QHideEvent* event) {

@@ -59,6 +59,7 @@ private:
     void OnTimer();
     void FocusStart();
     void SetStatus(Status status);
+    void AnnounceStatus();
     void LanguageChanges();
 
     PasswordAttempts m_attempts;

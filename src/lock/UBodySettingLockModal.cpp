@@ -9,7 +9,7 @@
 #include <QVBoxLayout>
 
 UBodySettingLockModal::UBodySettingLockModal(QWidget* page, const Clock& clock)
-    : UOverlay(page), m_page(page), m_prompt(new PasswordPrompt(clock)) {
+    : UOverlay(page), m_prompt(new PasswordPrompt(clock)) {
     Initialization();
     InitConnect();
     LanguageChanges();
@@ -33,13 +33,12 @@ void UBodySettingLockModal::InitConnect() {
         if (field == AppContextData::Field::Enrolled && !AppContextData::Instance()->Enrolled())
             hide();
     });
-    m_page->installEventFilter(this);
+    Owner()->installEventFilter(this);
 }
 
 void UBodySettingLockModal::LanguageChanges() {
-    const QString title = tr("setting_permission_title");
-    setAccessibleName(title);
-    m_prompt->SetTexts({title, tr("setting_permission_content")});
+    m_prompt->SetTexts({tr("setting_permission_title"), tr("setting_permission_content")});
+    setAccessibleName(m_prompt->accessibleName());
 }
 
 void UBodySettingLockModal::Presented() {
@@ -47,7 +46,7 @@ void UBodySettingLockModal::Presented() {
 }
 
 bool UBodySettingLockModal::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == m_page && event->type() == QEvent::Hide && !event->spontaneous())
+    if (watched == Owner() && event->type() == QEvent::Hide && !event->spontaneous())
         hide();
     return UOverlay::eventFilter(watched, event);
 }

@@ -28,6 +28,5 @@ private:
     void InitConnect();
     void LanguageChanges();
 
-    QWidget* const m_page;
     PasswordPrompt* m_prompt;
 };

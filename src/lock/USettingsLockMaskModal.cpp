@@ -5,10 +5,11 @@
 #include "platform/link/ControllerBase.h"
 #include "widgets/UCentredArea.h"
 
-#include <QEvent>
 #include <QShortcut>
-#include <QVariant>
+#include <QShowEvent>
 #include <QVBoxLayout>
+#include <QVariant>
+#include <glog/logging.h>
 
 namespace {
 
@@ -31,13 +32,24 @@ void USettingsLockMaskModal::Initialization() {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(new UCentredArea(m_prompt));
+}
+
+void USettingsLockMaskModal::MakeCover() {
     m_cover = std::make_unique<TopmostCover>(*this, TopmostCover::Keyboard::Share, m_windows, m_input);
+    connect(m_cover.get(), &TopmostCover::Lost, this, &USettingsLockMaskModal::OnLost, Qt::QueuedConnection);
+}
+
+// Another program has destroyed the window; there is a new one when the service asks for it again.
+void USettingsLockMaskModal::OnLost() {
+    LOG(WARNING) << "USettingsLockMaskModal::OnLost another program has destroyed the mask";
+    hide();
+    m_cover.reset();
+    destroy();
 }
 
 void USettingsLockMaskModal::InitConnect() {
     connect(m_prompt, &PasswordPrompt::Confirmed, this, &USettingsLockMaskModal::OnConfirmed);
     connect(m_prompt, &PasswordPrompt::Closed, this, &QWidget::hide);
-    connect(m_cover.get(), &TopmostCover::Lost, this, &QWidget::hide);
     // What a cover is told to close is refused, whoever tells it; the user's key is meant.
     const auto* close = new QShortcut(Qt::ALT + Qt::Key_F4, this);
     connect(close, &QShortcut::activated, this, &QWidget::hide);
@@ -60,15 +72,14 @@ void USettingsLockMaskModal::BringForward() {
         InitConnect();
         LanguageChanges();
     }
+    if (!m_cover)
+        MakeCover();
     TopmostCover::ClosePopups();
-    const bool isBelow = WindowStack::Instance()->NextAbove(this) != nullptr;
-    setAttribute(Qt::WA_ShowWithoutActivating, isBelow);
-    if (!isVisible()) {
+    setAttribute(Qt::WA_ShowWithoutActivating, WindowStack::Instance()->NextAbove(this) != nullptr);
+    if (isVisible())
+        m_cover->Cover();
+    else
         show();
-    } else if (!isBelow) {
-        m_cover->Raise();
-        activateWindow();
-    }
 }
 
 void USettingsLockMaskModal::setVisible(bool visible) {
@@ -79,11 +90,13 @@ void USettingsLockMaskModal::setVisible(bool visible) {
 
 void USettingsLockMaskModal::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    m_cover->Cover();
+    if (!event->spontaneous())
+        m_cover->Cover();
 }
 
 void USettingsLockMaskModal::hideEvent(QHideEvent* event) {
-    m_cover->Uncover();
+    if (!event->spontaneous())
+        m_cover->Uncover();
     QWidget::hideEvent(event);
 }
 

@@ -37,6 +37,8 @@ protected:
 private:
     void Initialization();
     void InitConnect();
+    void MakeCover();
+    void OnLost();
     void LanguageChanges();
     void OnConfirmed();
 

@@ -68,7 +68,11 @@ bool UOverlay::focusNextPrevChild(bool next) {
     return true;
 }
 
-// The window below must not take presses beside the card for its own.
+// The window below must not take keys for its own, nor presses beside the card.
+void UOverlay::keyPressEvent(QKeyEvent* event) {
+    event->accept();
+}
+
 void UOverlay::mousePressEvent(QMouseEvent* event) {
     event->accept();
 }

@@ -25,8 +25,12 @@ protected:
     virtual void Presented() {}
 
     bool focusNextPrevChild(bool next) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+
+    /// What it was made for; null when that has gone.
+    QWidget* Owner() const { return m_owner; }
 
 private:
     void Request();

@@ -1,4 +1,5 @@
 #include "controllers/SettingsLockController.h"
+#include "lock/PasswordPad.h"
 #include "platform/context/AppContextData.h"
 #include "platform/context/LanguageHelper.h"
 #include "platform/link/PipeClientService.h"
@@ -97,6 +98,7 @@ TEST_F(SettingsLock, TheMaskComesAndGoesByTheServicesWordAndTheUsers) {
     Type(*mask, "12");
     link.Deliver(PipeKey::SettingsLockShow, ""); // a second one leaves what was typed
     Type(*mask, "3456");
+    EXPECT_EQ(mask->findChild<PasswordPad*>()->GetPassword(), QStringLiteral("123456"));
     AppContextData::Instance()->SetUnlockPassword(PasswordHelper::HashVelmoraPassword("000000"));
     LanguageHelper::Instance()->SetLanguage(QStringLiteral("de"));
     QCoreApplication::processEvents();
@@ -124,6 +126,7 @@ TEST_F(SettingsLock, TheControlPanelIsLookedUpFiveTimesAndThenOnlyWhenAskedAgain
         for (int attempt = 1; attempt <= 5; ++attempt) {
             ASSERT_TRUE(lookedUp(before + attempt)) << attempt;
             EXPECT_EQ(log.Count("m_pid,GetControlPanelPid is:0\n"), before / 5);
+            timer->stop();
             QMetaObject::invokeMethod(timer, "timeout");
         }
         EXPECT_EQ(log.Count("m_pid,GetControlPanelPid is:0\n"), before / 5 + 1);

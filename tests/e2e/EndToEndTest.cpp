@@ -133,12 +133,14 @@ TEST_F(EndToEndTest, GuessingTheSettingsPasswordIsSlowed) {
         ASSERT_TRUE(product.WaitForLog("input password eorr cout is :" + std::to_string(attempt)));
     }
     ASSERT_TRUE(WaitUntil([&] { return mask.IsLockedOut(); }));
+    const QImage lockedOut = screen->Screenshot();
     for (int digit = 1; digit <= 6; ++digit) {
         screen->Type(std::to_string(digit));
         mask.Touch(digit);
     }
     // Time alone does not release it; coming back does.
     EXPECT_FALSE(WaitUntil([&] { return !mask.IsLockedOut(); }, std::chrono::seconds(62)));
+    EXPECT_EQ(screen->Screenshot(), lockedOut) << "a digit has got through";
     screen->Press("Escape");
     ASSERT_TRUE(mask.WaitUntilGone());
     EXPECT_EQ(product.AgentLines("received 79"), 0);
@@ -429,7 +431,8 @@ TEST_P(LockUnderAttack, IsWholeAgainWithinTwoSecondsAndOpensWithTheDigits) {
     const std::string printed = product.Attack(command, LockScreen::Title);
     ASSERT_NE(printed.find("done"), std::string::npos) << printed;
     if (ends) {
-        EXPECT_TRUE(product.AgentSays("client 1 disconnected"));
+        EXPECT_TRUE(WaitUntil([&] { return product.AgentLines("client 1 disconnected") > 0; },
+                              std::chrono::seconds(2)));
         EXPECT_TRUE(lock.Wait());
     } else {
         EXPECT_TRUE(IsWholeForGood());

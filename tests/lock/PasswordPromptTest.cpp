@@ -155,6 +155,9 @@ TEST_F(Prompt, TheSixthDigitLeadsToOkAndKeysDoWhatButtonsDo) {
     auto* view = dialog->findChild<QCheckBox*>();
     view->click();
     EXPECT_EQ(dialog->findChild<PasswordPad*>()->findChild<QLineEdit*>()->echoMode(), QLineEdit::Normal);
+    Part<QWidget>("okButton")->setFocus();
+    Press(Qt::Key_Backspace);
+    EXPECT_EQ(Typed(), QStringLiteral("123"));
     Press(Qt::Key_Escape);
     EXPECT_FALSE(dialog->isVisible());
     EXPECT_FALSE(view->isChecked());

@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>view_lock_password_lock_tip</source>
-        <translation>محاولات خاطئة كثيرة. ألغِ وعد بعد دقيقة.</translation>
+        <translation>محاولات خاطئة كثيرة. ألغِ وعُد بعد دقيقة.</translation>
     </message>
     <message>
         <source>view_register_windows_button_cancel</source>

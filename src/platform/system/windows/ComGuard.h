@@ -2,9 +2,7 @@
 
 #include <windows.h>
 
-#include <memory>
 #include <objbase.h>
-#include <oleauto.h>
 
 /// COM on this thread while it lives. Where COM runs in another model already, that one serves as well and is
 /// left as it is.
@@ -24,13 +22,3 @@ public:
 private:
     const HRESULT m_result;
 };
-
-struct BstrFree {
-    void operator()(OLECHAR* text) const { SysFreeString(text); }
-};
-/// A text as COM takes it.
-using ComText = std::unique_ptr<OLECHAR, BstrFree>;
-
-inline ComText MakeComText(const wchar_t* text) {
-    return ComText(SysAllocString(text));
-}

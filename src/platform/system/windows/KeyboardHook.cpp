@@ -10,6 +10,7 @@
 
 namespace {
 
+constexpr UINT RenewMs = 1000;
 constexpr UINT RenewMessage = WM_APP;
 
 thread_local KeyFilter keyFilter; // the hook's procedure runs on the hook's thread
@@ -35,7 +36,7 @@ void CALLBACK ForgetModifiers(HWINEVENTHOOK, DWORD, HWND, LONG, LONG, DWORD, DWO
     keyFilter.ForgetModifiers();
 }
 
-/// Windows silently drops a hook that has been too slow, so it is made anew with every hold; the new one
+/// Windows silently drops a hook that has been too slow, so it is made anew now and then; the new one
 /// stands before the old one goes.
 void RenewHook(HHOOK& hook) {
     const HHOOK fresh = SetWindowsHookExW(WH_KEYBOARD_LL, FilterKey, GetModuleHandleW(nullptr), 0);
@@ -56,15 +57,17 @@ void FilterKeys(std::promise<DWORD> threadId, const std::atomic<bool>& stopping)
     const HWINEVENTHOOK desktop = SetWinEventHook(EVENT_SYSTEM_DESKTOPSWITCH, EVENT_SYSTEM_DESKTOPSWITCH,
                                                   nullptr, ForgetModifiers, 0, 0, WINEVENT_OUTOFCONTEXT);
     MSG message;
-    PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE); // from now on the thread can be posted to
+    PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE);            // from now on the thread can be posted to
+    const UINT_PTR timer = SetTimer(nullptr, 0, RenewMs, nullptr); // whatever the rest of the program does
     threadId.set_value(GetCurrentThreadId());
     // WM_QUIT, which any program may post, ends nothing here.
     while (GetMessageW(&message, nullptr, 0, 0) >= 0 && !stopping) {
-        if (message.message == RenewMessage)
+        if (message.message == RenewMessage || message.message == WM_TIMER)
             RenewHook(hook);
         else
             DispatchMessageW(&message);
     }
+    KillTimer(nullptr, timer);
     UnhookWinEvent(desktop);
     UnhookWindowsHookEx(hook);
 }

@@ -1,6 +1,6 @@
 #include "platform/system/windows/ProcessAccount.h"
 
-#include <windows.h>
+#include "platform/system/windows/Handles.h"
 
 #include <cstddef>
 #include <iterator>
@@ -9,11 +9,6 @@
 #include <vector>
 
 namespace {
-
-struct CloseObject {
-    void operator()(HANDLE handle) const { CloseHandle(handle); }
-};
-using Object = std::unique_ptr<void, CloseObject>;
 
 struct CloseService {
     void operator()(SC_HANDLE handle) const { CloseServiceHandle(handle); }
@@ -74,11 +69,11 @@ std::wstring ServiceIn(SC_HANDLE manager, DWORD id) {
 } // namespace
 
 PipePeer AccountOfToken(quint32 id) {
-    const Object process(OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, id));
+    const ObjectHandle process(OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, id));
     HANDLE opened = nullptr;
     if (!process || !OpenProcessToken(process.get(), TOKEN_QUERY, &opened))
         return {};
-    const Object token(opened);
+    const ObjectHandle token(opened);
     DWORD size = 0;
     GetTokenInformation(token.get(), TokenUser, nullptr, 0, &size);
     Buffer<TOKEN_USER> user(size);

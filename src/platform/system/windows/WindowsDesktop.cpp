@@ -1,16 +1,10 @@
 #include "platform/system/SystemDesktop.h"
 
-#include <windows.h>
-
-#include <dwmapi.h>
+#include "platform/system/windows/Handles.h"
 
 namespace {
 
 constexpr int ClassNameSize = 256;
-
-HWND Handle(WId window) {
-    return reinterpret_cast<HWND>(window);
-}
 
 BOOL CALLBACK Append(HWND window, LPARAM windows) {
     reinterpret_cast<std::vector<WId>*>(windows)->push_back(reinterpret_cast<WId>(window));
@@ -67,11 +61,7 @@ public:
         return QSize(place.right - place.left, place.bottom - place.top);
     }
 
-    bool IsCloaked(WId window) const override {
-        DWORD cloaked = 0;
-        return SUCCEEDED(DwmGetWindowAttribute(Handle(window), DWMWA_CLOAKED, &cloaked, sizeof cloaked)) &&
-               cloaked != 0;
-    }
+    bool IsCloaked(WId window) const override { return IsWindowCloaked(Handle(window)); }
 
     bool IsVisible(WId window) const override { return IsWindowVisible(Handle(window)) != FALSE; }
 };

@@ -1,6 +1,7 @@
 #include "platform/system/windows/WindowsGuard.h"
 
 #include <QCoreApplication>
+#include <glog/logging.h>
 #include <iterator>
 #include <tpcshrd.h>
 #include <utility>
@@ -55,6 +56,7 @@ void WindowsGuard::Guard(HWND window, const QRect& place, const std::function<vo
     if (m_windows.empty()) {
         qApp->installNativeEventFilter(this);
         m_hook = SetWindowsHookExW(WH_CBT, RefuseMinMax, nullptr, GetCurrentThreadId());
+        LOG_IF(WARNING, !m_hook) << "WindowsGuard::Guard no hook: error " << GetLastError();
     }
     m_windows[window] = {place, changed};
 }
@@ -66,8 +68,8 @@ void WindowsGuard::Unguard(HWND window) {
     UnhookWindowsHookEx(std::exchange(m_hook, nullptr));
 }
 
-// Asked before anything has happened. A window that is minimised and restored at once may stay away where a
-// window manager of its own hears of both too late, as under Wine.
+// Where this thread is asked before anything has happened. Under Wine it is, and there a window that was
+// minimised and restored at once may stay away, because the window manager hears of both too late.
 LRESULT CALLBACK WindowsGuard::RefuseMinMax(int code, WPARAM window, LPARAM data) {
     if (code == HCBT_MINMAX && Instance().IsGuarded(reinterpret_cast<HWND>(window)))
         return TRUE;
@@ -85,8 +87,9 @@ bool WindowsGuard::nativeEventFilter(const QByteArray&, void* data, long* result
         Erase(message.hwnd, reinterpret_cast<HDC>(message.wParam));
         answer = TRUE;
         isRefused = true;
-    } else if (IsGuarded(message.hwnd)) {
-        isRefused = Refuses(message, m_windows.at(message.hwnd).place, answer);
+    } else if (const auto window = m_windows.find(message.hwnd);
+               m_ownActs == 0 && window != m_windows.end()) {
+        isRefused = Refuses(message, window->second.place, answer);
         if (MayHaveChanged(message))
             Tell(message.hwnd);
     }

@@ -1,6 +1,7 @@
 #include "platform/system/SystemProcesses.h"
 
 #include "platform/system/windows/ComGuard.h"
+#include "platform/system/windows/Handles.h"
 
 #include <wbemidl.h>
 
@@ -12,6 +13,16 @@ namespace {
 using Microsoft::WRL::ComPtr;
 
 constexpr LONG NextTimeoutMs = 5000;
+
+struct FreeText {
+    void operator()(OLECHAR* text) const { SysFreeString(text); }
+};
+/// A text as COM takes it.
+using ComText = std::unique_ptr<OLECHAR, FreeText>;
+
+ComText MakeComText(const wchar_t* text) {
+    return ComText(SysAllocString(text));
+}
 
 /// A call of COM or WMI failed.
 struct QueryFailure {
@@ -75,11 +86,6 @@ quint32 FindInWmi(const std::wstring& name, const std::wstring& commandLine) {
     }
 }
 
-struct HandleClose {
-    void operator()(void* handle) const { CloseHandle(handle); }
-};
-using ProcessHandle = std::unique_ptr<void, HandleClose>;
-
 /// A mark of the process's start; 0 when it cannot be read.
 quint32 StartOf(HANDLE process) {
     FILETIME created{}, exited{}, kernel{}, user{};
@@ -105,14 +111,14 @@ public:
     }
 
     ProcessIdentity Identify(quint32 id) const override {
-        const ProcessHandle process(OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, id));
+        const ObjectHandle process(OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, id));
         if (!process)
             return GetLastError() == ERROR_INVALID_PARAMETER ? ProcessIdentity() : ProcessIdentity{id, 0};
         return HasEnded(process.get()) ? ProcessIdentity() : ProcessIdentity{id, StartOf(process.get())};
     }
 
     Terminated Terminate(const ProcessIdentity& process) const override {
-        const ProcessHandle handle(OpenProcess(PROCESS_ALL_ACCESS, FALSE, process.id));
+        const ObjectHandle handle(OpenProcess(PROCESS_ALL_ACCESS, FALSE, process.id));
         if (!handle)
             return {Ending::NotOpened, GetLastError()};
         if (StartOf(handle.get()) != process.started)

@@ -1,5 +1,6 @@
 #include "platform/system/SystemWindows.h"
 
+#include "platform/system/windows/Handles.h"
 #include "platform/system/windows/WindowsGuard.h"
 
 #include <QWidget>
@@ -19,10 +20,6 @@ constexpr UINT AnswerMs = 100; // for the foreground's program
 constexpr PROPERTYKEY DisableTouchWhenFullscreen{
     {0x32CE38B2, 0x2C9A, 0x41B1, {0x9B, 0xC5, 0xB3, 0x78, 0x43, 0x94, 0xAA, 0x44}}, 2};
 
-HWND Handle(WId window) {
-    return reinterpret_cast<HWND>(window);
-}
-
 QRect ToRect(const RECT& rect) {
     return {rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top};
 }
@@ -32,11 +29,6 @@ bool IsOwnedByOther(HWND window) {
     if (const HWND owner = GetWindow(window, GW_OWNER))
         GetWindowThreadProcessId(owner, &process);
     return process != GetCurrentProcessId();
-}
-
-bool IsCloaked(HWND window) {
-    DWORD cloaked = 0;
-    return SUCCEEDED(DwmGetWindowAttribute(window, DWMWA_CLOAKED, &cloaked, sizeof cloaked)) && cloaked;
 }
 
 HRESULT IgnoreEdgeGestures(HWND window) {
@@ -151,7 +143,7 @@ public:
         const LONG style = GetWindowLongW(handle, GWL_EXSTYLE);
         Facts facts;
         facts.place = ToRect(place);
-        facts.shown = IsWindowVisible(handle) && !IsIconic(handle) && !IsCloaked(handle);
+        facts.shown = IsWindowVisible(handle) && !IsIconic(handle) && !IsWindowCloaked(handle);
         facts.topmost = style & WS_EX_TOPMOST;
         facts.enabled = IsWindowEnabled(handle);
         facts.whole = !(style & SeeThrough) && GetWindowRgnBox(handle, &region) == ERROR;
@@ -171,12 +163,16 @@ public:
         SetWindowRgn(handle, nullptr, TRUE);
         EnableWindow(handle, TRUE);
         constexpr BOOL no = FALSE;
-        if (IsCloaked(handle))
+        if (IsWindowCloaked(handle))
             DwmSetWindowAttribute(handle, DWMWA_CLOAK, &no, sizeof no);
         if (IsIconic(handle))
             ShowWindow(handle, SW_SHOWNOACTIVATE);
-        SetWindowPos(handle, above ? Handle(above) : HWND_TOPMOST, place.x(), place.y(), place.width(),
-                     place.height(), SWP_NOACTIVATE | SWP_SHOWWINDOW);
+        if (above)
+            PlaceBelow(window, above);
+        else
+            RaiseTopmost(window);
+        SetWindowPos(handle, nullptr, place.x(), place.y(), place.width(), place.height(),
+                     SWP_NOACTIVATE | SWP_NOZORDER | SWP_SHOWWINDOW);
     }
 
     void Activate(QWidget& window) const override {
