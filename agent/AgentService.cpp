@@ -36,11 +36,15 @@ void AgentService::Greet(int client) {
     m_server.SendTo(client, PipeKey::IotStatusNotify, StatusBody());
     if (HoldsLock())
         m_server.SendTo(client, PipeKey::ScreenLock, m_lock->body);
+    if (m_locksSettings)
+        m_server.SendTo(client, PipeKey::SettingsLockShow, {});
 }
 
 void AgentService::Answer(PipeKey key, int client) {
     if (key == PipeKey::ScreenUnlock)
         m_lock.reset();
+    if (key == PipeKey::SettingsLockUnlock)
+        m_locksSettings = false;
     if (const auto answer = m_answers.find(key); answer != m_answers.end())
         m_server.SendTo(client, answer->second.first, answer->second.second);
 }
@@ -79,6 +83,11 @@ void AgentService::Lock(const std::string& endTime) {
 void AgentService::ReleaseLock(PipeKey key) {
     m_lock.reset();
     m_server.Send(key, {});
+}
+
+void AgentService::LockSettings(bool locked) {
+    m_locksSettings = locked;
+    m_server.Send(locked ? PipeKey::SettingsLockShow : PipeKey::SettingsLockHide, {});
 }
 
 bool AgentService::Holds(const ScreenLock& lock) const {

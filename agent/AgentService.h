@@ -40,6 +40,9 @@ public:
     /// Releases the lock with ScreenUnlock or ScreenLockReset.
     void ReleaseLock(PipeKey key);
 
+    /// Locks the system's settings, until this or a front end's SettingsLockUnlock releases them.
+    void LockSettings(bool locked);
+
 private:
     /// An end counts for the day of the lock alone.
     struct ScreenLock {
@@ -59,5 +62,6 @@ private:
     std::string m_unlockHash;
     std::string m_unbindHash;
     std::optional<ScreenLock> m_lock;
+    bool m_locksSettings = false;
     std::map<PipeKey, std::pair<PipeKey, std::string>> m_answers;
 };

@@ -164,12 +164,12 @@ void CommandInterpreter::AddSendingCommands() {
          {"settings-lock", "", "lock the system's settings (78 SettingsLockShow)",
           [this](const std::string& arguments) {
               RefuseArguments(arguments);
-              return Act([this] { m_server.Send(PipeKey::SettingsLockShow, {}); });
+              return Act([this] { m_service.LockSettings(true); });
           }},
          {"settings-unlock", "", "take the mask of the settings away (80 SettingsLockHide)",
           [this](const std::string& arguments) {
               RefuseArguments(arguments);
-              return Act([this] { m_server.Send(PipeKey::SettingsLockHide, {}); });
+              return Act([this] { m_service.LockSettings(false); });
           }},
          {"control-panel", "", "have the Control Panel end with its window (81 ControllExit)",
           [this](const std::string& arguments) {

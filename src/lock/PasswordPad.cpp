@@ -185,12 +185,19 @@ void PasswordPad::Erase(int box) {
 }
 
 void PasswordPad::EraseDigit() {
-    const bool inBoxes = m_passwordArea->isAncestorOf(QApplication::focusWidget());
-    Erase(inBoxes ? CurrentBox() : qMax(0, GetPassword().size() - 1));
+    if (m_passwordArea->isAncestorOf(QApplication::focusWidget())) {
+        Erase(CurrentBox());
+        return;
+    }
+    const int last = qMax(0, GetPassword().size() - 1);
+    m_boxes[static_cast<std::size_t>(last)]->clear();
+    FocusBox(last);
+    emit Used();
 }
 
 void PasswordPad::SetUsable(bool usable) {
     m_passwordArea->setEnabled(usable);
+    m_viewPassword->setEnabled(usable);
     m_keypad->setEnabled(usable);
 }
 

@@ -30,7 +30,8 @@ public:
     void Reset();
     void FocusBox(int index);
     void FocusFirstEmpty();
-    /// Takes back the digit of the box in use, or the last one when the focus is elsewhere.
+    /// Takes back the digit of the box in use, or the last one when the focus is elsewhere,
+    /// and leads there.
     void EraseDigit();
 
     /// Whether boxes and digit keys can be used; at first they can.

@@ -8,13 +8,25 @@
 
 #include <QKeyEvent>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <iterator>
 
 namespace {
 
 constexpr int LockOutCheckMs = 500;
-constexpr int NarrowWidth = 528; // the boxes, and what stands around them
-constexpr int WideWidth = 856;   // the digit keys beside them
 constexpr int MostWidth = 920;
+
+/// How the prompt stands in a window that has so much room.
+struct Form {
+    QSize room;
+    int width; ///< at least
+    QBoxLayout::Direction direction;
+    bool low; ///< small boxes and keys
+};
+constexpr Form Forms[]{{{904, 460}, 856, QBoxLayout::LeftToRight, false}, // the keys beside the boxes
+                       {{576, 760}, 528, QBoxLayout::TopToBottom, false},
+                       {{620, 0}, 572, QBoxLayout::LeftToRight, true},
+                       {{0, 0}, 340, QBoxLayout::TopToBottom, true}};
 
 } // namespace
 
@@ -35,7 +47,6 @@ PasswordPrompt::PasswordPrompt(const Clock& clock, QWidget* parent)
 }
 
 void PasswordPrompt::Initialization() {
-    setMinimumWidth(NarrowWidth);
     setMaximumWidth(MostWidth);
     m_close->setObjectName(QStringLiteral("closeButton"));
     m_ok->setObjectName(QStringLiteral("okButton"));
@@ -65,6 +76,7 @@ void PasswordPrompt::Initialization() {
 }
 
 void PasswordPrompt::InitConnect() {
+    connect(m_pad, &PasswordPad::Used, this, [this] { m_isAnswered = false; });
     connect(m_pad, &PasswordPad::Completed, this, [this] { m_ok->setFocus(); });
     connect(m_ok, &QPushButton::clicked, this, &PasswordPrompt::OnButtonOkClicked);
     connect(m_close, &QPushButton::clicked, this, &PasswordPrompt::OnButtonCloseClicked);
@@ -92,6 +104,7 @@ void PasswordPrompt::HandleConfirm() {
     // A lock-out that begins here is not released by time alone: the user has to come back for that.
     m_lockOutTimer.stop();
     m_pad->Clear();
+    m_isAnswered = true;
     FocusStart();
     AnnounceStatus();
 }
@@ -105,13 +118,13 @@ void PasswordPrompt::CheckForceInputPassword(bool wrongAttempt) {
         break;
     case PasswordAttempts::Verdict::LockedOut:
         m_pad->Clear();
-        m_pad->SetUsable(false);
+        SetUsable(false);
         SetStatus(Status::LockedOut);
         if (!m_lockOutTimer.isActive())
             m_lockOutTimer.start();
         break;
     case PasswordAttempts::Verdict::Released:
-        m_pad->SetUsable(true);
+        SetUsable(true);
         m_pad->FocusBox(0);
         SetStatus(Status::None);
         m_lockOutTimer.stop();
@@ -121,6 +134,11 @@ void PasswordPrompt::CheckForceInputPassword(bool wrongAttempt) {
 
 void PasswordPrompt::OnTimer() {
     CheckForceInputPassword(false);
+}
+
+void PasswordPrompt::SetUsable(bool usable) {
+    m_pad->SetUsable(usable);
+    m_ok->setEnabled(usable);
 }
 
 void PasswordPrompt::FocusStart() {
@@ -157,6 +175,9 @@ void PasswordPrompt::showEvent(QShowEvent* event) {
     QFrame::showEvent(event);
     if (event->spontaneous())
         return;
+    window()->installEventFilter(this);
+    Arrange();
+    m_isAnswered = false;
     SetStatus(Status::None);
     m_pad->Clear();
     CheckForceInputPassword(false);
@@ -170,16 +191,29 @@ void PasswordPrompt::hideEvent(QHideEvent* event) {
     QFrame::hideEvent(event);
 }
 
-void PasswordPrompt::resizeEvent(QResizeEvent* event) {
-    m_columns->setDirection(width() < WideWidth ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
-    QFrame::resizeEvent(event);
+bool PasswordPrompt::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize && watched == window())
+        Arrange();
+    return QFrame::eventFilter(watched, event);
+}
+
+// A small screen at a large scale has few pixels to speak of.
+void PasswordPrompt::Arrange() {
+    const QSize room = window()->size();
+    const Form& form = *std::find_if(std::begin(Forms), std::end(Forms), [&](const Form& candidate) {
+        return candidate.room.width() <= room.width() && candidate.room.height() <= room.height();
+    });
+    setMinimumWidth(form.width);
+    m_columns->setDirection(form.direction);
+    m_pad->SetLow(form.low);
 }
 
 void PasswordPrompt::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        if (!event->isAutoRepeat())
+        // A key that is held is one attempt, and leaves nothing that has just begun.
+        if (!event->isAutoRepeat() && !m_isAnswered && !m_attempts.IsLockedOut())
             (m_close->hasFocus() ? m_close : m_ok)->click();
         break;
     case Qt::Key_Escape:

@@ -45,9 +45,9 @@ signals:
 protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     enum class Status { None, Wrong, LockedOut };
@@ -57,6 +57,8 @@ private:
     void OnButtonOkClicked() { HandleConfirm(); }
     void OnButtonCloseClicked() { emit Closed(); }
     void OnTimer();
+    void Arrange();
+    void SetUsable(bool usable);
     void FocusStart();
     void SetStatus(Status status);
     void AnnounceStatus();
@@ -64,6 +66,7 @@ private:
 
     PasswordAttempts m_attempts;
     Status m_status = Status::None;
+    bool m_isAnswered = false; // nothing was typed since the last wrong attempt
     QBoxLayout* m_columns;
     QLabel* m_title;
     QLabel* m_content;

@@ -39,18 +39,19 @@ void USettingsLockMaskModal::MakeCover() {
     connect(m_cover.get(), &TopmostCover::Lost, this, &USettingsLockMaskModal::OnLost, Qt::QueuedConnection);
 }
 
-// Another program has destroyed the window; there is a new one when the service asks for it again.
+// Another program has destroyed one of the windows: they are made anew.
 void USettingsLockMaskModal::OnLost() {
     LOG(WARNING) << "USettingsLockMaskModal::OnLost another program has destroyed the mask";
     hide();
     m_cover.reset();
     destroy();
+    BringForward();
 }
 
 void USettingsLockMaskModal::InitConnect() {
     connect(m_prompt, &PasswordPrompt::Confirmed, this, &USettingsLockMaskModal::OnConfirmed);
     connect(m_prompt, &PasswordPrompt::Closed, this, &QWidget::hide);
-    // What a cover is told to close is refused, whoever tells it; the user's key is meant.
+    // On Windows a guarded window refuses to be told to close, whoever tells it; the user's key is meant.
     const auto* close = new QShortcut(Qt::ALT + Qt::Key_F4, this);
     connect(close, &QShortcut::activated, this, &QWidget::hide);
 }

@@ -1,5 +1,6 @@
 #include "widgets/UCentredArea.h"
 
+#include <QApplication>
 #include <QGridLayout>
 
 UCentredArea::UCentredArea(QWidget* card, QWidget* parent) : GestureScrollArea(parent) {
@@ -16,4 +17,8 @@ UCentredArea::UCentredArea(QWidget* card, QWidget* parent) : GestureScrollArea(p
     ground->setAutoFillBackground(false); // what is behind shows around the card
     setWidgetResizable(true);
     setFocusPolicy(Qt::NoFocus);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        if (now && isAncestorOf(now))
+            ensureWidgetVisible(now);
+    });
 }

@@ -97,7 +97,8 @@ TEST_P(AllScenesAccessibility, TabFollowsTheReadingOrder) {
         QWidget& subject = Play();
         if (subject.findChild<UAlert*>())
             return; // its buttons are a ring of their own
-        if (GetParam().name == QLatin1String("lock-low"))
+        if (GetParam().name == QLatin1String("lock-low") ||
+            GetParam().name == QLatin1String("settings-dialog-low"))
             return; // two columns: the boxes, then the keys beside them
         QVector<QWidget*> stops = TabStops(subject);
         const auto first = std::find_if(stops.begin(), stops.end(), [&](const QWidget* candidate) {

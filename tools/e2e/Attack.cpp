@@ -2,9 +2,15 @@
 // Prints "done" when it is done and ends, unless a line below says that it stays.
 //
 //   hide, minimise, iconic-property, move, shrink, region, input-region, transparent, bottom, adopt, close,
-//   destroy kill-client, kill       cuts the program off the server; ends its process raise NUMBER shows a
-//   window that no window manager sees and lifts it so many times; stays grab                    takes
-//   keyboard and pointer, if it can within a second; stays
+//   destroy
+//
+//   kill-client: cuts the program off the server
+//
+//   kill: ends its process
+//
+//   raise NUMBER: shows a window that no window manager sees and lifts it so many times; stays
+//
+//   grab: takes keyboard and pointer, if it can within a second; stays
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>

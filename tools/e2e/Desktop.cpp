@@ -105,7 +105,10 @@ std::string Desktop::Title(unsigned long window) const {
 
 std::vector<DesktopWindow> Desktop::Windows() const {
     std::vector<DesktopWindow> windows;
+    XGrabServer(m_display); // order and state are of one moment
     AddWindows(DefaultRootWindow(m_display), windows);
+    XUngrabServer(m_display);
+    XFlush(m_display);
     return windows;
 }
 

@@ -221,7 +221,7 @@ QVector<Scene> OtherScenes() {
              GoTo(stage, PageId::Settings);
              (new UBodySettingLockModal(&stage.Window()))->show();
          }},
-        {QStringLiteral("settings-dialog-narrow"), true,
+        {QStringLiteral("settings-dialog-low"), true,
          [](Stage& stage) {
              stage.Window().resize(700, 560);
              Settle();
