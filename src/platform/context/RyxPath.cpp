@@ -3,7 +3,9 @@
 #include "platform/context/AppConfigData.h"
 #include "platform/system/SystemSession.h"
 
+#include <QDateTime>
 #include <QDir>
+#include <glog/logging.h>
 
 std::wstring RyxPath::GetRyxLogDir() {
     const std::string& chosen = AppConfigData::Instance()->logFolder;
@@ -17,4 +19,26 @@ std::wstring RyxPath::GetUserDataDir() {
     const std::string& chosen = AppConfigData::Instance()->dataFolder;
     return (chosen.empty() ? SystemSession::Native().UserDataFolder() : QString::fromStdString(chosen))
         .toStdWString();
+}
+
+std::wstring RyxPath::GetRyxTempDir() {
+    const QString folder = QString::fromStdWString(GetUserDataDir()) + QStringLiteral("/temp");
+    QDir().mkpath(folder);
+    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    return QDir::toNativeSeparators(folder).toStdWString();
+}
+
+void RyxPath::RemoveOldTempFiles() {
+    const QDateTime dayAgo = QDateTime::currentDateTime().addDays(-1);
+    const QDir folder(QString::fromStdWString(GetRyxTempDir()));
+    for (const QFileInfo& entry :
+         folder.entryInfoList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot)) {
+        if (entry.lastModified() >= dayAgo)
+            continue;
+        const bool isFolder = entry.isDir() && !entry.isSymLink();
+        const bool removed =
+            isFolder ? QDir(entry.filePath()).removeRecursively() : QFile::remove(entry.filePath());
+        LOG(INFO) << "RyxPath::RemoveOldTempFiles " << (removed ? "removed " : "could not remove ")
+                  << entry.fileName().toStdString();
+    }
 }

@@ -2,7 +2,7 @@
 
 #include <string>
 
-/// Places of the agent platform's files.
+/// Places of the agent platform's files. GUI thread.
 class RyxPath {
 public:
     /// Folder of the log files; exists afterwards, if it can be made.
@@ -10,4 +10,11 @@ public:
 
     /// Folder of this user's own data; may not exist yet.
     static std::wstring GetUserDataDir();
+
+    /// Folder of temporary files, closed to other users; exists afterwards, if it can be made. What is left
+    /// in it is removed at a later start.
+    static std::wstring GetRyxTempDir();
+
+    /// Removes what lies in the folder of temporary files for more than a day.
+    static void RemoveOldTempFiles();
 };
