@@ -11,11 +11,14 @@
 #include "platform/ProductConstants.h"
 #include "platform/application/QtSingleApplication.h"
 #include "platform/application/Watchdog.h"
+#include "platform/context/AppConfigData.h"
 #include "platform/context/AppHelper.h"
+#include "platform/context/RyxPath.h"
 #include "platform/link/PipeClientService.h"
 #include "platform/security/LogText.h"
 #include "platform/system/SystemSession.h"
 #include "platform/system/SystemWindows.h"
+#include "platform/web/RyxWebClient.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -136,6 +139,8 @@ int UserApp::Run(int argc, char** argv) {
     AppHelper::InitQss();
     AppHelper::InitLanguage();
     AppHelper::LoadConfig();
+    RyxWebClient::Instance()->Configure(WebSettings::From(*AppConfigData::Instance()));
+    RyxPath::RemoveOldTempFiles();
 
     PopupsController popups;
     MainController main;

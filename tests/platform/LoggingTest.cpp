@@ -29,6 +29,7 @@ TEST(Logging, KeepsTheNewestFilesAndEndsTwiceInPeace) {
     InitLogger("1-User", folder.path().toStdString(), 10, 10);
     LOG(INFO) << "first line";
     LOG(ERROR) << "an error belongs into the same file";
+    qWarning("a warning of Qt's");
     ReleaseLogger();
     ReleaseLogger();
 
@@ -41,6 +42,7 @@ TEST(Logging, KeepsTheNewestFilesAndEndsTwiceInPeace) {
     const QByteArray text = newest.readAll();
     EXPECT_TRUE(text.contains("first line"));
     EXPECT_TRUE(text.contains("an error belongs"));
+    EXPECT_TRUE(text.contains("Qt: a warning of Qt's"));
     const auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
     if (QDir::separator() == QLatin1Char('/')) { // what else there is, Qt does not look at by itself
         EXPECT_FALSE(newest.permissions() & others) << "a log is its user's";

@@ -61,6 +61,13 @@ std::vector<std::string> AppConfigData::Load(const std::string& path) {
     read("dataFolder", dataFolder);
     read("organisation", organisation);
     read("deviceName", deviceName);
+    read("webServer", webServer);
+    read("webProxy", webProxy);
+    read("webCaFile", webCaFile);
+    read("webHttpHosts", webHttpHosts);
+    read("webSilenceSeconds", webSilenceSeconds);
+    read("webCallSeconds", webCallSeconds);
+    read("webTransferSeconds", webTransferSeconds);
     read("enrolled", enrolled);
     return notes;
 }

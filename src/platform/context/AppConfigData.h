@@ -29,6 +29,13 @@ public:
     std::string dataFolder;   ///< of the user's own data; empty: the system's place for it
     std::string organisation; ///< display name of the managing organisation
     std::string deviceName;   ///< empty: the host name
+    std::string webServer;    ///< base address of the organisation's web service; empty: none
+    std::string webProxy;     ///< "direct": none; empty: the system's
+    std::string webCaFile;    ///< trusted certificates in PEM form; empty: the system's
+    std::string webHttpHosts; ///< hosts that may be talked to without TLS, separated by commas
+    int webSilenceSeconds = 30;
+    int webCallSeconds = 60;
+    int webTransferSeconds = 3600;
     bool enrolled = false;    ///< the device was enrolled when the service last wrote the file
 
     std::vector<std::string> loadNotes; ///< what Instance's Load returned

@@ -1,5 +1,6 @@
 #include "platform/context/Logging.h"
 
+#include "platform/security/LogText.h"
 #include "platform/system/SystemSession.h"
 
 #include <QCoreApplication>
@@ -48,6 +49,16 @@ private:
 };
 
 std::unique_ptr<OwnLogFiles> activeFiles;
+QtMessageHandler handlerBefore = nullptr;
+
+/// What Qt and its plug-ins have to say. After a fatal message Qt ends the process by itself.
+void LogQtMessage(QtMsgType type, const QMessageLogContext&, const QString& message) {
+    const bool isWorse = type == QtCriticalMsg || type == QtFatalMsg;
+    const auto severity = isWorse                ? google::GLOG_ERROR
+                          : type == QtWarningMsg ? google::GLOG_WARNING
+                                                 : google::GLOG_INFO;
+    LOG_AT_LEVEL(severity) << "Qt: " << LogText(message);
+}
 
 } // namespace
 
@@ -70,11 +81,13 @@ void InitLogger(const std::string& name, const std::string& dir, const unsigned&
                                                 QString::fromLocal8Bit(dir.c_str()),
                                                 QString::fromStdString(name), static_cast<int>(maxFiles));
     google::base::SetLogger(google::GLOG_INFO, activeFiles.get());
+    handlerBefore = qInstallMessageHandler(LogQtMessage);
 }
 
 void ReleaseLogger() {
     if (!activeFiles)
         return;
+    qInstallMessageHandler(handlerBefore);
     google::FlushLogFiles(google::GLOG_INFO);
     google::base::SetLogger(google::GLOG_INFO, activeFiles->Files());
     activeFiles.reset();

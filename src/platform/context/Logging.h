@@ -3,7 +3,8 @@
 #include <string>
 
 /// Starts the process's log: files "<dir>/<name>.<time>.<pid>" of at most `maxFileMegabytes`, of which
-/// the newest `maxFiles` are kept. Lines written before go to standard error. Main thread.
+/// the newest `maxFiles` are kept. Qt's own messages go into it, too. Lines written before go to standard
+/// error. Main thread.
 void InitLogger(const std::string& name, const std::string& dir, const unsigned& maxFileMegabytes,
                 const unsigned& maxFiles);
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QCoreApplication>
+#include <QThread>
 #include <atomic>
 #include <cstdint>
 #include <functional>
@@ -31,3 +33,8 @@ struct TaskControl {
             onProgress(done, total);
     }
 };
+
+/// Whether the calling thread is the one that must not wait.
+inline bool IsGuiThread() {
+    return QCoreApplication::instance() && QCoreApplication::instance()->thread() == QThread::currentThread();
+}

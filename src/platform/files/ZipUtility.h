@@ -13,8 +13,8 @@ public:
     /// files.
     ///
     /// False, with a log line, when nothing was left to pack, when the archive cannot be written and when the
-    /// work was cancelled; then there is no `zipPath`, and what stood there before is unchanged. Otherwise
-    /// the archive is whole and in the place of what stood there.
+    /// work was cancelled; what stood at `zipPath`, if anything did, still stands there then, and nothing
+    /// else is left. Otherwise the archive is whole and in its place.
     static bool CreateZipFromDir(const std::wstring& directory, const std::wstring& zipPath,
                                  const TaskControl& control = {});
 };

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QString>
 #include <QStringList>
+#include <QUrl>
 #include <chrono>
 
 class AppConfigData;
@@ -17,8 +17,14 @@ struct WebSettings {
     std::chrono::milliseconds callDeadline = std::chrono::seconds(60);  ///< of a question and its answer
     std::chrono::milliseconds transferDeadline = std::chrono::hours(1); ///< of a file on its way
     std::chrono::milliseconds retryPause =
-        std::chrono::milliseconds(500); ///< before the one retry, up to twice it
+        std::chrono::milliseconds(500); ///< before the one retry; up to twice it
 
     /// Reads the configuration. GUI thread.
     static WebSettings From(const AppConfigData& config);
+
+    /// Whether the address may be talked to: by TLS, or without it with the own machine and httpHosts.
+    bool Allow(const QUrl& url) const;
 };
+
+/// Whether `host` is a name or an address of the own machine.
+bool IsLoopback(const QString& host);

@@ -1,0 +1,179 @@
+#include "platform/files/ZipUtility.h"
+
+#include "platform/security/LogText.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <cstring>
+#include <glog/logging.h>
+#include <vector>
+#include <zip.h>
+
+namespace {
+
+constexpr int CompressionLevel = 6; // the library's own choice is the slowest
+
+/// What all files of one archive have in common.
+struct Packing {
+    const TaskControl& control;
+    std::int64_t done = 0;
+    std::int64_t total = 0;
+};
+
+/// A file that was opened, as long as it was then: it may be renamed, removed and written to meanwhile.
+class OpenedFile {
+public:
+    OpenedFile(const QFileInfo& info, QString name) : m_file(info.filePath()), m_name(std::move(name)) {
+        zip_stat_init(&m_facts);
+        zip_error_init(&m_error);
+        char probe = 0; // another program may have locked what it has left readable
+        m_isReadable = m_file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) &&
+                       (m_file.size() == 0 || m_file.getChar(&probe));
+        m_facts.size = static_cast<zip_uint64_t>(m_file.size());
+        m_facts.mtime = info.lastModified().toSecsSinceEpoch();
+        m_facts.valid = ZIP_STAT_SIZE | ZIP_STAT_MTIME;
+    }
+    ~OpenedFile() { zip_error_fini(&m_error); }
+    Q_DISABLE_COPY(OpenedFile)
+
+    bool IsReadable() const { return m_isReadable; }
+    QString Problem() const { return m_file.errorString(); }
+    std::int64_t Size() const { return static_cast<std::int64_t>(m_facts.size); }
+
+    /// Appends the file to the archive, which then reads from this object until it is closed.
+    bool AddTo(zip_t* archive, Packing& packing) {
+        m_packing = &packing;
+        zip_source_t* source = zip_source_function(archive, &OpenedFile::Serve, this);
+        if (!source)
+            return false;
+        const zip_int64_t index =
+            zip_file_add(archive, m_name.toUtf8().constData(), source, ZIP_FL_ENC_UTF_8);
+        if (index < 0) {
+            zip_source_free(source);
+            return false;
+        }
+        return zip_set_file_compression(archive, static_cast<zip_uint64_t>(index), ZIP_CM_DEFLATE,
+                                        CompressionLevel) == 0;
+    }
+
+private:
+    /// The library's questions to a source.
+    static zip_int64_t Serve(void* self, void* data, zip_uint64_t size, zip_source_cmd_t command) {
+        return static_cast<OpenedFile*>(self)->Serve(data, size, command);
+    }
+
+    zip_int64_t Serve(void* data, zip_uint64_t size, zip_source_cmd_t command) {
+        switch (command) {
+        case ZIP_SOURCE_OPEN:
+            return m_file.seek(0) ? 0 : Fail(ZIP_ER_SEEK);
+        case ZIP_SOURCE_READ:
+            return Read(static_cast<char*>(data), static_cast<qint64>(size));
+        case ZIP_SOURCE_STAT:
+            std::memcpy(data, &m_facts, sizeof m_facts);
+            return sizeof m_facts;
+        case ZIP_SOURCE_ERROR:
+            return zip_error_to_data(&m_error, data, size);
+        case ZIP_SOURCE_CLOSE:
+        case ZIP_SOURCE_FREE:
+            return 0;
+        case ZIP_SOURCE_SUPPORTS:
+            return zip_source_make_command_bitmap(ZIP_SOURCE_OPEN, ZIP_SOURCE_READ, ZIP_SOURCE_CLOSE,
+                                                  ZIP_SOURCE_STAT, ZIP_SOURCE_ERROR, ZIP_SOURCE_FREE, -1);
+        default:
+            return Fail(ZIP_ER_OPNOTSUPP);
+        }
+    }
+
+    zip_int64_t Read(char* data, qint64 size) {
+        if (m_packing->control.IsCancelled())
+            return Fail(ZIP_ER_CANCELLED);
+        const qint64 read = m_file.read(data, qMin(size, Size() - m_file.pos()));
+        if (read < 0) {
+            LOG(WARNING) << "ZipUtility::CreateZipFromDir packs the beginning of " << LogText(m_name) << ": "
+                         << LogText(Problem());
+            return 0;
+        }
+        m_packing->done += read;
+        m_packing->control.Tell(m_packing->done, m_packing->total);
+        return read;
+    }
+
+    zip_int64_t Fail(int code) {
+        zip_error_set(&m_error, code, 0);
+        return -1;
+    }
+
+    QFile m_file;
+    bool m_isReadable = false;
+    QString m_name;
+    zip_stat_t m_facts{};
+    zip_error_t m_error{};
+    Packing* m_packing = nullptr;
+};
+
+using OpenedFiles = std::vector<std::unique_ptr<OpenedFile>>;
+
+/// Opens what `folder` holds; names begin with `prefix`. Links are followed nowhere.
+void OpenFiles(const QDir& folder, const QString& prefix, const QString& archive, OpenedFiles& files) {
+    const auto what = QDir::Files | QDir::Dirs | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+    for (const QFileInfo& entry : folder.entryInfoList(what, QDir::Name)) {
+        const QString name = prefix + entry.fileName();
+        if (entry.isSymLink() || entry.isJunction() || entry.absoluteFilePath() == archive)
+            continue;
+        if (entry.isDir())
+            OpenFiles(QDir(entry.filePath()), name + QLatin1Char('/'), archive, files);
+        if (!entry.isFile())
+            continue;
+        auto file = std::make_unique<OpenedFile>(entry, name);
+        if (file->IsReadable())
+            files.push_back(std::move(file));
+        else
+            LOG(WARNING) << "ZipUtility::CreateZipFromDir leaves out " << LogText(name) << ": "
+                         << LogText(file->Problem());
+    }
+}
+
+/// Writes the archive beside its place and renames it. Returns what went wrong; empty when nothing did.
+std::string WriteArchive(const OpenedFiles& files, const QString& path, const TaskControl& control) {
+    Packing packing{control};
+    for (const auto& file : files)
+        packing.total += file->Size();
+    int code = 0;
+    zip_t* archive = zip_open(path.toUtf8().constData(), ZIP_CREATE | ZIP_TRUNCATE, &code);
+    if (!archive) {
+        zip_error_t error;
+        zip_error_init_with_code(&error, code);
+        const std::string words = zip_error_strerror(&error);
+        zip_error_fini(&error);
+        return words;
+    }
+    bool whole = true;
+    for (const auto& file : files)
+        whole = whole && file->AddTo(archive, packing);
+    if (whole && zip_close(archive) == 0)
+        return {};
+    const std::string words = zip_strerror(archive);
+    zip_discard(archive);
+    return words;
+}
+
+} // namespace
+
+bool ZipUtility::CreateZipFromDir(const std::wstring& directory, const std::wstring& zipPath,
+                                  const TaskControl& control) {
+    const auto fail = [](const std::string& why) {
+        LOG(WARNING) << "ZipUtility::CreateZipFromDir failed: " << LogText(why);
+        return false;
+    };
+    if (IsGuiThread())
+        return fail("called on the GUI thread");
+    const QString path =
+        QFileInfo(QDir::fromNativeSeparators(QString::fromStdWString(zipPath))).absoluteFilePath();
+    OpenedFiles files;
+    OpenFiles(QDir(QString::fromStdWString(directory)), {}, path, files);
+    if (files.empty())
+        return fail("there is nothing to pack");
+    const std::string problem = WriteArchive(files, path, control);
+    return problem.empty() || fail(problem);
+}

@@ -1,0 +1,116 @@
+#include "platform/web/WebExchange.h"
+
+#include "platform/security/LogText.h"
+#include "platform/web/WebJson.h"
+
+namespace {
+
+constexpr int LookMs = 50;
+constexpr qint64 LargestAnswer = 1024 * 1024;
+constexpr qint64 ReadBuffer = 256 * 1024;
+
+std::string SecondsText(std::chrono::milliseconds time) {
+    return std::to_string(static_cast<double>(time.count()) / 1000) + " s";
+}
+
+} // namespace
+
+WebExchange::WebExchange(QNetworkReply* reply, const WebRequest& request, const TaskControl& control,
+                         const Limits& limits, const WebSession::Sink& sink)
+    : m_reply(reply),
+      m_request(request),
+      m_control(control),
+      m_limits(limits),
+      m_sink(sink),
+      m_silence(limits.silence) {
+    m_reply->setReadBufferSize(ReadBuffer);
+    connect(m_reply, &QNetworkReply::readyRead, this, &WebExchange::Read);
+    connect(m_reply, &QNetworkReply::finished, &m_loop, &QEventLoop::quit);
+    connect(m_reply, &QNetworkReply::metaDataChanged, this,
+            [this] { m_silence.setRemainingTime(m_limits.silence); });
+    connect(m_reply, &QNetworkReply::uploadProgress, this, [this](qint64 sent, qint64 total) {
+        m_silence.setRemainingTime(m_limits.silence);
+        if (m_request.file && total >= m_request.file->Size()) // a form's other fields come first
+            m_control.Tell(qMax<qint64>(0, sent - (total - m_request.file->Size())), m_request.file->Size());
+    });
+    connect(&m_look, &QTimer::timeout, this, &WebExchange::Look);
+    m_look.start(LookMs);
+}
+
+WebExchange::~WebExchange() {
+    m_reply->disconnect(this);
+    delete m_reply;
+}
+
+WebAnswer WebExchange::Wait() {
+    if (!m_reply->isFinished())
+        m_loop.exec();
+    Read(); // what came with the end
+    if (m_end)
+        throw WebException(*m_end);
+    if (m_reply->error() != QNetworkReply::NoError || (!IsSuccess() && Redirect().isEmpty()))
+        ThrowFailure();
+    if (m_request.file && m_request.file->HasChanged())
+        throw WebException(WebError::File, "the file changed while it was sent");
+    m_answer.headers = m_reply->rawHeaderPairs();
+    return m_answer;
+}
+
+QUrl WebExchange::Redirect() const {
+    const QUrl target = m_reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
+    return target.isEmpty() ? QUrl() : m_request.url.resolved(target);
+}
+
+void WebExchange::Look() {
+    if (m_control.IsCancelled())
+        End(WebError::Cancelled, "cancelled");
+    else if (m_limits.deadline.hasExpired())
+        End(WebError::TimedOut, "the time for it is over");
+    else if (m_silence.hasExpired())
+        End(WebError::TimedOut, "not a byte for " + SecondsText(m_limits.silence), true);
+    else if (m_request.file && m_request.file->HasChanged())
+        End(WebError::File, "the file changed while it was sent");
+}
+
+void WebExchange::Read() {
+    const QByteArray bytes = m_reply->readAll();
+    if (m_end || bytes.isEmpty())
+        return;
+    m_silence.setRemainingTime(m_limits.silence);
+    if (!m_sink || !IsSuccess()) {
+        m_answer.body += bytes;
+        if (m_answer.body.size() > LargestAnswer)
+            End(WebError::BadAnswer, "the answer is larger than 1 MiB");
+        return;
+    }
+    const QVariant length = m_reply->header(QNetworkRequest::ContentLengthHeader);
+    const WebFailure failure = m_sink(m_received, bytes, length.isValid() ? length.toLongLong() : -1);
+    m_received += bytes.size();
+    if (failure.error != WebError::None)
+        End(failure.error, failure.words);
+}
+
+void WebExchange::End(WebError error, const std::string& words, bool mayPass) {
+    if (m_end)
+        return;
+    m_end = std::make_unique<WebException>(error, words, mayPass);
+    m_reply->abort();
+    m_loop.quit();
+}
+
+int WebExchange::Status() const {
+    return m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+}
+
+void WebExchange::ThrowFailure() {
+    if (const int status = Status(); status != 0 && !IsSuccess()) {
+        const std::optional<Json::Value> answer = ReadObject(m_answer.body);
+        const Json::Value message = answer ? answer->get("message", Json::Value()) : Json::Value();
+        const std::string said = message.isString() ? ": " + LogText(message.asString()) : std::string();
+        throw WebException(WebError::Refused, "the server answered " + std::to_string(status) + said,
+                           status >= 500);
+    }
+    if (m_reply->error() == QNetworkReply::SslHandshakeFailedError)
+        throw WebException(WebError::NotTrusted, LogText(m_reply->errorString()));
+    throw WebException(WebError::Unreachable, LogText(m_reply->errorString()), true);
+}

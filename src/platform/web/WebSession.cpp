@@ -1,0 +1,236 @@
+#include "platform/web/WebSession.h"
+
+#include "platform/ProductConstants.h"
+#include "platform/security/LogText.h"
+#include "platform/web/WebExchange.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+#include <QHttpMultiPart>
+#include <QNetworkProxyFactory>
+#include <QRandomGenerator>
+#include <QSslCertificate>
+#include <QSslConfiguration>
+#include <algorithm>
+#include <cstring>
+
+namespace {
+
+constexpr int MostRedirects = 5;
+constexpr unsigned long PauseSliceMs = 20;
+
+/// The configured proxy, or else the system's choice; none for the own machine in the latter case.
+class Proxies : public QNetworkProxyFactory {
+public:
+    explicit Proxies(const QString& configured) : m_configured(configured) {}
+
+    QList<QNetworkProxy> queryProxy(const QNetworkProxyQuery& query) override {
+        if (m_configured.isEmpty())
+            return IsLoopback(query.peerHostName()) ? QList{QNetworkProxy(QNetworkProxy::NoProxy)}
+                                                    : systemProxyForQuery(query);
+        const QUrl url(m_configured);
+        if (m_configured == QLatin1String("direct"))
+            return {QNetworkProxy(QNetworkProxy::NoProxy)};
+        const bool isSocks = url.scheme() == QLatin1String("socks5");
+        return {QNetworkProxy(isSocks ? QNetworkProxy::Socks5Proxy : QNetworkProxy::HttpProxy, url.host(),
+                              static_cast<quint16>(url.port(isSocks ? 1080 : 8080)), url.userName(),
+                              url.password())};
+    }
+
+private:
+    QString m_configured;
+};
+
+/// A body that can be sent once only. Qt would send any other again by itself when the server hangs up
+/// without an answer.
+class SinglePassBody : public QIODevice {
+public:
+    explicit SinglePassBody(const QByteArray& bytes) : m_bytes(bytes) { open(QIODevice::ReadOnly); }
+    bool isSequential() const override { return true; }
+    qint64 bytesAvailable() const override { return m_bytes.size() - m_read + QIODevice::bytesAvailable(); }
+
+protected:
+    qint64 readData(char* data, qint64 size) override {
+        if (m_read == m_bytes.size())
+            return -1;
+        const qint64 read = qMin<qint64>(size, m_bytes.size() - m_read);
+        std::memcpy(data, m_bytes.constData() + m_read, static_cast<std::size_t>(read));
+        m_read += static_cast<int>(read);
+        return read;
+    }
+    qint64 writeData(const char*, qint64) override { return -1; }
+
+private:
+    QByteArray m_bytes;
+    int m_read = 0;
+};
+
+/// Qt sends what it is given, line breaks included, and the length of the body is its own to tell.
+void SetHeader(QNetworkRequest& head, const std::string& name, const std::string& value) {
+    static const std::string separators = "()<>@,;:\\\"/[]?={} ";
+    const auto isToken = [](char c) {
+        return c > ' ' && c < 0x7f && separators.find(c) == std::string::npos;
+    };
+    const auto isControl = [](char c) { return (c >= 0 && c < ' ' && c != '\t') || c == 0x7f; };
+    const QByteArray lower = QByteArray::fromStdString(name).toLower();
+    if (name.empty() || !std::all_of(name.begin(), name.end(), isToken) ||
+        std::any_of(value.begin(), value.end(), isControl) || lower == "content-length" ||
+        lower == "transfer-encoding" || lower == "connection")
+        throw WebException(WebError::BadAnswer,
+                           "a header is asked for that must not be sent: " + LogText(name));
+    head.setRawHeader(QByteArray::fromStdString(name), QByteArray::fromStdString(value));
+}
+
+/// `name` between quotes in the head of a form's part.
+QByteArray Quoted(const QByteArray& name) {
+    return '"' + QByteArray(name).replace('\r', "%0D").replace('\n', "%0A").replace('"', "%22") + '"';
+}
+
+std::unique_ptr<QFile> Open(const UploadSource& source) {
+    auto file = std::make_unique<QFile>(source.Path());
+    if (!file->open(QIODevice::ReadOnly))
+        throw WebException(WebError::File, LogText(file->errorString()));
+    return file;
+}
+
+std::unique_ptr<QHttpMultiPart> MakeForm(const WebFields& fields, const UploadSource& source) {
+    auto form = std::make_unique<QHttpMultiPart>(QHttpMultiPart::FormDataType);
+    for (const auto& [name, value] : fields) {
+        QHttpPart part;
+        part.setRawHeader("Content-Disposition",
+                          "form-data; name=" + Quoted(QByteArray::fromStdString(name)));
+        part.setBody(QByteArray::fromStdString(value));
+        form->append(part);
+    }
+    QHttpPart part;
+    part.setRawHeader("Content-Disposition",
+                      "form-data; name=\"file\"; filename=" + Quoted(source.Name().toUtf8()));
+    part.setRawHeader("Content-Type", "application/octet-stream");
+    QFile* file = Open(source).release();
+    file->setParent(form.get());
+    part.setBodyDevice(file);
+    form->append(part);
+    return form;
+}
+
+QSslConfiguration TlsConfiguration(const QString& caFile) {
+    QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
+    tls.setProtocol(QSsl::TlsV1_2OrLater);
+    tls.setPeerVerifyMode(QSslSocket::VerifyPeer);
+    if (!caFile.isEmpty()) {
+        const QList<QSslCertificate> trusted = QSslCertificate::fromPath(caFile);
+        if (trusted.isEmpty())
+            throw WebException(WebError::NotTrusted, "there is no certificate in " + LogText(caFile));
+        tls.setCaCertificates(trusted);
+    }
+    return tls;
+}
+
+} // namespace
+
+UploadSource::UploadSource(const std::wstring& path) : m_path(QString::fromStdWString(path)) {
+    const QFileInfo facts(m_path);
+    m_name = facts.fileName();
+    m_size = facts.size();
+    m_modified = facts.lastModified();
+    if (!facts.isFile() || m_size == 0)
+        throw WebException(WebError::File, "there is no file, or an empty one: " + LogText(m_name));
+}
+
+bool UploadSource::HasChanged() const {
+    const QFileInfo facts(m_path);
+    return facts.size() != m_size || facts.lastModified() != m_modified;
+}
+
+WebSession::WebSession(const WebSettings& settings, const TaskControl& control,
+                       std::chrono::milliseconds deadline)
+    : m_settings(settings), m_control(control), m_deadline(deadline) {
+    m_manager.setProxyFactory(new Proxies(settings.proxy)); // which the manager owns
+}
+
+WebAnswer WebSession::Send(const WebRequest& request, const Sink& sink) {
+    try {
+        return FollowRedirects(request, sink);
+    } catch (const WebException& failure) {
+        if (!failure.mayPass || !request.isRepeatable)
+            throw;
+    }
+    // Not all at the same moment after a fault that has met many.
+    Pause(m_settings.retryPause + m_settings.retryPause * QRandomGenerator::global()->bounded(1000) / 1000);
+    return FollowRedirects(request, sink);
+}
+
+WebAnswer WebSession::FollowRedirects(WebRequest request, const Sink& sink) {
+    for (int redirects = 0;; ++redirects) {
+        ThrowIfOver();
+        WebExchange exchange(Start(request), request, m_control, {m_settings.silence, m_deadline}, sink);
+        WebAnswer answer = exchange.Wait();
+        const QUrl target = exchange.Redirect();
+        if (target.isEmpty())
+            return answer;
+        if (redirects == MostRedirects)
+            throw WebException(WebError::Refused, "the server redirects without end");
+        if (target.host() != request.url.host() ||
+            (request.url.scheme() == QLatin1String("https") && target.scheme() != QLatin1String("https")))
+            throw WebException(WebError::NotTrusted,
+                               "the server redirects to another host, or to one without TLS");
+        if (request.method != "GET" && !exchange.KeepsMethod())
+            throw WebException(WebError::Refused, "the server redirects in a way that loses what is sent");
+        request.url = target;
+    }
+}
+
+QNetworkReply* WebSession::Start(const WebRequest& request) {
+    if (!m_settings.Allow(request.url))
+        throw WebException(WebError::NotTrusted,
+                           "the address is not allowed: " +
+                               LogText(request.url.toString(QUrl::RemoveUserInfo | QUrl::RemoveQuery)));
+    QNetworkRequest head(request.url);
+    head.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
+    head.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
+    head.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
+    head.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
+    head.setHeader(QNetworkRequest::UserAgentHeader,
+                   QStringLiteral("VelmoraRYX/%1").arg(QLatin1String(Product::Version)));
+    head.setRawHeader("Accept-Encoding", "identity"); // a small answer must not become a large one
+    for (const auto& [name, value] : request.headers)
+        SetHeader(head, name, value);
+    if (request.url.scheme() == QLatin1String("https"))
+        head.setSslConfiguration(TlsConfiguration(m_settings.caFile));
+
+    if (request.file && !request.formFields.empty()) {
+        auto form = MakeForm(request.formFields, *request.file);
+        QNetworkReply* reply = m_manager.sendCustomRequest(head, request.method, form.get());
+        form.release()->setParent(reply);
+        return reply;
+    }
+    if (!request.file && request.isRepeatable)
+        return m_manager.sendCustomRequest(head, request.method, request.body);
+
+    std::unique_ptr<QIODevice> body;
+    if (request.file) {
+        if (!head.header(QNetworkRequest::ContentTypeHeader).isValid())
+            head.setHeader(QNetworkRequest::ContentTypeHeader, QStringLiteral("application/octet-stream"));
+        body = Open(*request.file);
+    } else {
+        head.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true);
+        head.setHeader(QNetworkRequest::ContentLengthHeader, request.body.size());
+        body = std::make_unique<SinglePassBody>(request.body);
+    }
+    QNetworkReply* reply = m_manager.sendCustomRequest(head, request.method, body.get());
+    body.release()->setParent(reply);
+    return reply;
+}
+
+void WebSession::Pause(std::chrono::milliseconds time) {
+    for (const QDeadlineTimer end(time); !end.hasExpired(); QThread::msleep(PauseSliceMs))
+        ThrowIfOver();
+}
+
+void WebSession::ThrowIfOver() const {
+    if (m_control.IsCancelled())
+        throw WebException(WebError::Cancelled, "cancelled");
+    if (m_deadline.hasExpired())
+        throw WebException(WebError::TimedOut, "the time for it is over");
+}
