@@ -115,6 +115,29 @@ std::string Body(const std::string& text, const QDir& folder) {
     return body;
 }
 
+WebFault Fault(const std::string& text) {
+    static const std::map<std::string, WebFault::Kind> kinds = {
+        {"ok", WebFault::None},   {"slow", WebFault::Slow},   {"drip", WebFault::Drip},
+        {"half", WebFault::Half}, {"wrong", WebFault::Wrong}, {"empty", WebFault::Empty},
+        {"gone", WebFault::Gone}, {"large", WebFault::Large}, {"redirect", WebFault::Redirect}};
+    static const std::regex status("[45][0-9]{2}");
+    const auto [name, value] = SplitFirst(text);
+    WebFault fault;
+    if (const auto kind = kinds.find(name); kind != kinds.end())
+        fault.kind = kind->second;
+    else if (std::regex_match(name, status))
+        fault = {WebFault::Status, 0, std::stoi(name), {}};
+    else
+        Refuse("wants a fault instead of \"" + name + '"');
+    if (fault.kind == WebFault::Redirect)
+        fault.target = value;
+    else if (fault.kind == WebFault::Slow || fault.kind == WebFault::Drip)
+        fault.seconds = Seconds(value, 1);
+    else
+        RefuseArguments(value);
+    return fault;
+}
+
 Step Act(std::function<void()> act) {
     Step step;
     step.act = std::move(act);
@@ -130,10 +153,12 @@ Step Expect(double seconds, std::function<bool()> isMet) {
 
 } // namespace
 
-CommandInterpreter::CommandInterpreter(AgentServer& server, AgentService& service, EventLog& log)
-    : m_server(server), m_service(service), m_log(log), m_player(log) {
+CommandInterpreter::CommandInterpreter(AgentServer& server, AgentService& service, EventLog& log,
+                                       WebService* web)
+    : m_server(server), m_service(service), m_log(log), m_web(web), m_player(log) {
     AddSendingCommands();
     AddExpectations();
+    AddWebCommands();
     AddOtherCommands();
     connect(&m_player, &StepPlayer::Idle, this, &CommandInterpreter::Idle);
     connect(&m_server, &AgentServer::MessageReceived, this, [this](PipeKey key, const std::string& body) {
@@ -142,6 +167,14 @@ CommandInterpreter::CommandInterpreter(AgentServer& server, AgentService& servic
     });
     connect(&m_server, &AgentServer::ClientConnected, &m_player, &StepPlayer::Play);
     connect(&m_server, &AgentServer::ClientGone, &m_player, &StepPlayer::Play);
+    if (m_web)
+        connect(
+            m_web, &WebService::Requested, this,
+            [this](const std::string& endpoint) {
+                m_webRequests.insert(endpoint);
+                m_player.Play();
+            },
+            Qt::QueuedConnection);
 }
 
 void CommandInterpreter::AddSendingCommands() {
@@ -255,6 +288,39 @@ void CommandInterpreter::AddExpectations() {
           }}});
 }
 
+void CommandInterpreter::AddWebCommands() {
+    m_commands.insert(
+        m_commands.end(),
+        {{"web", "ENDPOINT FAULT [VALUE]",
+          "what the web service does wrong: ok, slow S, drip S, 400 to 599, half, wrong, empty, large, "
+          "redirect [URL], gone",
+          [this](const std::string& arguments) {
+              const auto [endpoint, fault] = SplitFirst(arguments);
+              return Act(
+                  [this, name = WebEndpoint(endpoint), what = Fault(fault)] { m_web->SetFault(name, what); });
+          }},
+         {"web-upload", "put|form [no-notice]", "how the file store wants its files; with a notice otherwise",
+          [this](const std::string& arguments) {
+              const auto [way, notice] = SplitFirst(arguments);
+              if (!m_web || (way != "put" && way != "form") || (!notice.empty() && notice != "no-notice"))
+                  Refuse("wants ryx-agent --web, and put or form");
+              return Act([this, manner = UploadManner{way == "form", notice.empty()}] {
+                  m_web->Store().SetManner(manner);
+              });
+          }},
+         {"wait-web", "ENDPOINT [SECONDS]", "until the web service was asked there (at most 10 s)",
+          [this](const std::string& arguments) {
+              const auto [endpoint, seconds] = SplitFirst(arguments);
+              return Expect(Seconds(seconds, DefaultWaitSeconds), [this, name = WebEndpoint(endpoint)] {
+                  const auto found = m_webRequests.find(name);
+                  if (found == m_webRequests.end())
+                      return false;
+                  m_webRequests.erase(found);
+                  return true;
+              });
+          }}});
+}
+
 void CommandInterpreter::AddOtherCommands() {
     m_commands.insert(m_commands.end(),
                       {{"say", "TEXT", "print the text",
@@ -356,6 +422,15 @@ Step CommandInterpreter::ParseWait(const std::string& arguments) {
 CommandInterpreter::Message CommandInterpreter::ParseMessage(const std::string& arguments) const {
     const auto [key, body] = SplitFirst(arguments);
     return {KeyOf(key), Body(body, m_folder)};
+}
+
+std::string CommandInterpreter::WebEndpoint(const std::string& name) const {
+    const std::vector<std::string>& names = WebService::Endpoints();
+    if (!m_web)
+        Refuse("wants ryx-agent --web");
+    if (std::find(names.begin(), names.end(), name) == names.end())
+        Refuse("wants an endpoint instead of \"" + name + '"');
+    return name;
 }
 
 void CommandInterpreter::Keep(PipeKey key, const std::string& body) {

@@ -2,12 +2,14 @@
 
 #include "AgentService.h"
 #include "StepPlayer.h"
+#include "WebService.h"
 
 #include <QDir>
 #include <QObject>
 #include <functional>
 #include <istream>
 #include <list>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -19,7 +21,8 @@ class CommandInterpreter : public QObject {
     Q_OBJECT
 
 public:
-    CommandInterpreter(AgentServer& server, AgentService& service, EventLog& log);
+    /// `web` may be null: then its commands are refused.
+    CommandInterpreter(AgentServer& server, AgentService& service, EventLog& log, WebService* web = nullptr);
 
     /// Takes one line of the console. A line that is not understood is told and does nothing.
     void Add(const std::string& line);
@@ -53,20 +56,24 @@ private:
 
     void AddSendingCommands();
     void AddExpectations();
+    void AddWebCommands();
     void AddOtherCommands();
     Step Parse(const std::string& line) const;
     Step ParseWait(const std::string& arguments);
     Message ParseMessage(const std::string& arguments) const;
     void Keep(PipeKey key, const std::string& body);
     bool TakeMessage(PipeKey key, const std::string& part);
+    std::string WebEndpoint(const std::string& name) const;
     void TellClients() const;
     void TellHelp() const;
 
     AgentServer& m_server;
     AgentService& m_service;
     EventLog& m_log;
+    WebService* m_web;
     StepPlayer m_player;
     std::vector<Command> m_commands;
-    QDir m_folder{QStringLiteral(".")}; // in which the line that is read looks for files
-    std::list<Message> m_messages;      // arrived, and used by no expectation yet
+    QDir m_folder{QStringLiteral(".")};       // in which the line that is read looks for files
+    std::list<Message> m_messages;            // arrived, and used by no expectation yet
+    std::multiset<std::string> m_webRequests; // endpoints asked, and used by no expectation yet
 };

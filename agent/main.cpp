@@ -2,10 +2,12 @@
 #include "CommandInterpreter.h"
 #include "ConsoleInput.h"
 #include "Supervisor.h"
+#include "WebService.h"
 #include "platform/ProductConstants.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QTimer>
 #include <atomic>
@@ -47,10 +49,18 @@ int Run(QCoreApplication& application) {
         QStringLiteral("Start the front end PROGRAM with the arguments behind \"--\", and "
                        "again whenever it ends; end it at the end."),
         QStringLiteral("PROGRAM"));
+    const QCommandLineOption web(
+        QStringLiteral("web"),
+        QStringLiteral(
+            "Serve the organisation's web service, too, at PORT of the own machine; 0 takes a free one."),
+        QStringLiteral("PORT"));
+    const QCommandLineOption webFolder(
+        QStringLiteral("web-folder"), QStringLiteral("Keep the files that are uploaded in FOLDER."),
+        QStringLiteral("FOLDER"), QDir::temp().filePath(QStringLiteral("ryx-agent-web")));
     options.setApplicationDescription(QStringLiteral(
         "Stand-in for the agent service. Without a scenario it takes commands from standard input."));
     const QCommandLineOption help = options.addHelpOption();
-    options.addOptions({pipe, scenario, console, launch});
+    options.addOptions({pipe, scenario, console, launch, web, webFolder});
     options.addPositionalArgument(QStringLiteral("ARGUMENT"), QStringLiteral("Passed to PROGRAM."),
                                   QStringLiteral("[-- ARGUMENT...]"));
     EventLog log(std::cout);
@@ -68,7 +78,18 @@ int Run(QCoreApplication& application) {
     }
     AgentServer server(log);
     AgentService service(server);
-    CommandInterpreter interpreter(server, service, log);
+    std::optional<WebService> webService;
+    if (options.isSet(web)) {
+        bool isNumber = false;
+        const int port = options.value(web).toUShort(&isNumber);
+        webService.emplace(log, options.value(webFolder));
+        const QString problem = isNumber ? webService->Listen(port) : QStringLiteral("PORT is no number");
+        if (!problem.isEmpty()) {
+            log.Line("error: cannot serve the web service: " + problem.toStdString());
+            return isNumber ? NotServing : BadUsage;
+        }
+    }
+    CommandInterpreter interpreter(server, service, log, webService ? &*webService : nullptr);
 
     const bool hasScenario = options.isSet(scenario);
     if (hasScenario) {
