@@ -117,9 +117,10 @@ std::string Body(const std::string& text, const QDir& folder) {
 
 WebFault Fault(const std::string& text) {
     static const std::map<std::string, WebFault::Kind> kinds = {
-        {"ok", WebFault::None},   {"slow", WebFault::Slow},   {"drip", WebFault::Drip},
-        {"half", WebFault::Half}, {"wrong", WebFault::Wrong}, {"empty", WebFault::Empty},
-        {"gone", WebFault::Gone}, {"large", WebFault::Large}, {"redirect", WebFault::Redirect}};
+        {"ok", WebFault::None},    {"slow", WebFault::Slow},   {"drip", WebFault::Drip},
+        {"half", WebFault::Half},  {"wrong", WebFault::Wrong}, {"empty", WebFault::Empty},
+        {"gone", WebFault::Gone},  {"large", WebFault::Large}, {"redirect", WebFault::Redirect},
+        {"answer", WebFault::Text}};
     static const std::regex status("[45][0-9]{2}");
     const auto [name, value] = SplitFirst(text);
     WebFault fault;
@@ -129,8 +130,8 @@ WebFault Fault(const std::string& text) {
         fault = {WebFault::Status, 0, std::stoi(name), {}};
     else
         Refuse("wants a fault instead of \"" + name + '"');
-    if (fault.kind == WebFault::Redirect)
-        fault.target = value;
+    if (fault.kind == WebFault::Redirect || fault.kind == WebFault::Text)
+        fault.text = value;
     else if (fault.kind == WebFault::Slow || fault.kind == WebFault::Drip)
         fault.seconds = Seconds(value, 1);
     else
@@ -170,8 +171,8 @@ CommandInterpreter::CommandInterpreter(AgentServer& server, AgentService& servic
     if (m_web)
         connect(
             m_web, &WebService::Requested, this,
-            [this](const std::string& endpoint) {
-                m_webRequests.insert(endpoint);
+            [this](const QString& endpoint) {
+                m_webRequests.insert(endpoint.toStdString());
                 m_player.Play();
             },
             Qt::QueuedConnection);
@@ -293,7 +294,7 @@ void CommandInterpreter::AddWebCommands() {
         m_commands.end(),
         {{"web", "ENDPOINT FAULT [VALUE]",
           "what the web service does wrong: ok, slow S, drip S, 400 to 599, half, wrong, empty, large, "
-          "redirect [URL], gone",
+          "redirect [URL], gone, answer TEXT",
           [this](const std::string& arguments) {
               const auto [endpoint, fault] = SplitFirst(arguments);
               return Act(

@@ -261,8 +261,8 @@ bool WebService::Wait(double seconds) {
 
 void WebService::Reply(const std::string& endpoint, const httplib::Request& request, std::size_t size,
                        const Answer& answer, httplib::Response& response) {
-    static const char* const names[] = {"",      "slow",  "drip",  "status",   "half",
-                                        "wrong", "empty", "large", "redirect", "gone"};
+    static const char* const names[] = {"",      "slow",  "drip",     "status", "half",  "wrong",
+                                        "empty", "large", "redirect", "gone",   "answer"};
     WebFault fault;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
@@ -271,7 +271,7 @@ void WebService::Reply(const std::string& endpoint, const httplib::Request& requ
     m_log.Line(
         "web " + request.method + ' ' + LogText(request.path) + ' ' + std::to_string(size) +
         " bytes: " + (fault.kind == WebFault::None ? std::to_string(answer.status) : names[fault.kind]));
-    emit Requested(endpoint);
+    emit Requested(QString::fromStdString(endpoint));
 
     response.status = answer.status;
     for (const auto& [name, value] : answer.headers)
@@ -307,10 +307,11 @@ void WebService::Reply(const std::string& endpoint, const httplib::Request& requ
         return response.set_content("{\"status\": \"success\", \"data\":", type);
     case WebFault::Empty:
         return response.set_content("{}", type);
+    case WebFault::Text:
+        return response.set_content(fault.text, type);
     case WebFault::Large:
         return response.set_content(std::string(LargeAnswer, ' ') + body, type);
     case WebFault::Redirect:
-        return response.set_redirect(fault.target.empty() ? BaseOf(request) + request.target : fault.target,
-                                     307);
+        return response.set_redirect(fault.text.empty() ? BaseOf(request) + request.target : fault.text, 307);
     }
 }

@@ -20,12 +20,12 @@ struct Response;
 
 /// What an endpoint does wrong.
 struct WebFault {
-    enum Kind { None, Slow, Drip, Status, Half, Wrong, Empty, Large, Redirect, Gone };
+    enum Kind { None, Slow, Drip, Status, Half, Wrong, Empty, Large, Redirect, Gone, Text };
 
     Kind kind = None;
-    double seconds = 0; ///< Slow: before the answer; Drip: between its bytes
-    int status = 0;     ///< Status: the answer's
-    std::string target; ///< Redirect: the address; empty: the one that was asked
+    double seconds = 0;    ///< Slow: before the answer; Drip: between its bytes
+    int status = 0;        ///< Status: the answer's
+    std::string text = {}; ///< Redirect: the address, or empty for the one that was asked; Text: the answer
 };
 
 /// The organisation's web service, without TLS and on the own machine only, as docs/web-service.md describes
@@ -51,7 +51,7 @@ public:
 
 signals:
     /// A request has come; emitted on a thread of the service.
-    void Requested(const std::string& endpoint);
+    void Requested(const QString& endpoint);
 
 private:
     struct Answer {

@@ -73,9 +73,9 @@ void WebExchange::Look() {
 }
 
 void WebExchange::Read() {
-    const QByteArray bytes = m_reply->readAll();
-    if (m_end || bytes.isEmpty())
+    if (m_end || m_reply->bytesAvailable() == 0)
         return;
+    const QByteArray bytes = m_reply->readAll();
     m_silence.setRemainingTime(m_limits.silence);
     if (!m_sink || !IsSuccess()) {
         m_answer.body += bytes;

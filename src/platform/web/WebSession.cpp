@@ -48,6 +48,7 @@ class SinglePassBody : public QIODevice {
 public:
     explicit SinglePassBody(const QByteArray& bytes) : m_bytes(bytes) { open(QIODevice::ReadOnly); }
     bool isSequential() const override { return true; }
+    bool seek(qint64) override { return false; }
     qint64 bytesAvailable() const override { return m_bytes.size() - m_read + QIODevice::bytesAvailable(); }
 
 protected:
