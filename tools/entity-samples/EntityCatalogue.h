@@ -35,8 +35,10 @@ const BodyEntity& FindEntity(const std::string& name);
 
 /// Every sample: an object of
 ///   key, direction  the pipe's key and "to" or "from" the service; absent when the body is for measuring
+///   web, direction  the same of a question to the web service
 ///   only entity, body    the entity and what is told of its body; for plain text, instead of the entity,
-///   text            what the text is. Without both, the message has no body.
+///   text            what the text is; for other JSON, both in one,
+///   json            the body. Without all of them, the message has no body.
 ///   when            when, or with what, it is sent; absent when it goes without saying
 const Json::Value& Samples();
 /// The body of the first sample of that entity.
