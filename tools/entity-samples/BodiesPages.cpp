@@ -44,7 +44,7 @@ std::string Section(const std::string& key, int number) {
 
 std::string Heading(const std::string& title, const std::string& whatFor, const std::string& file) {
     return "# " + title + "\n\n" + whatFor +
-           " the entity that travels and a sample body. Headers in `src/entity`\n"
+           " and a sample body. Headers in `src/entity`\n"
            "tell what the fields mean.\n\n"
            "This page is written by `entity_samples` from `tools/entity-samples/samples.json`. After a "
            "change,\n"
@@ -53,7 +53,8 @@ std::string Heading(const std::string& title, const std::string& whatFor, const 
 }
 
 std::string PipePage() {
-    std::string page = Heading("Bodies on the pipe", "For every key", "pipe-bodies.md");
+    std::string page =
+        Heading("Bodies on the pipe", "For every key the entity that travels under it", "pipe-bodies.md");
 #define RYX_SECTION(name, number) page += Section(#name, number);
     RYX_PIPE_KEYS(RYX_SECTION)
 #undef RYX_SECTION
@@ -62,7 +63,8 @@ std::string PipePage() {
 }
 
 std::string WebPage() {
-    std::string page = Heading("Bodies of the web service", "For every question", "web-bodies.md");
+    std::string page =
+        Heading("Bodies of the web service", "For every question and answer the entity", "web-bodies.md");
     std::string last;
     for (const Json::Value& sample : Samples()) {
         const std::string question = sample["web"].asString();
