@@ -96,7 +96,7 @@ WebService::~WebService() {
 }
 
 QString WebService::Listen(int port) {
-    if (const QString problem = m_store.Problem(); !problem.isEmpty())
+    if (QString problem = m_store.Problem(); !problem.isEmpty())
         return problem;
     if (port == 0)
         m_port = m_server->bind_to_any_port(Host);

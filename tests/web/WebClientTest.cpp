@@ -68,7 +68,7 @@ struct Web : testing::Test {
     }
 
     const QTemporaryDir folder;
-    const QByteArray bytes = QByteArray(300000, 'l') + "\r\n--\0";
+    const QByteArray bytes = QByteArray(300000, 'l') + "\r\n--";
     const std::string md5 = QCryptographicHash::hash(bytes, QCryptographicHash::Md5).toHex().toStdString();
     std::ostringstream lines;
     EventLog log{lines};

@@ -144,7 +144,7 @@ std::string WriteArchive(const OpenedFiles& files, const QString& path, const Ta
     if (!archive) {
         zip_error_t error;
         zip_error_init_with_code(&error, code);
-        const std::string words = zip_error_strerror(&error);
+        std::string words = zip_error_strerror(&error);
         zip_error_fini(&error);
         return words;
     }
@@ -153,7 +153,7 @@ std::string WriteArchive(const OpenedFiles& files, const QString& path, const Ta
         whole = whole && file->AddTo(archive, packing);
     if (whole && zip_close(archive) == 0)
         return {};
-    const std::string words = zip_strerror(archive);
+    std::string words = zip_strerror(archive);
     zip_discard(archive);
     return words;
 }
