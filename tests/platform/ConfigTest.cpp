@@ -27,12 +27,15 @@ Loaded Load(const QByteArray& text) {
 
 TEST(Config, EveryValueIsRead) {
     const Loaded loaded = Load(R"({"sentryDsn": "d", "language": "de", "theme": "dark", "pipeName": "p",
-        "agentAccount": "a", "logFolder": "l", "organisation": "Schule Süd", "deviceName": "n", "enrolled": true})");
+        "agentAccount": "a", "logFolder": "l", "organisation": "Schule Süd", "deviceName": "n", "enrolled": true,
+        "webServer": "s", "webProxy": "y", "webCaFile": "c", "webHttpHosts": "h", "webCallSeconds": 5})");
     EXPECT_TRUE(loaded.notes.empty());
     const AppConfigData& data = loaded.data;
     EXPECT_EQ(data.sentryDsn + data.language + data.theme + data.pipeName + data.agentAccount +
-                  data.logFolder + data.organisation + data.deviceName,
-              "ddedarkpalSchule Südn");
+                  data.logFolder + data.organisation + data.deviceName + data.webServer + data.webProxy +
+                  data.webCaFile + data.webHttpHosts,
+              "ddedarkpalSchule Südnsych");
+    EXPECT_EQ(data.webCallSeconds, 5);
     EXPECT_TRUE(data.enrolled);
 }
 

@@ -26,6 +26,11 @@ WebExchange::WebExchange(QNetworkReply* reply, const WebRequest& request, const 
     m_reply->setReadBufferSize(ReadBuffer);
     connect(m_reply, &QNetworkReply::readyRead, this, &WebExchange::Read);
     connect(m_reply, &QNetworkReply::finished, &m_loop, &QEventLoop::quit);
+    connect(m_reply, &QNetworkReply::sslErrors, this, [this](const QList<QSslError>& errors) {
+        m_distrust.clear();
+        for (const QSslError& error : errors)
+            m_distrust += (m_distrust.empty() ? "" : "; ") + LogText(error.errorString());
+    });
     connect(m_reply, &QNetworkReply::metaDataChanged, this,
             [this] { m_silence.setRemainingTime(m_limits.silence); });
     connect(m_reply, &QNetworkReply::uploadProgress, this, [this](qint64 sent, qint64 total) {
@@ -111,6 +116,7 @@ void WebExchange::ThrowFailure() {
                            status >= 500);
     }
     if (m_reply->error() == QNetworkReply::SslHandshakeFailedError)
-        throw WebException(WebError::NotTrusted, LogText(m_reply->errorString()));
+        throw WebException(WebError::NotTrusted,
+                           m_distrust.empty() ? LogText(m_reply->errorString()) : m_distrust);
     throw WebException(WebError::Unreachable, LogText(m_reply->errorString()), true);
 }

@@ -43,6 +43,7 @@ private:
     QEventLoop m_loop;
     QTimer m_look;
     qint64 m_received = 0;
+    std::string m_distrust; // what is wrong with the server's certificate
     WebAnswer m_answer;
     std::unique_ptr<WebException> m_end; // why the program itself has ended it
 };
