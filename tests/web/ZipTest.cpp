@@ -47,12 +47,18 @@ struct Zip : testing::Test {
 };
 
 TEST_F(Zip, PacksWhatWasThereWhenItBegan) {
-    const std::map<QString, QByteArray> files = {{QStringLiteral("1-User.log"), "first"},
-                                                 {QStringLiteral("Ünter/日誌.log"), "second"},
-                                                 {QStringLiteral("Ünter/tief/leer.log"), ""},
-                                                 {QStringLiteral("z.log"), "last"}};
+    std::map<QString, QByteArray> files = {{QStringLiteral("1-User.log"), "first"},
+                                           {QStringLiteral("Ünter/日誌.log"), "second"},
+                                           {QStringLiteral("Ünter/tief/leer.log"), ""},
+                                           {QStringLiteral("z.log"), "last"}};
     for (const auto& [name, content] : files)
         Write(name, content);
+    // Somebody else's log; root reads it all the same.
+    Write(QStringLiteral("closed.log"), "");
+    QFile closed(folder.filePath(QStringLiteral("logs/closed.log")));
+    closed.setPermissions({});
+    if (closed.open(QIODevice::ReadOnly))
+        files[QStringLiteral("closed.log")] = "";
     QFile::link(folder.filePath(QStringLiteral("logs/z.log")),
                 folder.filePath(QStringLiteral("logs/link.lnk")));
     QFile::link(folder.path(), folder.filePath(QStringLiteral("logs/up.lnk")));

@@ -20,8 +20,8 @@ private:
 
 /// How the outside takes part in one piece of long work.
 struct TaskControl {
-    /// Called on the working thread, never after the work has returned: bytes done and bytes in all,
-    /// which is -1 while that is not known. May be empty.
+    /// Called on the working thread, often, and never after the work has returned: bytes done and bytes in
+    /// all, which is -1 while that is not known. May be empty.
     using Progress = std::function<void(std::int64_t done, std::int64_t total)>;
 
     Cancellation cancellation;
