@@ -3,24 +3,21 @@
 #include "lock/PasswordPrompt.h"
 #include "platform/context/AppContextData.h"
 #include "widgets/AccessibleRole.h"
-#include "widgets/UCentredArea.h"
 
 #include <QEvent>
-#include <QVBoxLayout>
 
 UBodySettingLockModal::UBodySettingLockModal(QWidget* page, const Clock& clock)
     : UOverlay(page), m_prompt(new PasswordPrompt(clock)) {
     Initialization();
     InitConnect();
     LanguageChanges();
+    HideWith(page);
 }
 
 void UBodySettingLockModal::Initialization() {
     setObjectName(QStringLiteral("UBodySettingLockModal"));
     m_prompt->setObjectName(QStringLiteral("UBodySettingLockModalClass"));
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(new UCentredArea(m_prompt));
+    SetCard(m_prompt);
 }
 
 void UBodySettingLockModal::InitConnect() {
@@ -33,7 +30,6 @@ void UBodySettingLockModal::InitConnect() {
         if (field == AppContextData::Field::Enrolled && !AppContextData::Instance()->Enrolled())
             hide();
     });
-    Owner()->installEventFilter(this);
 }
 
 void UBodySettingLockModal::LanguageChanges() {
@@ -43,12 +39,6 @@ void UBodySettingLockModal::LanguageChanges() {
 
 void UBodySettingLockModal::Presented() {
     AnnounceAlert(this);
-}
-
-bool UBodySettingLockModal::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == Owner() && event->type() == QEvent::Hide && !event->spontaneous())
-        hide();
-    return UOverlay::eventFilter(watched, event);
 }
 
 void UBodySettingLockModal::changeEvent(QEvent* event) {

@@ -13,8 +13,6 @@ class UBodySettingLockModal : public UOverlay {
 public:
     explicit UBodySettingLockModal(QWidget* page, const Clock& clock = Clock::System());
 
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 signals:
     /// The password was right: the setting may be changed.
     void PermissionsLock();

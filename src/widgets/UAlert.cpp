@@ -5,7 +5,6 @@
 #include "widgets/UTextLabel.h"
 
 #include <QApplication>
-#include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QVBoxLayout>
@@ -18,36 +17,20 @@ constexpr int CardWidth = 480;
 
 UAlert::UAlert(QWidget* parent)
     : UOverlay(parent),
-      m_title(new UTextLabel("alertTitle")),
-      m_content(new UTextLabel("alertContent")),
+      m_title(new UTextLabel("dialogTitle")),
+      m_content(new UTextLabel("dialogContent")),
       m_ok(new UTextButton(UTextButton::Look::Primary)),
       m_cancel(new UTextButton) {
-    auto* card = new QFrame(this);
-    card->setObjectName(QStringLiteral("alertCard"));
-    card->setMaximumWidth(CardWidth);
-    card->setMinimumWidth(qMin(CardWidth, 320));
-
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(12);
     buttons->addStretch();
     buttons->addWidget(m_cancel);
     buttons->addWidget(m_ok);
-    auto* column = new QVBoxLayout(card);
-    column->setContentsMargins(28, 24, 28, 24);
-    column->setSpacing(12);
+    QVBoxLayout* column = MakeCard(CardWidth);
     column->addWidget(m_title);
     column->addWidget(m_content);
     column->addSpacing(12);
     column->addLayout(buttons);
-
-    auto* grid = new QGridLayout(this);
-    grid->setContentsMargins(24, 24, 24, 24);
-    grid->setColumnStretch(0, 1);
-    grid->setColumnStretch(1, 100);
-    grid->setColumnStretch(2, 1);
-    grid->setRowStretch(0, 1);
-    grid->setRowStretch(2, 1);
-    grid->addWidget(card, 1, 1);
 
     setTabOrder(m_cancel, m_ok);
     m_cancel->hide();

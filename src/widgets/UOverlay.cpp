@@ -2,8 +2,11 @@
 
 #include "widgets/AccessibleRole.h"
 #include "widgets/NoticeQueue.h"
+#include "widgets/UCentredArea.h"
 
-#include <QMouseEvent>
+#include <QAbstractButton>
+#include <QKeyEvent>
+#include <QVBoxLayout>
 
 UOverlay::UOverlay(QWidget* parent) : QWidget(parent), m_owner(parent) {
     setAttribute(Qt::WA_StyledBackground);
@@ -14,6 +17,28 @@ UOverlay::UOverlay(QWidget* parent) : QWidget(parent), m_owner(parent) {
 
 UOverlay::~UOverlay() = default;
 
+void UOverlay::HideWith(QWidget* page) {
+    m_page = page;
+    page->installEventFilter(this);
+}
+
+void UOverlay::SetCard(QWidget* card) {
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(new UCentredArea(card));
+}
+
+QVBoxLayout* UOverlay::MakeCard(int width) {
+    auto* card = new QFrame;
+    card->setObjectName(QStringLiteral("dialogCard"));
+    card->setMaximumWidth(width);
+    auto* column = new QVBoxLayout(card);
+    column->setContentsMargins(28, 24, 28, 24);
+    column->setSpacing(12);
+    SetCard(card);
+    return column;
+}
+
 void UOverlay::setVisible(bool visible) {
     if (visible) {
         Request();
@@ -21,6 +46,8 @@ void UOverlay::setVisible(bool visible) {
     }
     const bool wasShown = !isHidden();
     QWidget::setVisible(false);
+    if (parentWidget() && parentWidget() != m_page)
+        parentWidget()->removeEventFilter(this);
     if (!m_queue)
         return;
     if (!wasShown) {
@@ -44,7 +71,6 @@ void UOverlay::Request() {
 }
 
 void UOverlay::Present() {
-    parentWidget()->removeEventFilter(this);
     parentWidget()->installEventFilter(this);
     setGeometry(parentWidget()->rect());
     m_focusBefore = parentWidget()->focusWidget();
@@ -68,16 +94,25 @@ bool UOverlay::focusNextPrevChild(bool next) {
     return true;
 }
 
-// The window below must not take keys for its own, nor presses beside the card.
-void UOverlay::keyPressEvent(QKeyEvent* event) {
-    event->accept();
-}
-
+// The window below must not take presses beside the card for its own.
 void UOverlay::mousePressEvent(QMouseEvent* event) {
     event->accept();
 }
 
+// No key goes on to the window below.
+void UOverlay::keyPressEvent(QKeyEvent* event) {
+    if (event->isAutoRepeat())
+        return;
+    if (event->key() == Qt::Key_Escape)
+        Dismiss();
+    else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        if (auto* button = qobject_cast<QAbstractButton*>(focusWidget()))
+            button->click();
+}
+
 bool UOverlay::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_page && event->type() == QEvent::Hide && !event->spontaneous())
+        hide();
     if (watched == parentWidget() && event->type() == QEvent::Resize)
         setGeometry(parentWidget()->rect());
     return QWidget::eventFilter(watched, event);
