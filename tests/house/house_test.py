@@ -38,7 +38,7 @@ MAY_INCLUDE = {
     "tools": SOURCES + ["agent"],
     "bench": SOURCES + ["agent", "tools"],
     "docs": ["entity", "platform/link"],
-    "tests": SOURCES + ["agent", "tools", "platform/system/windows"],
+    "tests": SOURCES + ["agent", "tools", "platform/system/unix", "platform/system/windows"],
 }
 
 # Headers of an operating system, and where they may be included.

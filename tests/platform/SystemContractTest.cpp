@@ -1,4 +1,5 @@
 // What every operating system's back end must do alike.
+#include "platform/application/UsbDetector.h"
 #include "platform/system/SystemInput.h"
 #include "platform/system/SystemPipe.h"
 #include "platform/system/SystemSession.h"
@@ -83,4 +84,17 @@ TEST(SystemContract, AWindowMadeHiddenShowsAndRisesAtItsSize) {
     QCoreApplication::processEvents();
     EXPECT_EQ(window.size(), QSize(300, 200)); // its place is the window manager's to choose
     EXPECT_GE(SystemInput::Native().MillisecondsSinceInput(), -1);
+}
+
+TEST(SystemContract, DrivesAreListedByTheirRootsAndWatched) {
+    EXPECT_TRUE(SystemDrives::Native().WatchDrives([] {}));
+    const UsbDetector detector;
+    const QStringList drives = detector.Drives();
+    EXPECT_EQ(QSet<QString>(drives.begin(), drives.end()).size(), drives.size());
+    for (const QString& drive : drives) {
+        EXPECT_TRUE(QDir::isAbsolutePath(drive)) << drive.toStdString();
+        EXPECT_FALSE(QDir::home().path().startsWith(drive)) << drive.toStdString() << " is the system's";
+        EXPECT_TRUE(UsbDetector::IsOnDrive(QDir(drive).filePath(QStringLiteral("a.json")), drive));
+        EXPECT_FALSE(UsbDetector::IsOnDrive(drive.chopped(1) + QStringLiteral("2/a.json"), drive));
+    }
 }

@@ -13,7 +13,7 @@ struct SystemDrive {
     bool operator==(const SystemDrive& other) const { return root == other.root && arrival == other.arrival; }
 };
 
-/// The drives that a user can plug in. GUI thread.
+/// The drives that a user can plug in. A process has one watch at a time. GUI thread.
 class SystemDrives {
 public:
     /// Whoever holds it is told of changes.
