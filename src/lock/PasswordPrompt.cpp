@@ -91,10 +91,17 @@ void PasswordPrompt::SetTexts(const Texts& texts) {
     setAccessibleName(texts.title);
 }
 
+// A hash is never empty, as a password is that the service has not set.
+bool PasswordPrompt::IsRight() const {
+    const AppContextData& context = *AppContextData::Instance();
+    const std::string hash = m_pad->GetPasswordHash();
+    return hash == context.UnlockPassword() || (m_acceptsUnbindPassword && hash == context.UnbindPassword());
+}
+
 void PasswordPrompt::HandleConfirm() {
     if (m_attempts.IsLockedOut())
         return;
-    if (m_pad->GetPasswordHash() == AppContextData::Instance()->UnlockPassword()) {
+    if (IsRight()) {
         m_pad->Clear();
         emit Confirmed();
         return;

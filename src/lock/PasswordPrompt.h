@@ -27,6 +27,9 @@ public:
 
     void SetTexts(const Texts& texts);
 
+    /// From now on the password that allows an unenrolment is right, too.
+    void AcceptUnbindPassword() { m_acceptsUnbindPassword = true; }
+
     /// Compares what was typed with the password that the service has set.
     void HandleConfirm();
 
@@ -56,6 +59,7 @@ private:
     void InitConnect();
     void OnButtonOkClicked() { HandleConfirm(); }
     void OnButtonCloseClicked() { emit Closed(); }
+    bool IsRight() const;
     void OnTimer();
     void Arrange();
     void SetUsable(bool usable);
@@ -65,6 +69,7 @@ private:
     void LanguageChanges();
 
     PasswordAttempts m_attempts;
+    bool m_acceptsUnbindPassword = false;
     Status m_status = Status::None;
     bool m_isAnswered = false; // nothing was typed since the last wrong attempt
     QBoxLayout* m_columns;

@@ -68,6 +68,10 @@
         <translation>هذا الإعداد مقفل</translation>
     </message>
     <message>
+        <source>unbind_lock_tip</source>
+        <translation>لن تعتني مؤسستك بهذا الجهاز بعد ذلك.</translation>
+    </message>
+    <message>
         <source>view_lock_button_connect</source>
         <translation>موافق</translation>
     </message>
@@ -80,8 +84,20 @@
         <translation>محاولات خاطئة كثيرة. ألغِ وعُد بعد دقيقة.</translation>
     </message>
     <message>
+        <source>view_lock_tip</source>
+        <translation>أدخل كلمة المرور المكوّنة من ستة أرقام للمتابعة.</translation>
+    </message>
+    <message>
+        <source>view_lock_tip_2</source>
+        <translation>كلمة المرور لدى المسؤول.</translation>
+    </message>
+    <message>
         <source>view_register_windows_button_cancel</source>
         <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>view_register_windows_title_unbind_state</source>
+        <translation>إلغاء تسجيل هذا الجهاز</translation>
     </message>
 </context>
 </TS>

@@ -68,6 +68,10 @@
         <translation>Diese Einstellung ist gesperrt</translation>
     </message>
     <message>
+        <source>unbind_lock_tip</source>
+        <translation>Ihre Organisation kümmert sich dann nicht mehr um dieses Gerät.</translation>
+    </message>
+    <message>
         <source>view_lock_button_connect</source>
         <translation>OK</translation>
     </message>
@@ -80,8 +84,20 @@
         <translation>Zu viele falsche Passwörter. Brechen Sie ab und kommen Sie in einer Minute wieder.</translation>
     </message>
     <message>
+        <source>view_lock_tip</source>
+        <translation>Geben Sie das sechsstellige Passwort ein, um fortzufahren.</translation>
+    </message>
+    <message>
+        <source>view_lock_tip_2</source>
+        <translation>Ihre Administration kennt es.</translation>
+    </message>
+    <message>
         <source>view_register_windows_button_cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>view_register_windows_title_unbind_state</source>
+        <translation>Registrierung aufheben</translation>
     </message>
 </context>
 </TS>

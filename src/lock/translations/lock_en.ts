@@ -68,6 +68,10 @@
         <translation>This setting is locked</translation>
     </message>
     <message>
+        <source>unbind_lock_tip</source>
+        <translation>Your organisation will no longer look after this device.</translation>
+    </message>
+    <message>
         <source>view_lock_button_connect</source>
         <translation>OK</translation>
     </message>
@@ -80,8 +84,20 @@
         <translation>Too many wrong passwords. Cancel, and come back in a minute.</translation>
     </message>
     <message>
+        <source>view_lock_tip</source>
+        <translation>Enter the six-digit password to go on.</translation>
+    </message>
+    <message>
+        <source>view_lock_tip_2</source>
+        <translation>Your administrator knows it.</translation>
+    </message>
+    <message>
         <source>view_register_windows_button_cancel</source>
         <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>view_register_windows_title_unbind_state</source>
+        <translation>Unenrol this device</translation>
     </message>
 </context>
 </TS>

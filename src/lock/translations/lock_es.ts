@@ -68,6 +68,10 @@
         <translation>Este ajuste está bloqueado</translation>
     </message>
     <message>
+        <source>unbind_lock_tip</source>
+        <translation>Su organización dejará de cuidar de este dispositivo.</translation>
+    </message>
+    <message>
         <source>view_lock_button_connect</source>
         <translation>Aceptar</translation>
     </message>
@@ -80,8 +84,20 @@
         <translation>Demasiadas contraseñas incorrectas. Cancele y vuelva dentro de un minuto.</translation>
     </message>
     <message>
+        <source>view_lock_tip</source>
+        <translation>Introduzca la contraseña de seis dígitos para continuar.</translation>
+    </message>
+    <message>
+        <source>view_lock_tip_2</source>
+        <translation>La conoce su administrador.</translation>
+    </message>
+    <message>
         <source>view_register_windows_button_cancel</source>
         <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>view_register_windows_title_unbind_state</source>
+        <translation>Anular la inscripción</translation>
     </message>
 </context>
 </TS>

@@ -68,6 +68,10 @@
         <translation>Ce paramètre est verrouillé</translation>
     </message>
     <message>
+        <source>unbind_lock_tip</source>
+        <translation>Votre organisation ne prendra plus soin de cet appareil.</translation>
+    </message>
+    <message>
         <source>view_lock_button_connect</source>
         <translation>OK</translation>
     </message>
@@ -80,8 +84,20 @@
         <translation>Trop de mots de passe erronés. Annulez et revenez dans une minute.</translation>
     </message>
     <message>
+        <source>view_lock_tip</source>
+        <translation>Saisissez le mot de passe à six chiffres pour continuer.</translation>
+    </message>
+    <message>
+        <source>view_lock_tip_2</source>
+        <translation>Votre administrateur le connaît.</translation>
+    </message>
+    <message>
         <source>view_register_windows_button_cancel</source>
         <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>view_register_windows_title_unbind_state</source>
+        <translation>Désinscrire cet appareil</translation>
     </message>
 </context>
 </TS>

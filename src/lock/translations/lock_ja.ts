@@ -68,6 +68,10 @@
         <translation>この設定はロックされています</translation>
     </message>
     <message>
+        <source>unbind_lock_tip</source>
+        <translation>組織はこのデバイスを管理しなくなります。</translation>
+    </message>
+    <message>
         <source>view_lock_button_connect</source>
         <translation>OK</translation>
     </message>
@@ -80,8 +84,20 @@
         <translation>パスワードの誤りが多すぎます。キャンセルして 1 分後にもう一度お試しください。</translation>
     </message>
     <message>
+        <source>view_lock_tip</source>
+        <translation>続けるには 6 桁のパスワードを入力してください。</translation>
+    </message>
+    <message>
+        <source>view_lock_tip_2</source>
+        <translation>管理者に確認してください。</translation>
+    </message>
+    <message>
         <source>view_register_windows_button_cancel</source>
         <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>view_register_windows_title_unbind_state</source>
+        <translation>登録を解除</translation>
     </message>
 </context>
 </TS>

@@ -68,6 +68,10 @@
         <translation>此设置已锁定</translation>
     </message>
     <message>
+        <source>unbind_lock_tip</source>
+        <translation>您的组织将不再照管此设备。</translation>
+    </message>
+    <message>
         <source>view_lock_button_connect</source>
         <translation>确定</translation>
     </message>
@@ -80,8 +84,20 @@
         <translation>密码错误次数过多。请取消，一分钟后再试。</translation>
     </message>
     <message>
+        <source>view_lock_tip</source>
+        <translation>请输入六位数密码以继续。</translation>
+    </message>
+    <message>
+        <source>view_lock_tip_2</source>
+        <translation>密码请向管理员索取。</translation>
+    </message>
+    <message>
         <source>view_register_windows_button_cancel</source>
         <translation>取消</translation>
+    </message>
+    <message>
+        <source>view_register_windows_title_unbind_state</source>
+        <translation>取消注册此设备</translation>
     </message>
 </context>
 </TS>
