@@ -5,7 +5,6 @@
 #include <QByteArray>
 
 class QLabel;
-class UExitButton;
 class UTextButton;
 
 /// Tells that the service cannot be reached, and offers the network page and another try. Escape closes it
@@ -35,7 +34,7 @@ signals:
 
 protected:
     void Presented() override;
-    void keyPressEvent(QKeyEvent* event) override;
+    void Dismiss() override;
     void changeEvent(QEvent* event) override;
 
 private:
@@ -46,7 +45,7 @@ private:
     QByteArray m_titleKey, m_contentKey, m_okKey, m_cancelKey;
     QLabel* m_title;
     QLabel* m_content;
-    UTextButton* m_ok;
+    UTextButton* m_close;
     UTextButton* m_cancel;
-    UExitButton* m_close;
+    UTextButton* m_ok;
 };

@@ -36,7 +36,6 @@ public:
 
 protected:
     void Presented() override;
-    void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
@@ -44,7 +43,7 @@ private:
     void InitConnect();
     void LanguageChanges();
     void OnPipeDataReceived(PipeKey key, const std::string& body);
-    void Report(PipeKey key, bool on);
+    bool Report(PipeKey key, bool on);
     void SetScreenView(bool on);
 
     QLabel* m_title;

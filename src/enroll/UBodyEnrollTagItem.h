@@ -25,6 +25,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    void UpdateMargins();
     void LanguageChanges();
 
     UElidedLabel* m_text;

@@ -17,6 +17,8 @@ target_sources(ryx_user_objects PRIVATE
     ${CMAKE_CURRENT_LIST_DIR}/ULoadingBar.cpp
     ${CMAKE_CURRENT_LIST_DIR}/ULoadingIndicator.cpp
     ${CMAKE_CURRENT_LIST_DIR}/UOverlay.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/USwitch.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/USwitchRow.cpp
     ${CMAKE_CURRENT_LIST_DIR}/UTextButton.cpp
     ${CMAKE_CURRENT_LIST_DIR}/UThemePicture.cpp
     ${CMAKE_CURRENT_LIST_DIR}/UToast.cpp)

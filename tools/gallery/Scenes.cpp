@@ -275,7 +275,7 @@ QWidget& Stage::Subject() {
 }
 
 QVector<Scene> AllScenes() {
-    return PageScenes() + ShellScenes() + NoticeScenes() + OtherScenes();
+    return PageScenes() + ShellScenes() + NoticeScenes() + EnrollScenes() + OtherScenes();
 }
 
 void Settle() {

@@ -48,5 +48,8 @@ struct Scene {
 
 QVector<Scene> AllScenes();
 
+/// Those of the enrolment's parts.
+QVector<Scene> EnrollScenes();
+
 /// Lets layouts, deferred updates and queued events come to rest.
 void Settle();

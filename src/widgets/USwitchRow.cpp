@@ -1,0 +1,41 @@
+#include "widgets/USwitchRow.h"
+
+#include "widgets/USwitch.h"
+#include "widgets/UTextLabel.h"
+
+#include <QVBoxLayout>
+
+USwitchRow::USwitchRow(QWidget* parent)
+    : QFrame(parent),
+      m_switch(new USwitch),
+      m_title(new UTextLabel("switchTitle")),
+      m_tip(new UTextLabel("switchTip")) {
+    auto* texts = new QVBoxLayout;
+    texts->setSpacing(4);
+    texts->addStretch();
+    texts->addWidget(m_title);
+    texts->addWidget(m_tip);
+    texts->addStretch();
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 4, 0, 4);
+    row->setSpacing(16);
+    row->addLayout(texts, 1);
+    row->addWidget(m_switch);
+    connect(m_switch, &USwitch::clicked, this, &USwitchRow::Switched);
+}
+
+void USwitchRow::SetTexts(const QString& title, const QString& tip) {
+    m_title->setText(title);
+    m_tip->setText(tip);
+    m_tip->setVisible(!tip.isEmpty());
+    m_switch->setAccessibleName(title);
+    m_switch->setAccessibleDescription(tip);
+}
+
+bool USwitchRow::IsOn() const {
+    return m_switch->isChecked();
+}
+
+void USwitchRow::SetOn(bool on) {
+    m_switch->setChecked(on);
+}
