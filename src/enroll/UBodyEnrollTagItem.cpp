@@ -28,10 +28,13 @@ UBodyEnrollTagItem::UBodyEnrollTagItem(const QString& tag, QWidget* parent)
     row->setSpacing(0);
     row->addWidget(m_text);
     row->addWidget(m_remove);
-    setFocusProxy(m_remove);
     connect(m_remove, &QPushButton::clicked, this, [this] { emit RemoveItem(this); });
     LanguageChanges();
     SetEnable(true);
+}
+
+QWidget* UBodyEnrollTagItem::FocusPlace() const {
+    return m_remove;
 }
 
 QString UBodyEnrollTagItem::Tag() const {

@@ -14,6 +14,9 @@ public:
 
     QString Tag() const;
 
+    /// Where Tab leads to.
+    QWidget* FocusPlace() const;
+
     /// Only a tag that is enabled can be taken away; its property "enable" says so to the style sheet.
     void SetEnable(bool enable);
 

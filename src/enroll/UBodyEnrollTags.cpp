@@ -29,14 +29,6 @@ QString Words(TagRules::Refusal refusal) {
     return {};
 }
 
-/// Lets Tab reach `widget` just before `next`, which was made earlier.
-void PutBefore(QWidget* widget, const QWidget* next) {
-    QWidget* before = next->previousInFocusChain();
-    while (before != next && (before == widget || before->focusPolicy() == Qt::NoFocus))
-        before = before->previousInFocusChain();
-    QWidget::setTabOrder(before, widget);
-}
-
 } // namespace
 
 UBodyEnrollTags::UBodyEnrollTags(QWidget* parent)
@@ -88,10 +80,18 @@ void UBodyEnrollTags::AddItem(const QString& tag) {
     auto* item = new UBodyEnrollTagItem(tag);
     item->SetEnable(m_editable);
     connect(item, &UBodyEnrollTagItem::RemoveItem, this, &UBodyEnrollTags::OnRemoveItem);
-    m_items.append(item);
     m_flow->addWidget(item);
-    PutBefore(item->focusProxy(), m_add->focusProxy());
+    PutIntoTabOrder(*item);
+    m_items.append(item);
     m_area->show();
+}
+
+// After the tags before it, and so before the field, which was made earlier. Only what takes the focus can be
+// named there.
+void UBodyEnrollTags::PutIntoTabOrder(const UBodyEnrollTagItem& item) {
+    m_area->setFocusPolicy(Qt::TabFocus);
+    setTabOrder(m_items.isEmpty() ? m_area : m_items.last()->FocusPlace(), item.FocusPlace());
+    m_area->setFocusPolicy(Qt::NoFocus);
 }
 
 void UBodyEnrollTags::SetAllEditAble(bool editable) {

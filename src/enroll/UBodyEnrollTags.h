@@ -47,6 +47,7 @@ protected:
 private:
     QStringList Texts() const;
     void AddItem(const QString& tag);
+    void PutIntoTabOrder(const UBodyEnrollTagItem& item);
     void SetRefusal(TagRules::Refusal refusal);
     void LanguageChanges();
 

@@ -88,10 +88,7 @@ TEST(SystemContract, AWindowMadeHiddenShowsAndRisesAtItsSize) {
 
 TEST(SystemContract, DrivesAreListedByTheirRootsAndWatched) {
     EXPECT_TRUE(SystemDrives::Native().WatchDrives([] {}));
-    const UsbDetector detector;
-    const QStringList drives = detector.Drives();
-    EXPECT_EQ(QSet<QString>(drives.begin(), drives.end()).size(), drives.size());
-    for (const QString& drive : drives) {
+    for (const QString& drive : UsbDetector().Drives()) {
         EXPECT_TRUE(QDir::isAbsolutePath(drive)) << drive.toStdString();
         EXPECT_FALSE(QDir::home().path().startsWith(drive)) << drive.toStdString() << " is the system's";
         EXPECT_TRUE(UsbDetector::IsOnDrive(QDir(drive).filePath(QStringLiteral("a.json")), drive));
