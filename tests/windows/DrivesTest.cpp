@@ -3,26 +3,22 @@
 
 #include <QCoreApplication>
 #include <QProcess>
-#include <QTemporaryDir>
 #include <QtTest>
 #include <gtest/gtest.h>
 
-#include <windows.h>
-
 namespace {
 
+/// The messenger waits for this process's answer, too.
 void Tell(const char* what, const char* letters) {
-    EXPECT_EQ(
-        QProcess::execute(QCoreApplication::applicationDirPath() + QStringLiteral("/volume_message.exe"),
-                          {QLatin1String(what), QLatin1String(letters)}),
-        0);
+    QProcess messenger;
+    messenger.start(QCoreApplication::applicationDirPath() + QStringLiteral("/volume_message.exe"),
+                    {QLatin1String(what), QLatin1String(letters)});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return messenger.state() == QProcess::NotRunning; }));
+    EXPECT_EQ(messenger.exitCode(), 0);
 }
 
+// C and Z are there in every run, and plugged in as far as the messages say so; W is not there.
 TEST(WindowsDrives, EveryDriveOfAMessageComesAndGoes) {
-    const QTemporaryDir folder;
-    const std::wstring target = QDir::toNativeSeparators(folder.path()).toStdWString();
-    for (const wchar_t* letter : {L"T:", L"U:", L"V:"})
-        ASSERT_TRUE(DefineDosDeviceW(0, letter, target.c_str())) << GetLastError();
     UsbDetector detector;
     std::string told;
     QObject::connect(&detector, &UsbDetector::UsbArrived,
@@ -34,18 +30,14 @@ TEST(WindowsDrives, EveryDriveOfAMessageComesAndGoes) {
         const char* letters;
         std::string told;
     } steps[] = {
-        {"arrive", "TV", "+T+V"}, {"arrive", "T", "-T+T"}, // another stick, faster than a look
-        {"remove", "VU", "-V"},   {"arrive", "WU", "+U"},  // there is no W
-        {"remove", "TU", "-T-U"},
+        {"arrive", "CZ", "+C+Z"}, {"arrive", "C", "-C+C"}, // another one, faster than a look
+        {"remove", "ZW", "-Z"},   {"arrive", "WZ", "+Z"},  {"remove", "CZ", "-C-Z"},
     };
     for (const auto& [what, letters, expected] : steps) {
         told.clear();
         Tell(what, letters);
         EXPECT_TRUE(QTest::qWaitFor([&] { return told == expected; })) << what << letters << ": " << told;
     }
-    EXPECT_FALSE(detector.Drives().contains(QStringLiteral("C:/")));
-    for (const wchar_t* letter : {L"T:", L"U:", L"V:"})
-        DefineDosDeviceW(DDD_REMOVE_DEFINITION, letter, nullptr);
 }
 
 } // namespace
