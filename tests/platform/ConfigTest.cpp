@@ -28,20 +28,26 @@ Loaded Load(const QByteArray& text) {
 TEST(Config, EveryValueIsRead) {
     const Loaded loaded = Load(R"({"sentryDsn": "d", "language": "de", "theme": "dark", "pipeName": "p",
         "agentAccount": "a", "logFolder": "l", "organisation": "Schule Süd", "deviceName": "n", "enrolled": true,
-        "webServer": "s", "webProxy": "y", "webCaFile": "c", "webHttpHosts": "h", "webCallSeconds": 5})");
+        "webServer": "s", "webProxy": "y", "webCaFile": "c", "webHttpHosts": "h", "webCallSeconds": 5,
+        "schoolCode": "c", "adminAccount": "@", "deviceTags": ["t", "u"], "permissionList": ["v"],
+        "userAgreementUrl": "w", "privacyPolicyUrl": "x"})");
     EXPECT_TRUE(loaded.notes.empty());
     const AppConfigData& data = loaded.data;
     EXPECT_EQ(data.sentryDsn + data.language + data.theme + data.pipeName + data.agentAccount +
                   data.logFolder + data.organisation + data.deviceName + data.webServer + data.webProxy +
-                  data.webCaFile + data.webHttpHosts,
-              "ddedarkpalSchule Südnsych");
+                  data.webCaFile + data.webHttpHosts + data.schoolCode + data.adminAccount +
+                  data.deviceTags.at(1) + data.permissionList.at(0) + data.userAgreementUrl +
+                  data.privacyPolicyUrl,
+              "ddedarkpalSchule Südnsychc@uvwx");
     EXPECT_EQ(data.webCallSeconds, 5);
     EXPECT_TRUE(data.enrolled);
 }
 
 TEST(Config, WhatIsWrongIsSaidAndTheRestCounts) {
-    const Loaded loaded = Load(R"({"language": 5, "enrolled": "yes", "theme": "dark", "pipeName": null})");
-    EXPECT_EQ(loaded.notes.size(), 2u);
+    const Loaded loaded = Load(R"({"language": 5, "enrolled": "yes", "theme": "dark", "pipeName": null,
+        "deviceTags": ["a", 1], "permissionList": {}})");
+    EXPECT_EQ(loaded.notes.size(), 4u);
+    EXPECT_TRUE(loaded.data.deviceTags.empty());
     EXPECT_EQ(loaded.data.language, "");
     EXPECT_FALSE(loaded.data.enrolled);
     EXPECT_EQ(loaded.data.theme, "dark");

@@ -3,8 +3,31 @@
 #include "platform/system/SystemSession.h"
 
 #include <QFile>
+#include <algorithm>
 #include <json/json.h>
 #include <memory>
+
+namespace {
+
+template <class Value>
+bool Read(const Json::Value& value, Value& field) {
+    if (!value.is<Value>())
+        return false;
+    field = value.as<Value>();
+    return true;
+}
+
+bool Read(const Json::Value& value, std::vector<std::string>& field) {
+    if (!value.isArray() ||
+        !std::all_of(value.begin(), value.end(), [](const Json::Value& item) { return item.isString(); }))
+        return false;
+    field.clear();
+    for (const Json::Value& item : value)
+        field.push_back(item.asString());
+    return true;
+}
+
+} // namespace
 
 AppConfigData* AppConfigData::Instance() {
     static const std::unique_ptr<AppConfigData> data = [] {
@@ -45,11 +68,8 @@ std::vector<std::string> AppConfigData::Load(const std::string& path) {
 
     std::vector<std::string> notes;
     const auto read = [&](const char* key, auto& field) {
-        using Type = std::decay_t<decltype(field)>;
         const Json::Value& value = root[key];
-        if (value.is<Type>())
-            field = value.as<Type>();
-        else if (!value.isNull())
+        if (!value.isNull() && !Read(value, field))
             notes.push_back("ignores \"" + std::string(key) + "\" in " + path + ": wrong type");
     };
     read("sentryDsn", sentryDsn);
@@ -69,5 +89,11 @@ std::vector<std::string> AppConfigData::Load(const std::string& path) {
     read("webCallSeconds", webCallSeconds);
     read("webTransferSeconds", webTransferSeconds);
     read("enrolled", enrolled);
+    read("schoolCode", schoolCode);
+    read("adminAccount", adminAccount);
+    read("deviceTags", deviceTags);
+    read("permissionList", permissionList);
+    read("userAgreementUrl", userAgreementUrl);
+    read("privacyPolicyUrl", privacyPolicyUrl);
     return notes;
 }

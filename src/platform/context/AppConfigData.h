@@ -37,6 +37,12 @@ public:
     int webCallSeconds = 60;       ///< of a question and its answer
     int webTransferSeconds = 3600; ///< of a file on its way
     bool enrolled = false;         ///< the device was enrolled when the service last wrote the file
+    std::string schoolCode;        ///< of the organisation that the device is enrolled with
+    std::string adminAccount;      ///< the administrator's e-mail address
+    std::vector<std::string> deviceTags;
+    std::vector<std::string> permissionList; ///< what the organisation was granted
+    std::string userAgreementUrl;            ///< web pages; empty: there is no link
+    std::string privacyPolicyUrl;
 
     std::vector<std::string> loadNotes; ///< what Instance's Load returned
 };

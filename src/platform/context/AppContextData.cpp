@@ -5,15 +5,19 @@ AppContextData* AppContextData::Instance() {
     return &data;
 }
 
-void AppContextData::Reset() {
-    SetEnrolled(false);
-    SetLinked(false);
-    SetContextText({});
-    SetUnlockPassword({});
-    SetUnbindPassword({});
+void AppContextData::ForgetEnrolment() {
     SetSchoolCode({});
     SetAdminAccount({});
     SetDeviceName({});
     SetDeviceTags({});
     SetPermissionList({});
+    SetEnrolled(false);
+}
+
+void AppContextData::Reset() {
+    ForgetEnrolment();
+    SetLinked(false);
+    SetContextText({});
+    SetUnlockPassword({});
+    SetUnbindPassword({});
 }

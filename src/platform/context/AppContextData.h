@@ -63,6 +63,9 @@ public:
         Set(Field::PermissionList, m_permissionList, list);
     }
 
+    /// Forgets what an enrolment brought: after it the device belongs to nobody.
+    void ForgetEnrolment();
+
     /// Forgets everything.
     void Reset();
 

@@ -24,7 +24,11 @@ void AppHelper::LoadConfig() {
         LOG(WARNING) << "AppHelper::LoadConfig " << LogText(note);
     AppContextData& context = *AppContextData::Instance();
     context.SetEnrolled(config.enrolled);
+    context.SetSchoolCode(config.schoolCode);
+    context.SetAdminAccount(config.adminAccount);
     context.SetDeviceName(config.deviceName);
+    context.SetDeviceTags(config.deviceTags);
+    context.SetPermissionList(config.permissionList);
     const std::string pipe = config.pipeName.empty() ? Product::ServicePipe : config.pipeName;
     PipeClientService::Instance()->SetServer(
         {QString::fromStdString(pipe), QString::fromStdString(config.agentAccount)});
