@@ -20,6 +20,9 @@ class AgentService : public QObject {
 public:
     explicit AgentService(AgentServer& server, const Clock& clock = Clock::System());
 
+    /// The link's status before anybody is connected; not enrolled at first.
+    void BeginWith(IotStatus status) { m_status = static_cast<int>(status); }
+
     /// Each is told to the front ends that are connected now and to every later one.
     void SetStatus(int status);
     void SetUnlockPassword(const std::string& digits);
@@ -31,6 +34,8 @@ public:
     void SetAnswer(PipeKey question, PipeKey key, const std::string& body) {
         m_answers[question] = {key, body};
     }
+
+    bool Answers(PipeKey question) const { return m_answers.count(question) > 0; }
 
     /// Locks the screens, until a time of day as "HH:mm" or, when it is none, until they are unlocked. The
     /// lock is in force until its end, ReleaseLock or a front end's ScreenUnlock; one whose end has passed
@@ -58,7 +63,7 @@ private:
 
     AgentServer& m_server;
     const Clock& m_clock;
-    int m_status = static_cast<int>(IotStatus::Connected);
+    int m_status = static_cast<int>(IotStatus::NotEnrolled);
     std::string m_unlockHash;
     std::string m_unbindHash;
     std::optional<ScreenLock> m_lock;

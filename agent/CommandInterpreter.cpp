@@ -8,7 +8,9 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <iterator>
 #include <regex>
+#include <sstream>
 #include <stdexcept>
 
 namespace {
@@ -139,6 +141,32 @@ WebFault Fault(const std::string& text) {
     return fault;
 }
 
+std::vector<std::string> Words(const std::string& text) {
+    std::istringstream stream(text);
+    return {std::istream_iterator<std::string>(stream), {}};
+}
+
+/// Tags, with commas between them.
+std::vector<std::string> Tags(const std::string& text) {
+    std::vector<std::string> tags;
+    std::istringstream stream(text);
+    for (std::string tag; std::getline(stream, tag, ',');)
+        tags.push_back(Trimmed(tag));
+    return tags;
+}
+
+/// A code, an account and what stands behind them.
+struct Whose {
+    std::string code, account, rest;
+};
+Whose WhoseOf(const std::string& text) {
+    const auto [code, behind] = SplitFirst(text);
+    const auto [account, rest] = SplitFirst(behind);
+    if (account.empty())
+        Refuse("wants a code and an account");
+    return {code, account, rest};
+}
+
 Step Act(std::function<void()> act) {
     Step step;
     step.act = std::move(act);
@@ -154,10 +182,11 @@ Step Expect(double seconds, std::function<bool()> isMet) {
 
 } // namespace
 
-CommandInterpreter::CommandInterpreter(AgentServer& server, AgentService& service, EventLog& log,
-                                       WebService* web)
-    : m_server(server), m_service(service), m_log(log), m_web(web), m_player(log) {
+CommandInterpreter::CommandInterpreter(AgentServer& server, AgentService& service, AgentEnrolment& enrolment,
+                                       EventLog& log, WebService* web)
+    : m_server(server), m_service(service), m_enrolment(enrolment), m_log(log), m_web(web), m_player(log) {
     AddSendingCommands();
+    AddEnrolmentCommands();
     AddExpectations();
     AddWebCommands();
     AddOtherCommands();
@@ -252,6 +281,55 @@ void CommandInterpreter::AddSendingCommands() {
          {"raw", "HEX", "send bytes as they stand, such as half a frame",
           [this](const std::string& arguments) {
               return Act([this, bytes = Bytes(arguments)] { m_server.SendBytes(bytes); });
+          }}});
+}
+
+void CommandInterpreter::AddEnrolmentCommands() {
+    using Mode = AgentEnrolment::Mode;
+    m_commands.insert(
+        m_commands.end(),
+        {{"accept", "CODE ACCOUNT [PERMISSION...]",
+          "let requests to enrol with this code and account succeed",
+          [this](const std::string& arguments) {
+              return Act([this, whose = WhoseOf(arguments)] {
+                  m_enrolment.Accept(whose.code, whose.account, Words(whose.rest));
+              });
+          }},
+         {"binding", "normal|silent|fail CODE", "how requests to enrol and unenrol are answered from now on",
+          [this](const std::string& arguments) {
+              const auto [how, code] = SplitFirst(arguments);
+              const bool fails = how == "fail";
+              if ((!fails && how != "normal" && how != "silent") || fails == code.empty())
+                  Refuse("wants normal, silent or fail CODE");
+              const Mode mode = fails ? Mode::Fail : how == "silent" ? Mode::Silent : Mode::Normal;
+              return Act([this, mode, failure = code] { m_enrolment.SetMode(mode, failure); });
+          }},
+         {"binding-delay", "SECONDS", "the time between such a request and its answer",
+          [this](const std::string& arguments) {
+              return Act([this, seconds = Seconds(arguments, 0)] { m_enrolment.SetDelay(seconds); });
+          }},
+         {"auto-enrol", "CODE ACCOUNT [NAME]", "enrol the device by itself (9 AutoEnroll)",
+          [this](const std::string& arguments) {
+              return Act([this, whose = WhoseOf(arguments)] {
+                  m_enrolment.Enrol({whose.code, whose.account, whose.rest, {}, {}});
+              });
+          }},
+         {"unenrol", "", "unenrol the device by itself (4 DeviceUnenrolled)",
+          [this](const std::string& arguments) {
+              RefuseArguments(arguments);
+              return Act([this] { m_enrolment.Unenrol(); });
+          }},
+         {"device-name", "NAME", "rename the device (5 DeviceNameChanged)",
+          [this](const std::string& arguments) {
+              return Act([this, arguments] { m_enrolment.SetName(arguments); });
+          }},
+         {"device-tags", "[TAG, TAG...]", "set the device's tags (6 DeviceTagsChanged)",
+          [this](const std::string& arguments) {
+              return Act([this, tags = Tags(arguments)] { m_enrolment.SetTags(tags); });
+          }},
+         {"account", "ACCOUNT", "set the administrator's account (7 AdminAccountChanged)",
+          [this](const std::string& arguments) {
+              return Act([this, arguments] { m_enrolment.SetAccount(arguments); });
           }}});
 }
 

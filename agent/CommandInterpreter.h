@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AgentEnrolment.h"
 #include "AgentService.h"
 #include "StepPlayer.h"
 #include "WebService.h"
@@ -22,7 +23,8 @@ class CommandInterpreter : public QObject {
 
 public:
     /// `web` may be null: then its commands are refused.
-    CommandInterpreter(AgentServer& server, AgentService& service, EventLog& log, WebService* web = nullptr);
+    CommandInterpreter(AgentServer& server, AgentService& service, AgentEnrolment& enrolment, EventLog& log,
+                       WebService* web = nullptr);
 
     /// Takes one line of the console. A line that is not understood is told and does nothing.
     void Add(const std::string& line);
@@ -55,6 +57,7 @@ private:
     using Message = std::pair<PipeKey, std::string>;
 
     void AddSendingCommands();
+    void AddEnrolmentCommands();
     void AddExpectations();
     void AddWebCommands();
     void AddOtherCommands();
@@ -69,6 +72,7 @@ private:
 
     AgentServer& m_server;
     AgentService& m_service;
+    AgentEnrolment& m_enrolment;
     EventLog& m_log;
     WebService* m_web;
     StepPlayer m_player;

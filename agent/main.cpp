@@ -89,7 +89,8 @@ int Run(QCoreApplication& application) {
             return isNumber ? NotServing : BadUsage;
         }
     }
-    CommandInterpreter interpreter(server, service, log, webService ? &*webService : nullptr);
+    AgentEnrolment enrolment(server, service, log);
+    CommandInterpreter interpreter(server, service, enrolment, log, webService ? &*webService : nullptr);
 
     const bool hasScenario = options.isSet(scenario);
     if (hasScenario) {

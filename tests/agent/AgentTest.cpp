@@ -1,6 +1,7 @@
 // The stand-in agent service as its users meet it: commands in, lines out, frames on a real pipe.
 #include "CommandInterpreter.h"
 #include "Supervisor.h"
+#include "platform/context/AppConfigData.h"
 #include "platform/link/RyxPackage.h"
 #include "platform/security/PasswordHelper.h"
 
@@ -64,7 +65,8 @@ struct Agent : testing::Test {
     AgentServer server{log};
     ManualClock clock;
     AgentService service{server, clock};
-    CommandInterpreter interpreter{server, service, log};
+    AgentEnrolment enrolment{server, service, log};
+    CommandInterpreter interpreter{server, service, enrolment, log};
 };
 
 TEST_F(Agent, SendsToEveryClientAndAnswersTheOneThatAsks) {
@@ -138,6 +140,65 @@ TEST_F(Agent, SendsTheLockThatIsInForceToWhoeverConnects) {
     EXPECT_TRUE(Tells("received 35") && greets(false));
 }
 
+TEST_F(Agent, EnrolsTellsWhomTheDeviceBelongsToAndKnowsItAfterAStart) {
+    const QString path = qEnvironmentVariable("VELMORA_RYX_CONFIG");
+    std::ofstream(path.toStdString()) << R"({"theme": "dark", "deviceName": "old"})";
+    const auto request = [](bool binding, const char* code, const char* account) {
+        return std::string("{\"binding\": ") + (binding ? "true" : "false") + ", \"code\": \"" + code +
+               "\", \"email\": \"" + account + "\", \"deviceName\": \"Hall\", \"tags\": [\"x\", \"y\"]}";
+    };
+    const auto kept = [&] {
+        AppConfigData data;
+        data.Load(path.toStdString());
+        EXPECT_EQ(data.theme, "dark");
+        return std::to_string(data.enrolled) + data.schoolCode + data.adminAccount + data.deviceName +
+               (data.deviceTags.empty() ? "" : data.deviceTags.back());
+    };
+    Client client(pipe);
+    EXPECT_TRUE(client.Receives(10, "") && client.Receives(11, "") && client.Receives(2, "0"));
+    const struct {
+        const char* command;
+        std::string request;
+        const char* result; ///< what it contains
+        int status;         ///< that follows; -1: none does
+        const char* kept;
+    } cases[] = {
+        {"", request(true, "zzz", "admin@lakeside.example"), "r_802001", -1, "0old"},
+        {"", request(true, "a1b2c3", "a@b.c"), "r_802002", -1, "0old"},
+        {"binding fail 170002", request(true, "a1b2c3", "admin@lakeside.example"), "170002", -1, "0old"},
+        {"binding normal\naccept zzz a@b.c screen", request(true, "zzz", "a@b.c"), "screen", 2,
+         "1zzza@b.cHally"},
+        {"", request(false, "", ""), "r_802003", -1, "1zzza@b.cHally"},
+        {"binding-delay 0.01", request(false, "zzz", "a@b.c"), "\"result\" : true", 0, "0"},
+        {"", "{\"code\": []}", "r_802003", -1, "0"},
+    };
+    for (const auto& row : cases) {
+        ASSERT_TRUE(Play(row.command));
+        client.Send(3, row.request);
+        EXPECT_TRUE(client.Receives(3, row.result)) << row.request;
+        EXPECT_TRUE(row.status < 0 || client.Receives(2, std::to_string(row.status)));
+        EXPECT_EQ(kept(), row.kept) << row.request;
+    }
+    ASSERT_TRUE(Play(
+        "auto-enrol c d@e.f Room\ndevice-name Hall 2\ndevice-tags a b, c\naccount g@h.i\nbinding silent"));
+    EXPECT_EQ(kept(), "1cg@h.iHall 2c");
+    for (const auto& [key, part] : {std::pair{9, "d@e.f"}, {2, "2"}, {5, "Hall 2"}, {6, "a b"}, {7, "g@h.i"}})
+        EXPECT_TRUE(client.Receives(key, part)) << key;
+    client.Send(3, request(false, "c", "g@h.i"));
+    ASSERT_TRUE(Tells("received 3 Binding"));
+    AgentServer secondServer(log);
+    AgentService secondService(secondServer, clock);
+    const AgentEnrolment second(secondServer, secondService, log);
+    ASSERT_EQ(secondServer.Listen(pipe + QStringLiteral("-2")), QString());
+    Client later(pipe + QStringLiteral("-2"));
+    for (const auto& [key, part] :
+         {std::pair{10, ""}, {11, ""}, {2, "2"}, {5, "Hall 2"}, {6, "a b"}, {7, "g@h.i"}})
+        EXPECT_TRUE(later.Receives(key, part)) << key;
+    ASSERT_TRUE(Play("unenrol"));
+    EXPECT_TRUE(client.Receives(4, "true") && client.Receives(2, "0")) << "and no answer before";
+    EXPECT_EQ(kept(), "0");
+}
+
 TEST_F(Agent, StartsTheFrontEndAgainAndWaitsWhenItKeepsEnding) {
     using std::chrono::milliseconds;
     RestartBackoff backoff;
@@ -167,11 +228,13 @@ TEST_F(Agent, StartsTheFrontEndAgainAndWaitsWhenItKeepsEnding) {
 
 TEST_F(Agent, TellsLinesThatItDoesNotUnderstandAndDoesNothing) {
     QFile(folder.filePath(QStringLiteral("large"))).resize(RyxPackage::MaxBodySize + 1);
-    std::istringstream bad("frobnicate|lock 24:00|lock 9:30|lock 12:30 x|unlock now|status|status up|bodies|"
-                           "password 12345|password 12345a|unbind-password|raw|raw 0|raw zz|pause x|absent|"
-                           "send|send Nothing x|send 99999999999|send 74 @|send 74 @none|send 74 @large|"
-                           "on|on 3|on 3 lock|on 3 send|on x send 4|on 3 send 4 @none|quit now|"
-                           "wait|wait 35 soon|wait 35 -1|wait 35 nan");
+    std::istringstream bad(
+        "frobnicate|lock 24:00|lock 9:30|lock 12:30 x|unlock now|status|status up|bodies|"
+        "password 12345|password 12345a|unbind-password|raw|raw 0|raw zz|pause x|absent|"
+        "send|send Nothing x|send 99999999999|send 74 @|send 74 @none|send 74 @large|"
+        "on|on 3|on 3 lock|on 3 send|on x send 4|on 3 send 4 @none|quit now|"
+        "accept a1b2c3|binding|binding fail|binding silent x|binding-delay soon|unenrol now|"
+        "wait|wait 35 soon|wait 35 -1|wait 35 nan");
     for (std::string line; std::getline(bad, line, '|'); lines.str({})) {
         interpreter.Add(line);
         EXPECT_TRUE(Told("error: ")) << line;

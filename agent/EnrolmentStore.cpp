@@ -1,0 +1,55 @@
+#include "EnrolmentStore.h"
+
+#include "platform/context/AppConfigData.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSaveFile>
+
+namespace {
+
+QJsonArray List(const std::vector<std::string>& texts) {
+    QJsonArray list;
+    for (const std::string& text : texts)
+        list.append(QString::fromStdString(text));
+    return list;
+}
+
+} // namespace
+
+std::optional<Enrolment> EnrolmentStore::Read() {
+    AppConfigData data;
+    data.Load(AppConfigData::DefaultPath());
+    if (!data.enrolled)
+        return std::nullopt;
+    return Enrolment{data.schoolCode, data.adminAccount, data.deviceName, data.deviceTags,
+                     data.permissionList};
+}
+
+QString EnrolmentStore::Write(const std::optional<Enrolment>& enrolment) {
+    const QString path = QString::fromStdString(AppConfigData::DefaultPath());
+    QFile old(path);
+    QJsonObject keys;
+    if (old.open(QIODevice::ReadOnly))
+        keys = QJsonDocument::fromJson(old.readAll()).object();
+    old.close();
+    keys[QLatin1String("enrolled")] = enrolment.has_value();
+    for (const char* key : {"schoolCode", "adminAccount", "deviceName", "deviceTags", "permissionList"})
+        keys.remove(QLatin1String(key));
+    if (enrolment) {
+        keys[QLatin1String("schoolCode")] = QString::fromStdString(enrolment->code);
+        keys[QLatin1String("adminAccount")] = QString::fromStdString(enrolment->account);
+        keys[QLatin1String("deviceName")] = QString::fromStdString(enrolment->name);
+        keys[QLatin1String("deviceTags")] = List(enrolment->tags);
+        keys[QLatin1String("permissionList")] = List(enrolment->permissions);
+    }
+    QDir().mkpath(QFileInfo(path).path());
+    QSaveFile file(path);
+    const bool written =
+        file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(keys).toJson()) >= 0 && file.commit();
+    return written ? QString() : path + QStringLiteral(": ") + file.errorString();
+}
