@@ -5,6 +5,7 @@
 #include "app/UTrayIcon.h"
 #include "entity/FileEntities.h"
 #include "platform/ProductConstants.h"
+#include "platform/application/WindowStack.h"
 #include "platform/context/AppContextData.h"
 #include "platform/context/Theme.h"
 #include "platform/link/ControllerRyx.h"
@@ -80,8 +81,7 @@ void MainWindow::InitConnect() {
         Open();
     });
     connect(m_exit, &UExitButton::Exited, this, &QWidget::close);
-    connect(m_ui->launcher, &ULauncher::EnrolRequested, this,
-            [this] { m_navigator->GoTo(PageIndex(PageId::Enrolment)); });
+    connect(m_ui->launcher, &ULauncher::EnrolRequested, this, &MainWindow::OpenEnrolmentPage);
     connect(m_ui->feedbackPage, &UFeedback::BackRequested, m_navigator, &Navigator::GoBack);
     connect(this, &RyxWindow::BindingBegan, this, [this] { m_ui->header->SetBusy(true); });
     connect(this, &RyxWindow::BindingEnded, this, [this] { m_ui->header->SetBusy(false); });
@@ -135,6 +135,12 @@ void MainWindow::Notify(NoticeKind kind, const QString& text) {
 
 void MainWindow::OpenNetworkPage() {
     m_navigator->GoTo(PageIndex(PageId::Network));
+}
+
+void MainWindow::OpenEnrolmentPage() {
+    m_navigator->GoTo(PageIndex(PageId::Enrolment));
+    if (!WindowStack::Instance()->Highest())
+        Open();
 }
 
 void MainWindow::OpenFeedbackPage() {

@@ -27,6 +27,7 @@ public:
 
     void Notify(NoticeKind kind, const QString& text) override;
     void OpenNetworkPage() override;
+    void OpenEnrolmentPage() override;
 
     /// Brings the feedback page to the front; its back button leads to where the user was.
     void OpenFeedbackPage();

@@ -1,10 +1,12 @@
 #include "app/Notifier.h"
 
 #include "platform/application/WindowStack.h"
+#include "platform/security/LogText.h"
 #include "widgets/UToast.h"
 
 #include <QSystemTrayIcon>
 #include <QWidget>
+#include <glog/logging.h>
 #include <utility>
 
 namespace {
@@ -35,6 +37,7 @@ void Notifier::Notify(NoticeKind kind, const QString& text) {
     }
     // A toast in a window that nobody sees would be gone before it is read.
     if (!m_window.isVisible() || m_window.isMinimized()) {
+        LOG(INFO) << "Notifier::Notify in the tray: " << LogText(text);
         m_tray.showMessage(m_window.windowTitle(), text, m_window.windowIcon());
         return;
     }

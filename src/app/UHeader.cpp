@@ -67,7 +67,7 @@ UHeader::UHeader(QWidget* parent)
     ReserveEnd(0);
     connect(AppContextData::Instance(), &AppContextData::Changed, this, &UHeader::OnContextChanged);
     ShowLook();
-    ShowDevice();
+    UpdateDeviceInfo();
 }
 
 void UHeader::OnContextChanged(AppContextData::Field field) {
@@ -78,7 +78,7 @@ void UHeader::OnContextChanged(AppContextData::Field field) {
     case AppContextData::Field::Enrolled:
     case AppContextData::Field::SchoolCode:
     case AppContextData::Field::DeviceName:
-        ShowDevice();
+        UpdateDeviceInfo();
         break;
     default:
         break;
@@ -104,7 +104,7 @@ void UHeader::ReserveEnd(int width) {
 void UHeader::changeEvent(QEvent* event) {
     if (event->type() == QEvent::LanguageChange) {
         ShowLook();
-        ShowDevice();
+        UpdateDeviceInfo();
     }
     QWidget::changeEvent(event);
 }
@@ -120,7 +120,7 @@ void UHeader::ShowLook() {
     m_chip->setAccessibleName(tr("header_status_name").arg(look.words));
 }
 
-void UHeader::ShowDevice() {
+void UHeader::UpdateDeviceInfo() {
     m_deviceName->SetText(QString::fromStdString(MachineHelper::GetDeviceName()));
     const QString organisation = AppContextData::Instance()->Enrolled()
                                      ? QString::fromStdString(MachineHelper::GetOrganisationName())

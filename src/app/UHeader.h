@@ -34,7 +34,7 @@ protected:
 private:
     void OnContextChanged(AppContextData::Field field);
     void ShowLook();
-    void ShowDevice();
+    void UpdateDeviceInfo();
 
     IotStatus m_status = IotStatus::NotEnrolled;
     StatusLook m_look; // on screen

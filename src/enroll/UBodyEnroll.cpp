@@ -1,35 +1,447 @@
 #include "enroll/UBodyEnroll.h"
 
+#include "enroll/EnrollAgreement.h"
+#include "enroll/EnrollForm.h"
+#include "enroll/EnrollNameField.h"
+#include "enroll/EnrollStateMachine.h"
+#include "enroll/EnrollmentFile.h"
+#include "enroll/UBodyEnrollModal.h"
+#include "enroll/UBodyEnrollPermissionsModal.h"
+#include "enroll/UBodyEnrollTags.h"
+#include "enroll/UBodyEnrollTip.h"
+#include "enroll/UBodyEnrollUsbAlert.h"
+#include "enroll/UEnrollToast.h"
+#include "lock/UBodyEnrollUnModal.h"
+#include "platform/application/RyxWindow.h"
+#include "platform/application/UsbDetector.h"
 #include "platform/context/AppContextData.h"
-#include "platform/context/Text.h"
-#include "widgets/CommonFacts.h"
+#include "platform/link/ControllerBase.h"
+#include "platform/link/PipeClientService.h"
+#include "platform/security/LogText.h"
 
-#include <QStringList>
+#include <QCheckBox>
+#include <QFutureWatcher>
+#include <QShowEvent>
+#include <QtConcurrentRun>
+#include <glog/logging.h>
 
 namespace {
 
-QString Tags() {
-    QStringList tags;
-    for (const std::string& tag : AppContextData::Instance()->DeviceTags())
-        tags.append(QString::fromStdString(tag));
-    return CommonFacts::OrNone(tags.join(QStringLiteral(", ")));
+constexpr char NetError[] = "net_error"; // the service was not reached
+
+/// The result in `body`. One that cannot be read counts as `unreadable` does: left to whoever catches
+/// exceptions, the wait for it would never end.
+DeviceBindingResult ReadResult(const std::string& body, bool unreadable) {
+    DeviceBindingResult result;
+    result.result = unreadable;
+    try {
+        result.ReadFromString(body);
+    } catch (const std::exception& error) {
+        LOG(WARNING) << "UBodyEnroll::ReadResult cannot read a result: "
+                     << LogText(std::string(error.what()));
+        result = {};
+        result.result = unreadable;
+    }
+    return result;
 }
 
 } // namespace
 
-UBodyEnroll::UBodyEnroll(QWidget* parent)
-    : UFactsPage({"enrolment", QT_TRANSLATE_NOOP("UBodyEnroll", "enrolment_title"),
-                  QT_TRANSLATE_NOOP("UBodyEnroll", "enrolment_sentence"),
-                  QT_TRANSLATE_NOOP("UBodyEnroll", "page_note_state_only"),
-                  [](const QWidget* page) {
-                      const AppContextData& context = *AppContextData::Instance();
-                      return QVector<PageFact>{
-                          CommonFacts::DeviceName(),
-                          CommonFacts::LinkState(page),
-                          CommonFacts::Organisation(),
-                          {QStringLiteral("account"), tr("fact_administrator"),
-                           CommonFacts::OrNone(context.AdminAccount())},
-                          {QStringLiteral("tag"), tr("fact_tags"), Tags()},
-                      };
-                  }},
-                 parent) {}
+UBodyEnroll::UBodyEnroll(QWidget* parent, const SystemDrives& drives)
+    : EnrollView(parent),
+      m_detector(new UsbDetector(drives, this)),
+      m_machine(new EnrollStateMachine(*this, *m_detector, this)) {
+    InitConnect();
+}
+
+void UBodyEnroll::InitConnect() {
+    connect(this, &EnrollView::ButtonClicked, this, &UBodyEnroll::OnClickedBindButton);
+    connect(PipeClientService::Instance(), &PipeClientService::ConnectChanged, this,
+            &UBodyEnroll::OnConnectChanged);
+    installEventFilter(this);
+}
+
+RyxWindow& UBodyEnroll::Window() const {
+    RyxWindow* window = RyxWindow::Of(this);
+    CHECK(window) << "UBodyEnroll stands in no main window";
+    return *window;
+}
+
+void UBodyEnroll::showEvent(QShowEvent* event) {
+    EnrollView::showEvent(event);
+    if (event->spontaneous() || std::exchange(m_firstShowDone, true))
+        return;
+    const bool enrolled = AppContextData::Instance()->Enrolled();
+    if (enrolled)
+        m_machine->SetState(EnrollStates::DisConnected());
+    m_machine->Enter();
+    // What the service has said before anybody looked still holds.
+    if (const IotStatus status = Window().KnownLinkStatus(); enrolled && status != IotStatus::NotEnrolled)
+        m_machine->FollowStatus(status);
+    if (m_usbFile.isEmpty())
+        FindEnrollJson(m_detector->Drives(), !enrolled);
+}
+
+void UBodyEnroll::changeEvent(QEvent* event) {
+    EnrollView::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange && m_firstShowDone)
+        m_machine->Enter();
+}
+
+bool UBodyEnroll::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == this && event->type() == QEvent::Hide)
+        m_machine->PageHidden();
+    return EnrollView::eventFilter(watched, event);
+}
+
+void UBodyEnroll::OnClickedBindButton() {
+    if (m_wait == Wait::ForNothing)
+        Press(Button());
+}
+
+void UBodyEnroll::Press(ButtonState state) {
+    switch (state) {
+    case ButtonState::Bind:
+        m_machine->BindPressed();
+        break;
+    case ButtonState::Connect:
+        m_machine->ReconnectPressed();
+        break;
+    case ButtonState::Unbind:
+        m_machine->UnbindPressed();
+        break;
+    }
+}
+
+bool UBodyEnroll::CheckIsAgreePrivacyPolicy() {
+    if (Form().Agreement().IsAgreed())
+        return true;
+    ScrollToEnd();
+    if (!m_tip)
+        m_tip = new UBodyEnrollTip(this);
+    m_tip->ShowAt(&Form().Agreement().Box());
+    return false;
+}
+
+bool UBodyEnroll::InvokeBinding() {
+    SetErrorAreaVisible(false);
+    if (EnrollField* wrong = Form().CheckInputIsRight()) {
+        ScrollTo(*wrong);
+        wrong->FocusAnswer();
+        return false;
+    }
+    if (!CheckIsAgreePrivacyPolicy())
+        return false;
+    m_request = {};
+    m_request.code = Form().Code().Text().toStdString();
+    m_request.email = Form().Account().Text().toStdString();
+    m_request.binding = true;
+    m_request.deviceName = Form().Name().Name().toStdString();
+    m_request.tags = Form().Tags().Tags();
+    BeginWaiting(Wait::ForBinding);
+    Window().BeginBinding(RyxWindow::BindAction::Bind);
+    ControllerBase* controller = Window().MainController();
+    if (controller && controller->Send(PipeKey::Binding, m_request.WriteToString()))
+        return true;
+    EndWaiting();
+    CheckDeviceBindingResult(NetError, true);
+    return false;
+}
+
+bool UBodyEnroll::InvokeEnrollComplete(const std::string& body) {
+    const DeviceBindingResult result = ReadResult(body, false);
+    EndWaiting();
+    if (!result.result) {
+        CheckDeviceBindingResult(result.code, true);
+        return false;
+    }
+    TakeOver(m_request);
+    AppContextData::Instance()->SetPermissionList(result.permissionList);
+    if (!result.permissionList.empty()) {
+        if (!m_permissions)
+            m_permissions = new UBodyEnrollPermissionsModal(this);
+        m_permissions->SetPermissions(result.permissionList);
+        if (IsInView())
+            m_permissions->show();
+        m_permissions->EnrollSuccessfullyToast();
+    }
+    return true;
+}
+
+bool UBodyEnroll::InvokeUnEnrollComplete(const std::string& body, bool requested) {
+    const DeviceBindingResult result = ReadResult(body, !requested);
+    if (!result.result) {
+        CheckDeviceBindingResult(result.code, false);
+        UEnrollToast::Of(this)->Tell(NoticeKind::Error, tr("Unable to UnEnroll."));
+        EndWaiting();
+        // A notice that says that the device is still enrolled changes the state all the same.
+        const auto goBack = [this] {
+            if (m_machine->IsIn(EnrollStates::NoEnrollYet()) && AppContextData::Instance()->Enrolled())
+                m_machine->SetState(EnrollStates::Connected());
+        };
+        if (!requested)
+            QMetaObject::invokeMethod(this, goBack, Qt::QueuedConnection);
+        return false;
+    }
+    AppContextData::Instance()->ForgetEnrolment();
+    Form().Name().SetText({});
+    InvokeNoBindUI(); // nobody enters after a notice
+    return true;
+}
+
+bool UBodyEnroll::InvokeAutoEnroll(const std::string& body) {
+    AutoEnrollParams params;
+    params.ReadFromString(body);
+    if (params.code.empty() || params.adminAccount.empty()) {
+        CheckDeviceBindingResult(params.code, true);
+        return false;
+    }
+    DeviceBindingParam enrolment;
+    enrolment.code = params.code;
+    enrolment.email = params.adminAccount;
+    enrolment.deviceName = params.name;
+    if (!params.tag.empty())
+        enrolment.tags = {params.tag};
+    TakeOver(enrolment);
+    return true;
+}
+
+void UBodyEnroll::CheckDeviceBindingResult(const std::string& code, bool fromBind) {
+    UEnrollToast& toast = *UEnrollToast::Of(this);
+    if (fromBind) {
+        SetErrorAreaVisible(true);
+        if (code == "r_802001" || code == "r_802002" || code == "r_802003") {
+            Form().Code().MarkError(true);
+            Form().Account().MarkError(true);
+            toast.Tell(NoticeKind::Error, tr("bind_result_no_match_error_tip"));
+        } else {
+            toast.Tell(NoticeKind::Error, tr("Unable to bind."));
+        }
+    }
+    if (code == "error")
+        toast.Tell(NoticeKind::Error, tr("error ."));
+    else if (code == NetError)
+        ShowFailure(fromBind ? ButtonState::Bind : ButtonState::Unbind, QT_TR_NOOP("dialog_bind_fail_text"),
+                    QT_TR_NOOP("dialog_disconnect_content_text"),
+                    QT_TR_NOOP("view_register_windows_title_bind_state"));
+    else if (code == "170002" || code == "170004")
+        toast.Tell(NoticeKind::Error, tr("bind_result_no_net_error_tip"));
+}
+
+// What the service has sent meanwhile says nothing of the values: those of the request count.
+void UBodyEnroll::TakeOver(const DeviceBindingParam& enrolment) {
+    m_firstShowDone = true;
+    AppContextData& context = *AppContextData::Instance();
+    context.SetSchoolCode(enrolment.code);
+    context.SetAdminAccount(enrolment.email);
+    context.SetDeviceName(enrolment.deviceName);
+    context.SetDeviceTags(enrolment.tags);
+    context.SetEnrolled(true);
+    Form().Name().SetText(QString::fromStdString(enrolment.deviceName));
+}
+
+void UBodyEnroll::BeginWaiting(Wait wait) {
+    m_wait = wait;
+    SetLoading(true);
+}
+
+void UBodyEnroll::EndWaiting() {
+    m_wait = Wait::ForNothing;
+    SetLoading(false);
+    Window().EndBinding();
+}
+
+void UBodyEnroll::OnConnectChanged(bool connected) {
+    if (connected || m_wait == Wait::ForNothing)
+        return;
+    DeviceBindingResult failure;
+    failure.code = NetError;
+    m_machine->OnPipeDataReceived(PipeKey::Binding, failure.WriteToString());
+}
+
+void UBodyEnroll::OnUnBindingDevice() {
+    m_machine->SetState(EnrollStates::UnEnrolling());
+    BeginWaiting(Wait::ForUnbinding);
+    OnConnectChanged(PipeClientService::Instance()->IsConnected());
+}
+
+void UBodyEnroll::SetEnrollUI() {
+    // The status came before the result, which is then no longer waited for.
+    if (m_wait == Wait::ForBinding)
+        TakeOver(m_request);
+    EndWaiting();
+    const AppContextData& context = *AppContextData::Instance();
+    Form().Code().SetText(QString::fromStdString(context.SchoolCode()));
+    Form().Account().SetText(QString::fromStdString(context.AdminAccount()));
+    Form().Name().SetText(QString::fromStdString(context.DeviceName()));
+    GetConfigTags();
+    Form().ClearErrors();
+    SetErrorAreaVisible(false);
+    SetReadOnly(true);
+}
+
+void UBodyEnroll::GetConfigTags() {
+    Form().SetTags(AppContextData::Instance()->DeviceTags());
+}
+
+void UBodyEnroll::InvokeBindingUI() {
+    SetEnrollUI();
+    SetButton(ButtonState::Unbind);
+    ShowEnrolled(true);
+    HideDialogs(ButtonState::Unbind);
+}
+
+void UBodyEnroll::InvokeDisConnectedUI() {
+    SetEnrollUI();
+    SetButton(ButtonState::Connect);
+    ShowEnrolled(false);
+    HideDialogs(ButtonState::Connect);
+}
+
+void UBodyEnroll::InvokeNoBindUI() {
+    EndWaiting();
+    Form().Tags().TagsListDelete();
+    Form().ClearErrors();
+    SetErrorAreaVisible(false);
+    SetReadOnly(false);
+    SetButton(ButtonState::Bind);
+    ShowEnrolled(false);
+    HideDialogs(ButtonState::Bind);
+}
+
+void UBodyEnroll::InvokeWindowHided() {
+    SetReadOnly(false);
+    Form().ClearErrors();
+    SetErrorAreaVisible(false);
+}
+
+void UBodyEnroll::InvokeConnected() {
+    if (!m_unModal) {
+        m_unModal = new UBodyEnrollUnModal(this);
+        connect(m_unModal, &UBodyEnrollUnModal::UnEnrollingState, this, &UBodyEnroll::OnUnBindingDevice);
+    }
+    m_unModal->show();
+}
+
+void UBodyEnroll::InvokeDisConnected() {
+    ShowFailure(ButtonState::Connect, QT_TR_NOOP("bind_result_disconnect_error_tip"),
+                QT_TR_NOOP("dialog_connect_fail_content_text"),
+                QT_TR_NOOP("view_register_windows_button_connect"));
+}
+
+void UBodyEnroll::ShowFailure(ButtonState retry, const char* title, const char* content, const char* cancel) {
+    if (!IsInView())
+        return; // it goes with the page
+    if (!m_modal) {
+        m_modal = new UBodyEnrollModal(this);
+        connect(m_modal, &UBodyEnrollModal::OnOk, this, [this] { Press(m_retry); });
+    }
+    m_retry = retry;
+    m_modal->setTitle(title);
+    m_modal->setContent(content);
+    m_modal->setOkText(QT_TR_NOOP("dialog_detect_text"));
+    m_modal->setCancelText(cancel);
+    m_modal->show();
+}
+
+void UBodyEnroll::HideDialogs(ButtonState button) {
+    const bool connecting = m_machine->IsIn(EnrollStates::Connecting());
+    if (m_modal && (m_retry != button || connecting))
+        m_modal->hide();
+    if (m_permissions && button != ButtonState::Unbind)
+        m_permissions->hide();
+    if (m_usbAlert && button != ButtonState::Bind)
+        m_usbAlert->hide();
+}
+
+void UBodyEnroll::InvokeDeviceNameChanged(const std::string& body) {
+    DeviceNameProperty property;
+    property.ReadFromString(body);
+    LOG(INFO) << "UBodyEnroll::InvokeDeviceNameChanged " << LogText(property.name);
+    if (property.name.empty())
+        return; // a device has a name: this is none, or cannot be read
+    AppContextData::Instance()->SetDeviceName(property.name);
+    Form().Name().SetText(QString::fromStdString(property.name));
+}
+
+void UBodyEnroll::InvokeDeviceTagsChanged(const std::string& body) {
+    DeviceTagsProperty property;
+    property.tags = AppContextData::Instance()->DeviceTags(); // stays when the body cannot be read
+    property.ReadFromString(body);
+    LOG(INFO) << "UBodyEnroll::InvokeDeviceTagsChanged " << property.tags.size() << " tags";
+    AppContextData::Instance()->SetDeviceTags(property.tags);
+    GetConfigTags();
+}
+
+void UBodyEnroll::InvokeAdminAccountChanged(const std::string& body) {
+    AdminAccountDataNotify notify;
+    notify.ReadFromString(body);
+    LOG(INFO) << "UBodyEnroll::InvokeAdminAccountChanged " << LogText(notify.email);
+    if (notify.email.empty())
+        return;
+    AppContextData::Instance()->SetAdminAccount(notify.email);
+    Form().Account().SetText(QString::fromStdString(notify.email));
+}
+
+void UBodyEnroll::InvokeUsbArrived(const QString& drive, bool mayEnroll) {
+    FindEnrollJson({drive}, mayEnroll);
+}
+
+void UBodyEnroll::InvokeUsbRemoved(const QString& drive) {
+    if (UsbDetector::IsOnDrive(m_usbFile, drive))
+        m_usbFile.clear();
+}
+
+// A drive may take its time.
+void UBodyEnroll::FindEnrollJson(const QStringList& drives, bool mayEnroll) {
+    auto* search = new QFutureWatcher<EnrollmentFile>(this);
+    connect(search, &QFutureWatcherBase::finished, this, [this, search, mayEnroll] {
+        search->deleteLater();
+        OnEnrollJsonFound(search->result(), mayEnroll);
+    });
+    search->setFuture(QtConcurrent::run([drives] {
+        EnrollmentFile file;
+        for (const QString& drive : drives)
+            if (file = EnrollmentFile::FindOn(drive); file.IsFound())
+                break;
+        return file;
+    }));
+}
+
+void UBodyEnroll::OnEnrollJsonFound(const EnrollmentFile& file, bool mayEnroll) {
+    if (!file.IsFound() || m_wait != Wait::ForNothing)
+        return;
+    m_usbFile = file.path;
+    if (!file.IsUsable()) {
+        Window().Notify(NoticeKind::Warning, file.Refusal());
+        return;
+    }
+    if (mayEnroll && !AppContextData::Instance()->Enrolled())
+        Window().OpenEnrolmentPage();
+    FillFromUsbEnrollmentFile(file.content);
+}
+
+void UBodyEnroll::FillFromUsbEnrollmentFile(const UsbEnrollmentFile& file) {
+    if (AppContextData::Instance()->Enrolled()) {
+        Window().Notify(NoticeKind::Warning, tr("usb_bind_failed"));
+        return;
+    }
+    Form().Code().SetText(QString::fromStdString(file.code));
+    Form().Code().ClearError();
+    Form().Account().SetText(QString::fromStdString(file.account));
+    Form().Account().ClearError();
+    if (!file.deviceName.empty())
+        Form().Name().SetText(QString::fromStdString(file.deviceName));
+    if (!file.devicePrefix.empty() || !file.deviceSuffix.empty())
+        Form().Name().SetParts(QString::fromStdString(file.devicePrefix),
+                               QString::fromStdString(file.deviceSuffix));
+    Form().Name().ClearError();
+    if (!file.tags.empty()) {
+        Form().Tags().TagsListDelete();
+        Form().SetTags(file.tags);
+    }
+    if (!m_usbAlert)
+        m_usbAlert = new UBodyEnrollUsbAlert(this);
+    m_usbAlert->SetFile(m_usbFile);
+    m_usbAlert->show();
+}

@@ -1,4 +1,11 @@
 target_sources(ryx_user_objects PRIVATE
+    ${CMAKE_CURRENT_LIST_DIR}/EnrollAgreement.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/EnrollField.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/EnrollForm.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/EnrollNameField.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/EnrollStateMachine.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/EnrollStates.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/EnrollView.cpp
     ${CMAKE_CURRENT_LIST_DIR}/EnrollmentFile.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TagRules.cpp
     ${CMAKE_CURRENT_LIST_DIR}/UBodyEnroll.cpp

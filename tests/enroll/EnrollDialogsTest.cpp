@@ -31,6 +31,7 @@ namespace {
 struct Shell : RyxWindow {
     void Notify(NoticeKind, const QString& text) override { told += text; }
     void OpenNetworkPage() override { happened += QStringLiteral("network "); }
+    void OpenEnrolmentPage() override {}
     QString told, happened;
 };
 

@@ -4,6 +4,22 @@
 <context>
     <name>Ryx</name>
     <message>
+        <source>bind_result_disconnect_error_tip</source>
+        <translation>未连接到您的组织</translation>
+    </message>
+    <message>
+        <source>bind_result_error_area</source>
+        <translation>设备未能注册。请检查输入内容后重试。</translation>
+    </message>
+    <message>
+        <source>bind_result_no_match_error_tip</source>
+        <translation>代码与电子邮件地址不匹配。</translation>
+    </message>
+    <message>
+        <source>bind_result_no_net_error_tip</source>
+        <translation>无法连接到管理服务。请检查网络。</translation>
+    </message>
+    <message>
         <source>bind_success</source>
         <translation>此设备已注册。</translation>
     </message>
@@ -12,24 +28,48 @@
         <translation>定位此设备</translation>
     </message>
     <message>
+        <source>dialog_bind_fail_text</source>
+        <translation>操作未成功</translation>
+    </message>
+    <message>
         <source>dialog_close</source>
         <translation>关闭</translation>
+    </message>
+    <message>
+        <source>dialog_connect_fail_content_text</source>
+        <translation>设备会尽快自动连接。如果一直无法连接，可能是网络原因。</translation>
+    </message>
+    <message>
+        <source>dialog_detect_text</source>
+        <translation>查看网络</translation>
+    </message>
+    <message>
+        <source>dialog_disconnect_content_text</source>
+        <translation>无法连接到此设备上的服务。请查看网络或重试。</translation>
     </message>
     <message>
         <source>enrolment_sentence</source>
         <translation>在此查看此设备所属的组织及其管理员。</translation>
     </message>
     <message>
+        <source>enrolment_sentence_form</source>
+        <translation>请输入您的组织提供的信息。之后设备将由该组织管理。</translation>
+    </message>
+    <message>
+        <source>enrolment_state_enrolled</source>
+        <translation>此设备已注册。</translation>
+    </message>
+    <message>
         <source>enrolment_title</source>
         <translation>设备注册</translation>
     </message>
     <message>
-        <source>error_tip_uncheck_privacy</source>
-        <translation>请先阅读并接受协议。</translation>
+        <source>error .</source>
+        <translation>错误。</translation>
     </message>
     <message>
-        <source>fact_administrator</source>
-        <translation>管理员</translation>
+        <source>error_tip_uncheck_privacy</source>
+        <translation>请先阅读并接受协议。</translation>
     </message>
     <message>
         <source>fact_tags</source>
@@ -42,10 +82,6 @@
     <message>
         <source>Modified successfully</source>
         <translation>修改成功</translation>
-    </message>
-    <message>
-        <source>page_note_state_only</source>
-        <translation>目前此页面仅显示当前状态。</translation>
     </message>
     <message>
         <source>permission_done</source>
@@ -96,6 +132,26 @@
         <translation>移除标签 %1</translation>
     </message>
     <message>
+        <source>The &lt;b&gt;Privacy Policy&lt;/b&gt; tells which data of this device the organisation receives.</source>
+        <translation>&lt;b&gt;隐私政策&lt;/b&gt;说明组织会收到此设备的哪些数据。</translation>
+    </message>
+    <message>
+        <source>The &lt;b&gt;User Agreement&lt;/b&gt; tells what you accept when you enrol this device.</source>
+        <translation>&lt;b&gt;用户协议&lt;/b&gt;说明您在注册此设备时所接受的内容。</translation>
+    </message>
+    <message>
+        <source>Unable to bind.</source>
+        <translation>无法注册。</translation>
+    </message>
+    <message>
+        <source>Unable to UnEnroll.</source>
+        <translation>无法取消注册。</translation>
+    </message>
+    <message>
+        <source>usb_bind_failed</source>
+        <translation>在 USB 驱动器上找到了注册文件，但此设备已注册。</translation>
+    </message>
+    <message>
         <source>usb_enroll_alert_content</source>
         <translation>表单已按文件 %1 的内容填写。请检查，接受协议，然后注册此设备。</translation>
     </message>
@@ -128,8 +184,84 @@
         <translation>USB 驱动器上的注册文件格式不正确。</translation>
     </message>
     <message>
+        <source>view_register_admin_account</source>
+        <translation>管理员的电子邮件地址</translation>
+    </message>
+    <message>
+        <source>view_register_admin_account_hint</source>
+        <translation>name@school.example</translation>
+    </message>
+    <message>
+        <source>view_register_agree</source>
+        <translation>我已阅读并同意。</translation>
+    </message>
+    <message>
+        <source>view_register_device_name</source>
+        <translation>设备名称</translation>
+    </message>
+    <message>
+        <source>view_register_device_name_hint</source>
+        <translation>例如：4.12 教室</translation>
+    </message>
+    <message>
+        <source>view_register_device_prefix</source>
+        <translation>名称前缀</translation>
+    </message>
+    <message>
+        <source>view_register_device_suffix</source>
+        <translation>名称后缀</translation>
+    </message>
+    <message>
+        <source>view_register_input_error_email_input</source>
+        <translation>这不是有效的电子邮件地址。</translation>
+    </message>
+    <message>
+        <source>view_register_input_error_empty</source>
+        <translation>请填写此项。</translation>
+    </message>
+    <message>
+        <source>view_register_input_error_length_error</source>
+        <translation>代码必须正好是六个字符。</translation>
+    </message>
+    <message>
+        <source>view_register_name_parts</source>
+        <translation>使用两个输入框</translation>
+    </message>
+    <message>
+        <source>view_register_name_whole</source>
+        <translation>使用一个输入框</translation>
+    </message>
+    <message>
+        <source>view_register_privacy_policy</source>
+        <translation>隐私政策</translation>
+    </message>
+    <message>
+        <source>view_register_school_code</source>
+        <translation>组织代码</translation>
+    </message>
+    <message>
+        <source>view_register_school_code_hint</source>
+        <translation>六个字符</translation>
+    </message>
+    <message>
+        <source>view_register_user_agreement</source>
+        <translation>用户协议</translation>
+    </message>
+    <message>
+        <source>view_register_windows_button_connect</source>
+        <translation>连接</translation>
+    </message>
+    <message>
         <source>view_register_windows_tag_hint</source>
         <translation>添加标签</translation>
+    </message>
+    <message>
+        <source>view_register_windows_title_bind_state</source>
+        <translation>注册</translation>
+    </message>
+    <message>
+        <source>view_register_windows_title_unbind_state</source>
+        <translation>取消注册此设备</translation>
     </message>
     <message>
         <source>view_tag_add</source>

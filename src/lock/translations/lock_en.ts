@@ -95,9 +95,5 @@
         <source>view_register_windows_button_cancel</source>
         <translation>Cancel</translation>
     </message>
-    <message>
-        <source>view_register_windows_title_unbind_state</source>
-        <translation>Unenrol this device</translation>
-    </message>
 </context>
 </TS>

@@ -95,9 +95,5 @@
         <source>view_register_windows_button_cancel</source>
         <translation>Cancelar</translation>
     </message>
-    <message>
-        <source>view_register_windows_title_unbind_state</source>
-        <translation>Anular la inscripción</translation>
-    </message>
 </context>
 </TS>

@@ -95,9 +95,5 @@
         <source>view_register_windows_button_cancel</source>
         <translation>キャンセル</translation>
     </message>
-    <message>
-        <source>view_register_windows_title_unbind_state</source>
-        <translation>登録を解除</translation>
-    </message>
 </context>
 </TS>

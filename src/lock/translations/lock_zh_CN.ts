@@ -95,9 +95,5 @@
         <source>view_register_windows_button_cancel</source>
         <translation>取消</translation>
     </message>
-    <message>
-        <source>view_register_windows_title_unbind_state</source>
-        <translation>取消注册此设备</translation>
-    </message>
 </context>
 </TS>

@@ -36,6 +36,10 @@
         <translation>الشبكة</translation>
     </message>
     <message>
+        <source>page_note_state_only</source>
+        <translation>حاليًا تعرض هذه الصفحة الحالة الراهنة فقط.</translation>
+    </message>
+    <message>
         <source>settings_language</source>
         <translation>اللغة</translation>
     </message>

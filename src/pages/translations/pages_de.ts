@@ -36,6 +36,10 @@
         <translation>Netzwerk</translation>
     </message>
     <message>
+        <source>page_note_state_only</source>
+        <translation>Vorerst zeigt diese Seite nur den Stand der Dinge.</translation>
+    </message>
+    <message>
         <source>settings_language</source>
         <translation>Sprache</translation>
     </message>

@@ -36,6 +36,10 @@
         <translation>Network</translation>
     </message>
     <message>
+        <source>page_note_state_only</source>
+        <translation>For now this page only shows how things stand.</translation>
+    </message>
+    <message>
         <source>settings_language</source>
         <translation>Language</translation>
     </message>

@@ -36,6 +36,10 @@
         <translation>Red</translation>
     </message>
     <message>
+        <source>page_note_state_only</source>
+        <translation>Por ahora, esta página solo muestra el estado actual.</translation>
+    </message>
+    <message>
         <source>settings_language</source>
         <translation>Idioma</translation>
     </message>

@@ -36,6 +36,10 @@
         <translation>Réseau</translation>
     </message>
     <message>
+        <source>page_note_state_only</source>
+        <translation>Pour l’instant, cette page ne fait qu’afficher l’état actuel.</translation>
+    </message>
+    <message>
         <source>settings_language</source>
         <translation>Langue</translation>
     </message>

@@ -36,6 +36,10 @@
         <translation>ネットワーク</translation>
     </message>
     <message>
+        <source>page_note_state_only</source>
+        <translation>現在のところ、このページには状態のみが表示されます。</translation>
+    </message>
+    <message>
         <source>settings_language</source>
         <translation>言語</translation>
     </message>

@@ -36,6 +36,10 @@
         <translation>网络</translation>
     </message>
     <message>
+        <source>page_note_state_only</source>
+        <translation>目前此页面仅显示当前状态。</translation>
+    </message>
+    <message>
         <source>settings_language</source>
         <translation>语言</translation>
     </message>

@@ -47,6 +47,9 @@ public:
     /// Brings the network page to the front.
     virtual void OpenNetworkPage() = 0;
 
+    /// Brings the enrolment page to the front, also out of the tray, but never over a lock.
+    virtual void OpenEnrolmentPage() = 0;
+
 signals:
     /// LinkStatus() is another one than before.
     void LinkStatusChanged(IotStatus status);
