@@ -12,12 +12,14 @@
 #include "platform/context/AppConfigData.h"
 #include "platform/context/AppContextData.h"
 #include "platform/link/PipeClientService.h"
+#include "platform/system/SystemPipe.h"
 #include "widgets/UAlert.h"
 #include "widgets/UToast.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QLocalServer>
 #include <QMenu>
 #include <QPushButton>
 #include <QSystemTrayIcon>
@@ -259,7 +261,21 @@ Stage::Stage(bool enrolled) : m_controller(std::make_unique<MainController>()) {
 Stage::~Stage() {
     m_other.reset();
     m_window.reset();
+    if (m_service) {
+        PipeClientService::Instance()->Stop();
+        Settle(); // so that nobody is told of it later
+    }
     qApp->setProperty("controllers", QVariant());
+}
+
+void Stage::ConnectLink() {
+    m_service = std::make_unique<QLocalServer>();
+    m_service->listen(QStringLiteral("ryx-scene-%1").arg(QCoreApplication::applicationPid()));
+    PipeClientService& link = *PipeClientService::Instance();
+    link.SetServer({m_service->serverName(), SystemPipe::Native().CurrentAccount()});
+    link.Start();
+    while (!link.IsConnected())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
 void Stage::Receive(int key, const std::string& body) {
@@ -275,7 +291,8 @@ QWidget& Stage::Subject() {
 }
 
 QVector<Scene> AllScenes() {
-    return PageScenes() + ShellScenes() + NoticeScenes() + EnrollScenes() + OtherScenes();
+    return PageScenes() + ShellScenes() + NoticeScenes() + EnrollPageScenes() + EnrollScenes() +
+           OtherScenes();
 }
 
 void Settle() {

@@ -8,6 +8,7 @@
 
 class MainController;
 class MainWindow;
+class QLocalServer;
 class QWidget;
 
 /// The stage of one picture: a fresh front end without a service, at 1280 x 720 unless a scene changes it.
@@ -22,6 +23,9 @@ public:
     /// Feeds a message to everybody, as the service's.
     void Receive(int key, const std::string& body = {});
 
+    /// Lets the link be up, to a service that says nothing.
+    void ConnectLink();
+
     /// Takes a picture of this widget instead of the window; the stage owns it.
     template <class Widget>
     Widget& Show(std::unique_ptr<Widget> widget) {
@@ -34,6 +38,7 @@ public:
     QWidget& Subject();
 
 private:
+    std::unique_ptr<QLocalServer> m_service;
     std::unique_ptr<MainController> m_controller;
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<QWidget> m_other;
@@ -47,6 +52,9 @@ struct Scene {
 };
 
 QVector<Scene> AllScenes();
+
+/// Those of the enrolment's page.
+QVector<Scene> EnrollPageScenes();
 
 /// Those of the enrolment's parts.
 QVector<Scene> EnrollScenes();
