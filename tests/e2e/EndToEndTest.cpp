@@ -1,61 +1,15 @@
 // The two real programs over the real pipe, under an X server with real key and mouse events: what a
 // person at the device and the agent service see of each other.
-#include "ForeignWindow.h"
-#include "LockScreen.h"
-#include "MainPage.h"
-#include "SettingsMask.h"
+#include "EndToEndFixture.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
 #include <algorithm>
 #include <chrono>
 #include <csignal>
-#include <gtest/gtest.h>
-#include <list>
-#include <memory>
 #include <unistd.h>
 
 namespace {
-
-class EndToEndTest : public testing::Test {
-protected:
-    static void SetUpTestSuite() {
-        screen = std::make_unique<Desktop>(qgetenv(Steering::Display).toStdString());
-    }
-    static void TearDownTestSuite() { screen.reset(); }
-
-    void SetUp() override {
-        // Away from everything that could be hovered over.
-        screen->MoveMouse({screen->Size().width() - 1, screen->Size().height() / 2});
-    }
-
-    void TearDown() override {
-        if (HasFailure()) {
-            const auto* test = testing::UnitTest::GetInstance()->current_test_info();
-            const QString picture =
-                QDir::current().filePath(QStringLiteral("e2e-%1.png").arg(QLatin1String(test->name())));
-            screen->Screenshot().save(picture);
-            std::string windows;
-            for (const DesktopWindow& window : screen->Windows())
-                windows += window.title + (window.viewable ? " (viewable)\n" : "\n");
-            ADD_FAILURE() << product.Story() << "The windows:\n"
-                          << windows << "The screen: " << picture.toStdString();
-        }
-    }
-
-    bool StartBoth() { return product.StartBoth() && mainPage.WaitForStatus(MainPage::Connected); }
-    bool IsHidden() { return screen->WaitForNoWindow(MainPage::Title) && product.FrontEnd().IsRunning(); }
-
-    static std::unique_ptr<Desktop> screen;
-    RunningProduct product{*screen};
-    const MainPage mainPage{product};
-    LockScreen lock{product};
-    SettingsMask mask{product};
-    std::list<ForeignWindow> foreign;
-};
-
-std::unique_ptr<Desktop> EndToEndTest::screen;
 
 TEST_F(EndToEndTest, StatusOfTheServiceIsShown) {
     ASSERT_TRUE(StartBoth());

@@ -214,8 +214,14 @@ void Desktop::Press(const std::string& key, const std::vector<std::string>& held
 }
 
 void Desktop::Type(const std::string& text) {
-    for (const char character : text)
-        Press(std::string(1, character));
+    for (const char character : text) {
+        // A character's symbol has its number; what its key says alone is another one for some.
+        const KeySym symbol = static_cast<unsigned char>(character);
+        const KeyCode code = XKeysymToKeycode(m_display, symbol);
+        const bool isShifted = XkbKeycodeToKeysym(m_display, code, 0, 0) != symbol;
+        Press(XKeysymToString(symbol),
+              isShifted ? std::vector<std::string>{"Shift_L"} : std::vector<std::string>());
+    }
 }
 
 void Desktop::SendToRoot(unsigned long window, const char* message, long first, long second, long third) {

@@ -51,7 +51,7 @@ public:
 
     void Click(const QPoint& place);
     void MoveMouse(const QPoint& place);
-    /// Types characters that have a key of their own, such as digits and lower-case letters.
+    /// Types characters that have a key, alone or with Shift held.
     void Type(const std::string& text);
     /// Presses and releases a key by its X name, such as "Return", with others held down.
     void Press(const std::string& key, const std::vector<std::string>& held = {});

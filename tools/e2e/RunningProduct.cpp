@@ -59,9 +59,18 @@ RunningProduct::RunningProduct(Desktop& desktop)
     Configure("dataFolder", QString::fromStdString(PathForPrograms(Folder() + "/data")));
     Configure("deviceName", QLatin1String("Room 4.12"));
     Configure("language", QLatin1String("en"));
+    Configure("enrolled", true);
+    Configure("schoolCode", QLatin1String("a1b2c3"));
+    Configure("adminAccount", QLatin1String("admin@lakeside.example"));
+}
+
+void RunningProduct::ConfigureUnenrolled() {
+    for (const char* key : {"enrolled", "schoolCode", "adminAccount"})
+        Configure(key, QJsonValue());
 }
 
 RunningProduct::~RunningProduct() {
+    PlugOut();
     m_frontEnd.Kill();
     if (m_agent.IsRunning()) { // what it has launched goes with it
         Tell("quit");
@@ -126,6 +135,7 @@ int RunningProduct::AttackersSay(const std::string& text) {
 }
 
 bool RunningProduct::StartAgent(const Words& arguments, const Words& before) {
+    WriteConfiguration();
     Words all = {"--pipe", m_pipe};
     all.insert(all.end(), arguments.begin(), arguments.end());
     Start(m_agent, Steering::Agent, all, "agent.err", before);
@@ -149,10 +159,49 @@ int RunningProduct::AgentLines(const std::string& text) {
     return CountOf(m_agent.Output(), text);
 }
 
-void RunningProduct::WriteConfiguration() const {
+QJsonObject RunningProduct::Configuration() const {
     QFile file(m_folder.filePath(QStringLiteral("ryx.json")));
-    if (!file.open(QIODevice::WriteOnly) || file.write(QJsonDocument(m_configuration).toJson()) < 0)
+    return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object() : QJsonObject();
+}
+
+void RunningProduct::WriteConfiguration() {
+    QJsonObject keys = Configuration();
+    for (auto key = m_newKeys.begin(); key != m_newKeys.end(); ++key)
+        keys[key.key()] = key.value();
+    QFile file(m_folder.filePath(QStringLiteral("ryx.json")));
+    if (!file.open(QIODevice::WriteOnly) || file.write(QJsonDocument(keys).toJson()) < 0)
         throw std::runtime_error("the configuration cannot be written");
+    m_newKeys = {};
+}
+
+bool RunningProduct::PlugIn(const std::string& folder) {
+    if (HasLauncher()) {
+        m_drive = Variable("WINEPREFIX") + "/dosdevices/t:";
+        return QFile::link(QString::fromStdString(folder), QString::fromStdString(m_drive)) &&
+               TellOfDrive("arrive");
+    }
+    m_drive = "/mnt/" + m_folder.path().section(QLatin1Char('/'), -1).toStdString();
+    return QDir().mkpath(QString::fromStdString(m_drive)) &&
+           std::system(("mount --bind " + folder + ' ' + m_drive + " 2>/dev/null").c_str()) == 0;
+}
+
+void RunningProduct::PlugOut() {
+    if (m_drive.empty())
+        return;
+    if (HasLauncher()) {
+        QFile::remove(QString::fromStdString(m_drive));
+        TellOfDrive("remove");
+    } else {
+        std::system(("umount " + m_drive + " 2>/dev/null").c_str());
+        QDir().rmdir(QString::fromStdString(m_drive));
+    }
+    m_drive.clear();
+}
+
+bool RunningProduct::TellOfDrive(const char* what) {
+    ChildProcess message;
+    Start(message, Steering::VolumeMessage, {what, "T"});
+    return WaitUntil([&] { return message.Result().has_value(); }) && message.Result() == 0;
 }
 
 void RunningProduct::StartFrontEnd(const Words& arguments) {

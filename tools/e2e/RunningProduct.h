@@ -25,6 +25,7 @@ constexpr Program FrontEnd{"RYX_E2E_FRONTEND", "velmora-ryx"};
 constexpr Program Agent{"RYX_E2E_AGENT", "ryx-agent"};
 constexpr Program ForeignWindow{"RYX_E2E_FOREIGN", "foreign_window"}; // needed where there is a launcher
 constexpr Program Attack{"RYX_E2E_ATTACK", "ryx-attack"};
+constexpr Program VolumeMessage{"RYX_E2E_VOLUME_MESSAGE", "volume_message"}; // likewise
 constexpr Program SessionManager{"RYX_E2E_SESSION_MANAGER", "ryx-session-manager"};
 } // namespace Steering
 
@@ -38,8 +39,13 @@ public:
     explicit RunningProduct(Desktop& desktop);
     ~RunningProduct();
 
-    /// Sets a value of the configuration; counts from the next start of the front end.
-    void Configure(const char* key, const QJsonValue& value) { m_configuration[QLatin1String(key)] = value; }
+    /// Sets a value of the configuration, in which the device is enrolled at first; counts from the next
+    /// start. Everything else in the file stays, also what the agent service has written there.
+    void Configure(const char* key, const QJsonValue& value) { m_newKeys[QLatin1String(key)] = value; }
+    /// A value as it stands in the file.
+    QJsonValue Configured(const char* key) const { return Configuration()[QLatin1String(key)]; }
+    /// Takes the enrolment out of the configuration.
+    void ConfigureUnenrolled();
     /// The desktop's scale, such as 1.5; counts from the next start of the front end.
     void SetScale(double scale) { m_scale = scale; }
     double Scale() const { return m_scale; }
@@ -75,6 +81,10 @@ public:
     /// How many of their lines contain `text`; ends those that stay.
     int AttackersSay(const std::string& text);
     void EndAttacks() { m_attackers.clear(); }
+
+    /// Puts a USB drive with the contents of `folder` in, or takes it out; false where that cannot be done.
+    bool PlugIn(const std::string& folder);
+    void PlugOut();
     bool HasLauncher() const { return !m_launcher.empty(); }
 
     ChildProcess& Agent() { return m_agent; }
@@ -92,7 +102,9 @@ public:
 
 private:
     Words Environment() const;
-    void WriteConfiguration() const;
+    QJsonObject Configuration() const;
+    void WriteConfiguration();
+    bool TellOfDrive(const char* what);
     bool HaveMet();
     std::string PathForPrograms(const std::string& path) const;
     std::string Log() const;
@@ -100,12 +112,13 @@ private:
     Desktop& m_desktop;
     QTemporaryDir m_folder;
     Words m_launcher;
-    QJsonObject m_configuration;
+    QJsonObject m_newKeys; // of the configuration, not yet in the file
     std::string m_pipe;
     double m_scale = 1;
     Words m_variables;
     ChildProcess m_agent;
     ChildProcess m_frontEnd;
+    std::string m_drive;                 // that is plugged in
     std::list<ChildProcess> m_attackers; // some of them stay
     std::size_t m_agentRead = 0;         // of the agent service's output, what AgentSays has passed
 };
