@@ -213,16 +213,14 @@ TEST_F(EnrolmentPage, EveryFailureIsShown) {
         const char* code;
         const char* marked;
         const char* toast;
-        const char* toastOfUnbind;
         const char* dialog = "";
     } cases[] = {
-        {"r_802001", "schoolCode adminAccount ", "Code and e-mail address do not belong together.", ""},
-        {"r_802003", "schoolCode adminAccount ", "Code and e-mail address do not belong together.", ""},
-        {"error", "", "error .", "Unable to UnEnroll."},
-        {"170002", "", "The management service cannot be reached. Check the network.", ""},
-        {"170004", "", "The management service cannot be reached. Check the network.", ""},
-        {"net_error", "", "Unable to bind.", "", "UBodyEnrollModal"},
-        {"", "", "Unable to bind.", ""},
+        {"r_802001", "schoolCode adminAccount ", "Code and e-mail address do not belong together."},
+        {"r_802003", "schoolCode adminAccount ", "Code and e-mail address do not belong together."},
+        {"error", "", "error ."},
+        {"170002", "", "The management service cannot be reached. Check the network."},
+        {"net_error", "", "Unable to bind.", "UBodyEnrollModal"},
+        {"", "", "Unable to bind."},
     };
     for (const auto& row : cases) {
         SCOPED_TRACE(row.code);
