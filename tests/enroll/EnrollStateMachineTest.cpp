@@ -83,7 +83,7 @@ struct Machine : testing::Test {
     }
 
     FakePage page;
-    const NoDrives drives;
+    const NoDrives drives{};
     UsbDetector detector{drives, nullptr};
     EnrollStateMachine machine{page, detector};
 };
