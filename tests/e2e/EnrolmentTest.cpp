@@ -131,7 +131,7 @@ TEST_F(EnrolmentEndToEndTest, WithoutTheServiceNobodyWaits) {
         ASSERT_TRUE(enrolPage.Wait(&EnrolPage::IsCovered)) << when;
         screen->Press("Escape");
         ASSERT_TRUE(enrolPage.Wait(&EnrolPage::OffersAction)) << when;
-        EXPECT_TRUE(enrolPage.TellsFailure());
+        EXPECT_TRUE(enrolPage.Wait(&EnrolPage::TellsFailure)) << when;
         enrolPage.PressButton();
     }
     ASSERT_TRUE(enrolPage.Wait(&EnrolPage::IsCovered));

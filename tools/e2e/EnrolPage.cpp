@@ -74,7 +74,7 @@ void EnrolPage::PressButton(int times) {
 
 bool EnrolPage::TellsFailure() const {
     QRect words = Footer();
-    words.translate(0, -words.height() / 2);
+    words.translate(0, -words.height()); // they stand above the row of the button
     return !IsCovered() && FindColor(m_desktop.Screenshot(words), Danger).pixels > WordsPixels;
 }
 
