@@ -2,21 +2,27 @@
 
 #include "widgets/UTextButton.h"
 
-#include <QHBoxLayout>
+#include <QBoxLayout>
 #include <QLineEdit>
+
+namespace {
+
+constexpr int NarrowestRow = 560;
+
+} // namespace
 
 EnrollNameField::EnrollNameField()
     : EnrollField("deviceName", Script::OfLanguage),
+      m_row(new QBoxLayout(QBoxLayout::LeftToRight)),
       m_prefix(AddEdit("devicePrefix", Script::OfLanguage)),
       m_suffix(AddEdit("deviceSuffix", Script::OfLanguage)),
       m_switch(new UTextButton(UTextButton::Look::Plain)) {
     m_switch->setObjectName(QStringLiteral("nameSwitch"));
-    auto* row = new QHBoxLayout;
-    row->setSpacing(12);
+    m_row->setSpacing(12);
     for (QLineEdit* edit : {&Edit(), m_prefix, m_suffix})
-        row->addWidget(edit, 1);
-    row->addWidget(m_switch);
-    SetAnswer(row);
+        m_row->addWidget(edit, 1);
+    m_row->addWidget(m_switch);
+    SetAnswer(m_row);
     connect(m_switch, &QPushButton::clicked, this, [this] {
         ClearError();
         ShowParts(!m_parts);
@@ -47,6 +53,11 @@ void EnrollNameField::SetEditAble(bool editable) {
 
 void EnrollNameField::FocusAnswer() {
     (m_parts ? m_prefix : &Edit())->setFocus();
+}
+
+void EnrollNameField::resizeEvent(QResizeEvent* event) {
+    m_row->setDirection(width() < NarrowestRow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    EnrollField::resizeEvent(event);
 }
 
 void EnrollNameField::ShowParts(bool parts) {

@@ -2,6 +2,7 @@
 
 #include "enroll/EnrollField.h"
 
+class QBoxLayout;
 class UTextButton;
 
 /// The question for the device's name: one line for the whole name or, as the user likes, one for its
@@ -24,10 +25,14 @@ public:
     void FocusAnswer() override;
     void LanguageChanges();
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     void ShowParts(bool parts);
 
     bool m_parts = false;
+    QBoxLayout* m_row; // one below the other where there is no room
     QLineEdit* m_prefix;
     QLineEdit* m_suffix;
     UTextButton* m_switch;
