@@ -93,7 +93,9 @@ QWidget* EnrollView::MakeFooter() {
     column->setSpacing(AboveToasts);
     column->addWidget(m_errorArea);
     column->addLayout(row);
-    auto* centred = new QHBoxLayout;
+    auto* middle = new QWidget; // as wide as it may be, other than a layout with the bar alone
+    auto* centred = new QHBoxLayout(middle);
+    centred->setContentsMargins(0, 0, 0, 0);
     centred->addWidget(bar);
     auto* besideBar = new QWidget; // below the form's scroll bar
     auto* footer = new QFrame;
@@ -101,7 +103,7 @@ QWidget* EnrollView::MakeFooter() {
     auto* whole = new QHBoxLayout(footer);
     whole->setContentsMargins(NarrowMargin, 12, NarrowMargin, 12);
     whole->setSpacing(0);
-    whole->addLayout(centred, 1);
+    whole->addWidget(middle, 1);
     whole->addWidget(besideBar);
     const auto follow = [besideBar, scrollBar = m_scroll->verticalScrollBar()](int, int most) {
         besideBar->setFixedWidth(

@@ -81,10 +81,12 @@ TEST_F(EnrolmentEndToEndTest, EnrolsIsKnownAfterARestartAndUnenrolsWithThePasswo
 
 TEST_F(EnrolmentEndToEndTest, EachFailureIsToldAndTheNextTryMayDoBetter) {
     ASSERT_TRUE(StartFilled());
+    product.Tell("binding-delay 1");
     for (const char* code : {"r_802001", "error", "170002", "other", "net_error"}) {
         SCOPED_TRACE(code);
         product.Tell(std::string("binding fail ") + code);
         enrolPage.PressButton();
+        ASSERT_TRUE(WaitUntil([&] { return !enrolPage.OffersAction(); })) << "it waits";
         ASSERT_TRUE(product.AgentSays("was sent 3 Binding"));
         if (code == std::string("net_error")) {
             ASSERT_TRUE(enrolPage.Wait(&EnrolPage::IsCovered));
