@@ -1,6 +1,7 @@
 #include "widgets/UAlert.h"
 
 #include "widgets/AccessibleRole.h"
+#include "widgets/UIconLabel.h"
 #include "widgets/UTextButton.h"
 #include "widgets/UTextLabel.h"
 
@@ -17,27 +18,38 @@ constexpr int CardWidth = 480;
 
 UAlert::UAlert(QWidget* parent)
     : UOverlay(parent),
+      m_icon(new UIconLabel(28)),
       m_title(new UTextLabel("dialogTitle")),
       m_content(new UTextLabel("dialogContent")),
-      m_ok(new UTextButton(UTextButton::Look::Primary)),
-      m_cancel(new UTextButton) {
+      m_other(new UTextButton(UTextButton::Look::Plain)),
+      m_cancel(new UTextButton),
+      m_ok(new UTextButton(UTextButton::Look::Primary)) {
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(12);
+    buttons->addWidget(m_other);
     buttons->addStretch();
     buttons->addWidget(m_cancel);
     buttons->addWidget(m_ok);
+    auto* head = new QHBoxLayout;
+    head->setSpacing(12);
+    head->addWidget(m_icon, 0, Qt::AlignTop);
+    head->addWidget(m_title, 1);
     QVBoxLayout* column = MakeCard(CardWidth);
-    column->addWidget(m_title);
+    column->addLayout(head);
     column->addWidget(m_content);
     column->addSpacing(12);
     column->addLayout(buttons);
 
+    setTabOrder(m_other, m_cancel);
     setTabOrder(m_cancel, m_ok);
+    m_icon->hide();
+    m_other->hide();
     m_cancel->hide();
-    connect(m_ok, &QPushButton::clicked, this, [this] { Close(true); });
-    connect(m_cancel, &QPushButton::clicked, this, [this] { Close(false); });
+    connect(m_other, &QPushButton::clicked, this, [this] { Close(&UAlert::OtherChosen); });
+    connect(m_cancel, &QPushButton::clicked, this, [this] { Close(&UAlert::Rejected); });
+    connect(m_ok, &QPushButton::clicked, this, [this] { Close(&UAlert::Accepted); });
     m_timeout.setSingleShot(true);
-    connect(&m_timeout, &QTimer::timeout, this, [this] { Close(false); });
+    connect(&m_timeout, &QTimer::timeout, this, [this] { Close(&UAlert::Rejected); });
     Retranslate();
 }
 
@@ -53,6 +65,24 @@ void UAlert::SetContent(const QString& content) {
     setAccessibleDescription(content);
 }
 
+void UAlert::SetKind(NoticeKind kind) {
+    switch (kind) {
+    case NoticeKind::Info:
+        m_icon->SetIcon(QStringLiteral("info"), QStringLiteral("accent"));
+        break;
+    case NoticeKind::Success:
+        m_icon->SetIcon(QStringLiteral("success"), QStringLiteral("success"));
+        break;
+    case NoticeKind::Warning:
+        m_icon->SetIcon(QStringLiteral("warning"), QStringLiteral("warning"));
+        break;
+    case NoticeKind::Error:
+        m_icon->SetIcon(QStringLiteral("error"), QStringLiteral("danger"));
+        break;
+    }
+    m_icon->show();
+}
+
 void UAlert::SetOkText(const QString& text) {
     m_okTextGiven = true;
     m_ok->setText(text);
@@ -61,6 +91,11 @@ void UAlert::SetOkText(const QString& text) {
 void UAlert::SetCancelText(const QString& text) {
     m_cancel->setText(text);
     m_cancel->setVisible(!text.isEmpty());
+}
+
+void UAlert::SetOtherText(const QString& text) {
+    m_other->setText(text);
+    m_other->setVisible(!text.isEmpty());
 }
 
 void UAlert::SetDangerous(bool dangerous) {
@@ -80,19 +115,16 @@ void UAlert::Presented() {
     AnnounceAlert(this);
 }
 
-void UAlert::Close(bool accepted) {
+void UAlert::Close(void (UAlert::*answer)()) {
     hide();
-    if (accepted)
-        emit Accepted();
-    else
-        emit Rejected();
+    emit(this->*answer)();
 }
 
 void UAlert::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape)
         (m_cancel->isHidden() ? m_ok : m_cancel)->click();
     else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        (m_cancel->hasFocus() ? m_cancel : m_ok)->click();
+        (m_cancel->hasFocus() ? m_cancel : m_other->hasFocus() ? m_other : m_ok)->click();
 }
 
 void UAlert::changeEvent(QEvent* event) {

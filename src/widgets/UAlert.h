@@ -1,10 +1,12 @@
 #pragma once
 
+#include "platform/application/NoticeKind.h"
 #include "widgets/UOverlay.h"
 
 #include <QTimer>
 
 class QLabel;
+class UIconLabel;
 class UTextButton;
 
 /// A box over a window that asks or tells something. Screen readers announce it. Escape is the cancel button,
@@ -18,10 +20,14 @@ public:
 
     void SetTitle(const QString& title);
     void SetContent(const QString& content);
+    /// Puts the kind's sign before the title; at first there is none.
+    void SetKind(NoticeKind kind);
     /// Text of the button that agrees; at first it says OK.
     void SetOkText(const QString& text);
     /// Text of the button that declines; as long as it is empty there is no such button.
     void SetCancelText(const QString& text);
+    /// Text of a third button, for another way than the two; as long as it is empty there is none.
+    void SetOtherText(const QString& text);
     /// The agreeing button takes something away for good.
     void SetDangerous(bool dangerous);
     /// Lets the alert go away by itself, as if declined, after so many milliseconds on screen; 0: never.
@@ -32,6 +38,7 @@ public:
 signals:
     void Accepted();
     void Rejected();
+    void OtherChosen();
 
 protected:
     void Presented() override;
@@ -39,13 +46,15 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    void Close(bool accepted);
+    void Close(void (UAlert::*answer)());
     void Retranslate();
 
+    UIconLabel* m_icon;
     QLabel* m_title;
     QLabel* m_content;
-    UTextButton* m_ok;
+    UTextButton* m_other;
     UTextButton* m_cancel;
+    UTextButton* m_ok;
     bool m_okTextGiven = false;
     int m_timeoutMs = 0;
     QTimer m_timeout;

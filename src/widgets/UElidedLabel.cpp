@@ -46,7 +46,7 @@ void UElidedLabel::Align() {
 }
 
 void UElidedLabel::Elide() {
-    const QString shown = fontMetrics().elidedText(m_text, Qt::ElideRight, contentsRect().width());
+    const QString shown = fontMetrics().elidedText(m_text, m_elideMode, contentsRect().width());
     setText(shown);
     // A tool tip takes markup for what it is.
     setToolTip(shown == m_text ? QString() : m_text.toHtmlEscaped());

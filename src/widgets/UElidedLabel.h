@@ -12,6 +12,8 @@ public:
 
     void SetText(const QString& text);
     QString Text() const { return m_text; }
+    /// Where a text is cut that does not fit; at its end at first.
+    void SetElideMode(Qt::TextElideMode mode) { m_elideMode = mode; }
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -25,4 +27,5 @@ private:
     void Elide();
 
     QString m_text;
+    Qt::TextElideMode m_elideMode = Qt::ElideRight;
 };

@@ -75,12 +75,23 @@ UFactsPage::UFactsPage(PageContent content, QWidget* parent)
     scroll->setFocusPolicy(Qt::NoFocus);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
     layout->addWidget(scroll);
     Retranslate();
 }
 
 void UFactsPage::AddWidget(QWidget* widget) {
     m_own->addWidget(widget);
+}
+
+void UFactsPage::SetFooter(QWidget* widget) {
+    widget->setMaximumWidth(ContentWidth);
+    auto* footer = new QFrame;
+    footer->setObjectName(QStringLiteral("pageFooter"));
+    auto* centred = new QHBoxLayout(footer);
+    centred->addWidget(widget);
+    m_footerMargins = centred;
+    layout()->addWidget(footer);
 }
 
 void UFactsPage::ShowBackButton() {
@@ -138,6 +149,8 @@ void UFactsPage::showEvent(QShowEvent* event) {
 void UFactsPage::resizeEvent(QResizeEvent* event) {
     const int margin = width() < NarrowWidth ? NarrowMargin : Margin;
     m_margins->setContentsMargins(margin, margin, margin, margin);
+    if (m_footerMargins)
+        m_footerMargins->setContentsMargins(margin, NarrowMargin, margin, NarrowMargin);
     QWidget::resizeEvent(event);
 }
 

@@ -45,6 +45,9 @@ public:
     /// Puts a widget of the page's own between the facts and the note.
     void AddWidget(QWidget* widget);
 
+    /// Puts a widget below the page, where it stays while the page is scrolled.
+    void SetFooter(QWidget* widget);
+
     /// Shows a way back; pressing it emits BackRequested.
     void ShowBackButton();
 
@@ -66,6 +69,7 @@ private:
 
     PageContent m_content;
     QLayout* m_margins;
+    QLayout* m_footerMargins = nullptr;
     UBackButton* m_back;
     UIconLabel* m_icon;
     QLabel* m_title;
