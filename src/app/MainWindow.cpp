@@ -82,7 +82,7 @@ void MainWindow::InitConnect() {
     });
     connect(m_exit, &UExitButton::Exited, this, &QWidget::close);
     connect(m_ui->launcher, &ULauncher::EnrolRequested, this, &MainWindow::OpenEnrolmentPage);
-    connect(m_ui->feedbackPage, &UFeedback::BackRequested, m_navigator, &Navigator::GoBack);
+    connect(m_ui->feedbackPage, &UFeedback::Left, m_navigator, &Navigator::GoBack);
     connect(this, &RyxWindow::BindingBegan, this, [this] { m_ui->header->SetBusy(true); });
     connect(this, &RyxWindow::BindingEnded, this, [this] { m_ui->header->SetBusy(false); });
     connect(Theme::Instance(), &Theme::Changed, this, &MainWindow::ApplyTheme);

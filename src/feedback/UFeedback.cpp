@@ -1,12 +1,391 @@
 #include "feedback/UFeedback.h"
 
-#include "widgets/CommonFacts.h"
+#include "feedback/AttachmentStrip.h"
+#include "feedback/FeedbackForm.h"
+#include "feedback/LogFilesDialog.h"
+#include "feedback/WebErrorText.h"
+#include "platform/application/RyxWindow.h"
+#include "platform/context/AppContextData.h"
+#include "platform/context/LanguageHelper.h"
+#include "platform/context/MachineHelper.h"
+#include "platform/context/RyxPath.h"
+#include "platform/context/Theme.h"
+#include "widgets/ThemeIcon.h"
+#include "widgets/UAlert.h"
+#include "widgets/UTextButton.h"
+#include "widgets/UTextLabel.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDateTime>
+#include <QDir>
+#include <QDragEnterEvent>
+#include <QFileDialog>
+#include <QMimeData>
+#include <QProgressBar>
+#include <QShortcut>
+#include <QStandardPaths>
+#include <QVBoxLayout>
+#include <glog/logging.h>
+
+namespace {
+
+constexpr int ProgressMs = 100;
+constexpr int EndMs = 2000;
+
+// Whatever was proposed: after a move the source would delete its file.
+void AcceptCopy(QDropEvent& event) {
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
+}
+
+} // namespace
 
 UFeedback::UFeedback(QWidget* parent)
-    : UFactsPage({"feedback", QT_TRANSLATE_NOOP("UFeedback", "feedback_title"),
+    : UFactsPage({"feedback",
+                  QT_TRANSLATE_NOOP("UFeedback", "log_report_title"),
                   QT_TRANSLATE_NOOP("UFeedback", "feedback_sentence"),
-                  QT_TRANSLATE_NOOP("UFeedback", "feedback_note"),
-                  [](const QWidget*) { return QVector<PageFact>{CommonFacts::DeviceName()}; }},
-                 parent) {
+                  "",
+                  {}},
+                 parent),
+      m_form(new FeedbackForm(m_backend)),
+      m_logFiles(new UTextButton(UTextButton::Look::Plain)),
+      m_tip(new UTextLabel("pageNote")),
+      m_progress(new QProgressBar),
+      m_cancel(new UTextButton),
+      m_submit(new UTextButton(UTextButton::Look::Primary)) {
+    Initialization();
+    InitConnect();
+    Retranslate();
+    SetActivity(Activity::None);
+}
+
+UFeedback::~UFeedback() {
+    m_cancellation.Cancel();
+    const QDeadlineTimer deadline(EndMs);
+    disconnect(m_form, nullptr, this, nullptr);
+    m_form->Attachments().Stop(deadline);
+    m_workers.Join(deadline);
+}
+
+void UFeedback::Initialization() {
     ShowBackButton();
+    setAcceptDrops(true);
+    m_logFiles->setObjectName(QStringLiteral("logFilesButton"));
+    m_logFiles->setIcon(ThemeIcon::Get(QStringLiteral("info")));
+    m_cancel->setObjectName(QStringLiteral("cancelButton"));
+    m_submit->setObjectName(QStringLiteral("submitButton"));
+    m_submit->SetLoadingIcon(QStringLiteral(":/res/images/ic_loading_white.png"));
+    m_progress->setTextVisible(false);
+    m_progressTimer.setObjectName(QStringLiteral("reportProgressTimer"));
+    m_progressTimer.setInterval(ProgressMs);
+
+    auto* footer = new QWidget;
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(12);
+    buttons->addWidget(m_tip, 1);
+    buttons->addWidget(m_cancel);
+    buttons->addWidget(m_submit);
+    auto* column = new QVBoxLayout(footer);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(12);
+    column->addWidget(m_progress);
+    column->addLayout(buttons);
+    AddWidget(m_form);
+    AddWidget(m_logFiles);
+    m_logFiles->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    SetFooter(footer);
+}
+
+void UFeedback::InitConnect() {
+    connect(m_form, &FeedbackForm::Changed, this, &UFeedback::ValidateSubmit);
+    connect(m_form, &FeedbackForm::Submitted, this, &UFeedback::OnSubmitButtonClicked);
+    connect(m_submit, &QPushButton::clicked, this, &UFeedback::OnSubmitButtonClicked);
+    connect(m_cancel, &QPushButton::clicked, this, [this] {
+        m_cancellation.Cancel();
+        m_cancel->setEnabled(false);
+    });
+    connect(m_logFiles, &QPushButton::clicked, this, &UFeedback::ShowLogFiles);
+    connect(&m_progressTimer, &QTimer::timeout, this, &UFeedback::ShowProgress);
+    connect(&m_report, &QFutureWatcherBase::finished, this, &UFeedback::OnReportEnded);
+    connect(&m_archive, &QFutureWatcherBase::finished, this, &UFeedback::OnArchiveEnded);
+    connect(this, &UFeedback::LogReported, this, &UFeedback::OnLogReported);
+    connect(this, &UFactsPage::BackRequested, this, &UFeedback::Leave);
+    // A text field that has the focus takes the keys for itself.
+    auto* paste = new QShortcut(QKeySequence::Paste, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
+    connect(paste, &QShortcut::activated, this, &UFeedback::PasteAttachment);
+}
+
+void UFeedback::ValidateSubmit() {
+    m_submit->setEnabled(m_form->IsComplete());
+    ShowTip();
+}
+
+void UFeedback::SetActivity(Activity activity) {
+    m_activity = activity;
+    const bool isBusy = activity != Activity::None;
+    m_form->SetLocked(isBusy);
+    m_submit->SetLoading(activity == Activity::Reporting);
+    m_cancel->setVisible(isBusy);
+    m_cancel->setEnabled(true);
+    m_progress->setVisible(isBusy);
+    if (isBusy) {
+        m_cancellation = Cancellation();
+        m_meter = ProgressMeter();
+        m_progressTimer.start();
+    } else {
+        m_progressTimer.stop();
+    }
+    ShowProgress();
+    ValidateSubmit();
+}
+
+void UFeedback::ShowProgress() {
+    m_progress->setValue(qMax(0, m_meter.Percent()));
+}
+
+void UFeedback::OnSubmitButtonClicked() {
+    if (m_activity != Activity::None || !m_form->IsComplete() || !m_form->CheckEmail())
+        return;
+    const QStringList failed = m_form->Attachments().Failed();
+    if (failed.isEmpty()) {
+        StartReport();
+        return;
+    }
+    UAlert* alert = Ask(tr("feedback_without_title"),
+                        tr("feedback_without_content").arg(failed.join(QStringLiteral("\n"))));
+    alert->SetKind(NoticeKind::Warning);
+    alert->SetOkText(tr("feedback_without_send"));
+    alert->SetCancelText(tr("button_back"));
+    connect(alert, &UAlert::Accepted, this, &UFeedback::StartReport);
+    alert->show();
+}
+
+void UFeedback::OnSubmitRetry() {
+    if (m_activity == Activity::None)
+        StartReport();
+}
+
+void UFeedback::StartReport() {
+    m_outcomeUntold = false;
+    SetActivity(Activity::Reporting);
+    const LogReportRequest request{RyxPath::GetRyxLogDir(),         RyxPath::GetRyxTempDir(),
+                                   MachineHelper::GetDeviceName(),  AppContextData::Instance()->ContextText(),
+                                   m_form->Description(),           m_form->Email(),
+                                   m_form->Attachments().Uploaded()};
+    m_report.setFuture(
+        m_workers.Run([backend = m_backend, request, cancellation = m_cancellation, meter = m_meter] {
+            return ReportLog(backend, request, cancellation, meter);
+        }));
+}
+
+LogReportOutcome UFeedback::ReportLog(const FeedbackBackend& backend, const LogReportRequest& request,
+                                      const Cancellation& cancellation, const ProgressMeter& meter) {
+    LogReportOutcome outcome = backend.report(request, cancellation, meter);
+    LOG_IF(INFO, !outcome.ok) << "UFeedback::ReportLog " << outcome.logLine;
+    return outcome;
+}
+
+void UFeedback::OnReportEnded() {
+    m_outcome = m_report.result();
+    emit LogReported(m_outcome.message, m_outcome.ok);
+}
+
+void UFeedback::OnLogReported(const QString&, bool ok) {
+    SetActivity(Activity::None);
+    if (ok)
+        m_form->Clear();
+    if (m_outcome.error == WebError::Cancelled)
+        Notify(NoticeKind::Info, tr("feedback_cancelled"));
+    else if (ok)
+        TellOutcome(NoticeKind::Success, tr("feedback_sent_title"));
+    else
+        TellOutcome(NoticeKind::Error, tr("feedback_failed_notice"));
+}
+
+// A failure that nobody sees now waits for the user's return.
+void UFeedback::TellOutcome(NoticeKind kind, const QString& notice) {
+    if (isVisible()) {
+        ShowOutcome();
+        return;
+    }
+    m_outcomeUntold = !m_outcome.ok;
+    Notify(kind, notice);
+}
+
+void UFeedback::ShowOutcome() {
+    m_outcomeUntold = false;
+    if (m_outcome.ok) {
+        UAlert* alert = Ask(tr("feedback_sent_title"), tr("feedback_sent_content"));
+        alert->SetKind(NoticeKind::Success);
+        connect(alert, &UAlert::Accepted, this, &UFeedback::Left);
+        alert->show();
+        return;
+    }
+    UAlert* alert = Ask(tr("feedback_failed_title"), FailureText());
+    alert->SetKind(NoticeKind::Error);
+    alert->SetOkText(tr("feedback_retry"));
+    alert->SetCancelText(tr("feedback_close"));
+    alert->SetOtherText(tr("feedback_save"));
+    connect(alert, &UAlert::Accepted, this, &UFeedback::OnSubmitRetry);
+    connect(alert, &UAlert::OtherChosen, this, &UFeedback::ChooseArchive);
+    alert->show();
+}
+
+QString UFeedback::FailureText() const {
+    if (m_outcome.step == ReportStep::Pack)
+        return tr("feedback_failed_pack");
+    QString text = WebErrorText(m_outcome.error);
+    if (m_outcome.error == WebError::Refused && !m_outcome.message.isEmpty())
+        text += QLatin1Char('\n') + tr("feedback_service_says").arg(m_outcome.message);
+    return text + QLatin1Char('\n') + tr("feedback_failed_advice");
+}
+
+void UFeedback::ChooseArchive() {
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const QString name =
+        QStringLiteral("RYXREPORT-%1.zip")
+            .arg(QLocale::c().toString(Clock::System().Now(), QStringLiteral("yyyyMMddhhmmss")));
+    auto* dialog = new QFileDialog(this, tr("feedback_save"), QDir(folder).filePath(name),
+                                   tr("feedback_save_type") + QStringLiteral(" (*.zip)"));
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setDefaultSuffix(QStringLiteral("zip"));
+    dialog->setOption(QFileDialog::DontConfirmOverwrite); // it is asked for below, without an event loop
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QFileDialog::fileSelected, this,
+            [this](const QString& target) { SaveArchive(target, false); });
+    connect(dialog, &QDialog::rejected, this, &UFeedback::ShowOutcome);
+    dialog->open();
+}
+
+void UFeedback::SaveArchive(const QString& target, bool mayReplace) {
+    SetActivity(Activity::Saving);
+    m_target = target;
+    const QString device = QString::fromStdString(MachineHelper::GetDeviceName());
+    const QString text =
+        QStringLiteral("%1\n%2\n%3\n\n%4\n")
+            .arg(device, Clock::System().Now().toString(Qt::ISODate), m_form->Email(), m_form->Description());
+    const ReportArchive archive{RyxPath::GetRyxLogDir(),
+                                RyxPath::GetRyxTempDir(),
+                                text,
+                                m_form->Attachments().Paths(),
+                                target,
+                                mayReplace};
+    m_archive.setFuture(
+        m_workers.Run([archive, control = m_meter.Watch(m_cancellation)] { return archive.Save(control); }));
+}
+
+void UFeedback::OnArchiveEnded() {
+    const bool cancelled = m_cancellation.IsCancelled();
+    SetActivity(Activity::None);
+    switch (m_archive.result()) {
+    case ReportArchive::Result::Saved:
+        Notify(NoticeKind::Success, tr("log_export_log_success"));
+        break;
+    case ReportArchive::Result::Exists: {
+        UAlert* alert = Ask(tr("feedback_replace_title"),
+                            tr("feedback_replace_content").arg(QFileInfo(m_target).fileName()));
+        alert->SetDangerous(true);
+        alert->SetOkText(tr("feedback_replace"));
+        alert->SetCancelText(tr("button_back"));
+        connect(alert, &UAlert::Accepted, this, [this] { SaveArchive(m_target, true); });
+        connect(alert, &UAlert::Rejected, this, &UFeedback::ChooseArchive);
+        alert->show();
+        break;
+    }
+    case ReportArchive::Result::Failed:
+        if (!cancelled)
+            Notify(NoticeKind::Error, tr("log_export_log_failed"));
+        TellOutcome(NoticeKind::Error, tr("feedback_failed_notice")); // neither sent nor saved
+        break;
+    }
+}
+
+void UFeedback::Leave() {
+    if (m_activity != Activity::None) {
+        Notify(NoticeKind::Info, tr("feedback_goes_on"));
+        emit Left();
+    } else if (!m_form->HoldsSomething()) {
+        emit Left();
+    } else {
+        UAlert* alert = Ask(tr("feedback_leave_title"), tr("feedback_leave_content"));
+        alert->SetDangerous(true);
+        alert->SetOkText(tr("feedback_discard"));
+        alert->SetCancelText(tr("feedback_stay"));
+        connect(alert, &UAlert::Accepted, this, [this] {
+            m_form->Clear();
+            emit Left();
+        });
+        alert->show();
+    }
+}
+
+void UFeedback::ShowLogFiles() {
+    (new LogFilesDialog(QString::fromStdWString(RyxPath::GetRyxLogDir()),
+                        QString::fromStdString(MachineHelper::GetDeviceName()), this))
+        ->show();
+}
+
+void UFeedback::PasteAttachment() {
+    const QMimeData* clip = QApplication::clipboard()->mimeData();
+    if (clip && m_activity == Activity::None && AttachmentStrip::CanTake(*clip))
+        m_form->Attachments().Take(*clip);
+}
+
+UAlert* UFeedback::Ask(const QString& title, const QString& content) {
+    auto* alert = new UAlert(this);
+    alert->SetTitle(title);
+    alert->SetContent(content);
+    for (const auto answer : {&UAlert::Accepted, &UAlert::Rejected, &UAlert::OtherChosen})
+        connect(alert, answer, alert, &QObject::deleteLater);
+    return alert;
+}
+
+void UFeedback::Notify(NoticeKind kind, const QString& text) {
+    if (RyxWindow* window = RyxWindow::Of(this))
+        window->Notify(kind, text);
+}
+
+void UFeedback::showEvent(QShowEvent* event) {
+    UFactsPage::showEvent(event);
+    if (m_outcomeUntold)
+        ShowOutcome();
+}
+
+void UFeedback::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange)
+        Retranslate();
+    UFactsPage::changeEvent(event);
+}
+
+void UFeedback::dragEnterEvent(QDragEnterEvent* event) {
+    if (m_activity != Activity::None || !AttachmentStrip::CanTake(*event->mimeData()))
+        return;
+    AcceptCopy(*event);
+    Theme::SetProperty(&m_form->Attachments(), "dropTarget", true);
+}
+
+void UFeedback::dragLeaveEvent(QDragLeaveEvent*) {
+    Theme::SetProperty(&m_form->Attachments(), "dropTarget", false);
+}
+
+void UFeedback::dropEvent(QDropEvent* event) {
+    Theme::SetProperty(&m_form->Attachments(), "dropTarget", false);
+    AcceptCopy(*event);
+    m_form->Attachments().Take(*event->mimeData());
+}
+
+void UFeedback::Retranslate() {
+    m_logFiles->setText(tr("log_files_title"));
+    ShowTip();
+    m_cancel->setText(tr("feedback_cancel"));
+    m_submit->setText(tr("log_submit"));
+}
+
+void UFeedback::ShowTip() {
+    m_tip->setText(m_activity == Activity::Reporting   ? tr("feedback_sending")
+                   : m_activity == Activity::Saving    ? tr("feedback_saving")
+                   : m_form->Attachments().IsPending() ? tr("feedback_uploads_pending")
+                                                       : tr("log_submit_tip"));
+    m_progress->setAccessibleName(m_tip->text());
 }

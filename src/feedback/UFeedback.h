@@ -1,11 +1,96 @@
 #pragma once
 
+#include "feedback/FeedbackBackend.h"
+#include "feedback/ReportArchive.h"
+#include "feedback/Workers.h"
+#include "platform/application/NoticeKind.h"
 #include "widgets/UFactsPage.h"
 
-/// How a person reports a problem.
+#include <QFutureWatcher>
+#include <QTimer>
+
+class FeedbackForm;
+class QProgressBar;
+class UAlert;
+class UTextButton;
+
+/// The page from which a user reports a problem, with the logs of this device.
 class UFeedback : public UFactsPage {
     Q_OBJECT
 
 public:
     explicit UFeedback(QWidget* parent = nullptr);
+    /// Cancels what runs and waits for it, two seconds at most.
+    ~UFeedback() override;
+
+    /// Puts others in the place of those who do the work. Before the page is used.
+    void SetBackend(const FeedbackBackend& backend) { m_backend = backend; }
+
+    /// Lets the user submit what can be submitted.
+    void ValidateSubmit();
+    /// Sends the report, unless it cannot be sent yet or one is on its way.
+    void OnSubmitButtonClicked();
+    /// Sends the same report once more.
+    void OnSubmitRetry();
+
+signals:
+    /// A report has ended: what the service said, and whether it has taken the report.
+    void LogReported(const QString& message, bool ok);
+    /// The user leaves the page.
+    void Left();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    enum class Activity { None, Reporting, Saving };
+
+    void Initialization();
+    void InitConnect();
+    void SetActivity(Activity activity);
+    void ShowProgress();
+    void ShowTip();
+
+    void StartReport();
+    static LogReportOutcome ReportLog(const FeedbackBackend& backend, const LogReportRequest& request,
+                                      const Cancellation& cancellation, const ProgressMeter& meter);
+    void OnReportEnded();
+    void OnLogReported(const QString& message, bool ok);
+    void TellOutcome(NoticeKind kind, const QString& notice);
+    void ShowOutcome();
+    QString FailureText() const;
+
+    void ChooseArchive();
+    void SaveArchive(const QString& target, bool mayReplace);
+    void OnArchiveEnded();
+
+    void Leave();
+    void ShowLogFiles();
+    void PasteAttachment();
+    UAlert* Ask(const QString& title, const QString& content);
+    void Notify(NoticeKind kind, const QString& text);
+    void Retranslate();
+
+    FeedbackBackend m_backend;
+    Workers m_workers{1};
+    Activity m_activity = Activity::None;
+    Cancellation m_cancellation;
+    ProgressMeter m_meter;
+    QFutureWatcher<LogReportOutcome> m_report;
+    QFutureWatcher<ReportArchive::Result> m_archive;
+    QString m_target; // of the archive
+    LogReportOutcome m_outcome;
+    bool m_outcomeUntold = false; // it came while the page was not seen
+    QTimer m_progressTimer{this};
+
+    FeedbackForm* m_form;
+    UTextButton* m_logFiles;
+    QLabel* m_tip;
+    QProgressBar* m_progress;
+    UTextButton* m_cancel;
+    UTextButton* m_submit;
 };

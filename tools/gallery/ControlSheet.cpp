@@ -93,7 +93,7 @@ ControlSheet::ControlSheet() {
     column->addLayout(Buttons());
     column->addLayout(Fields());
     auto* text = new QPlainTextEdit(Text("launcher_sentence"));
-    text->setAccessibleName(Text("feedback_title"));
+    text->setAccessibleName(Text("log_report_title"));
     text->setTabChangesFocus(true);
     text->setMaximumHeight(100);
     column->addWidget(text);

@@ -18,6 +18,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QLocalServer>
 #include <QMenu>
@@ -292,7 +293,14 @@ QWidget& Stage::Subject() {
 
 QVector<Scene> AllScenes() {
     return PageScenes() + ShellScenes() + NoticeScenes() + EnrollPageScenes() + EnrollScenes() +
-           OtherScenes();
+           FeedbackScenes() + OtherScenes();
+}
+
+bool WaitFor(const std::function<bool()>& condition) {
+    const QDeadlineTimer deadline(10000);
+    while (!condition() && !deadline.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
+    return condition();
 }
 
 void Settle() {

@@ -52,6 +52,8 @@ struct Scene {
 };
 
 QVector<Scene> AllScenes();
+/// Those of the log report.
+QVector<Scene> FeedbackScenes();
 
 /// Those of the enrolment's page.
 QVector<Scene> EnrollPageScenes();
@@ -61,3 +63,6 @@ QVector<Scene> EnrollScenes();
 
 /// Lets layouts, deferred updates and queued events come to rest.
 void Settle();
+
+/// Runs the event loop until the condition holds, ten seconds at most; whether it does.
+bool WaitFor(const std::function<bool()>& condition);

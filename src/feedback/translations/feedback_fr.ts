@@ -4,16 +4,293 @@
 <context>
     <name>Ryx</name>
     <message>
-        <source>feedback_note</source>
-        <translation>Cette version ne permet pas encore d’envoyer de rapports. En attendant, adressez-vous directement à votre administrateur.</translation>
+        <source>+ Add attachments (Optional)</source>
+        <translation>+ Ajouter des pièces jointes (facultatif)</translation>
+    </message>
+    <message>
+        <source>attachment_cancel</source>
+        <translation>Annuler l’envoi de %1</translation>
+    </message>
+    <message>
+        <source>attachment_choose</source>
+        <translation>Choisir des pièces jointes</translation>
+    </message>
+    <message>
+        <source>attachment_empty</source>
+        <translation>le fichier est vide.</translation>
+    </message>
+    <message>
+        <source>attachment_folder</source>
+        <translation>c’est un dossier.</translation>
+    </message>
+    <message>
+        <source>attachment_more_refused</source>
+        <translation>%1 autres n’ont pas été joints non plus.</translation>
+    </message>
+    <message>
+        <source>attachment_note</source>
+        <translation>Jusqu’à %1 fichiers de %2 chacun. Vous pouvez aussi déposer des fichiers ici ou coller une image.</translation>
+    </message>
+    <message>
+        <source>attachment_refused</source>
+        <translation>« %1 » n’a pas été joint : %2</translation>
+    </message>
+    <message>
+        <source>attachment_remove</source>
+        <translation>Retirer %1</translation>
+    </message>
+    <message>
+        <source>attachment_retry</source>
+        <translation>Réessayer d’envoyer %1</translation>
+    </message>
+    <message>
+        <source>attachment_too_large</source>
+        <translation>le fichier dépasse %1.</translation>
+    </message>
+    <message>
+        <source>attachment_too_many</source>
+        <translation>il y a déjà %1 pièces jointes.</translation>
+    </message>
+    <message>
+        <source>attachment_twice</source>
+        <translation>il est déjà joint.</translation>
+    </message>
+    <message>
+        <source>attachment_unreadable</source>
+        <translation>le fichier ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>attachment_uploaded</source>
+        <translation>Téléversé, %1</translation>
+    </message>
+    <message>
+        <source>attachment_uploading</source>
+        <translation>Envoi en cours, %1 % de %2</translation>
+    </message>
+    <message>
+        <source>attachment_waiting</source>
+        <translation>En attente, %1</translation>
+    </message>
+    <message>
+        <source>feedback_cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>feedback_cancelled</source>
+        <translation>Le rapport a été annulé.</translation>
+    </message>
+    <message>
+        <source>feedback_close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>feedback_discard</source>
+        <translation>Abandonner</translation>
+    </message>
+    <message>
+        <source>feedback_failed_advice</source>
+        <translation>Rien n’est perdu : réessayez, ou enregistrez le rapport et transmettez-le autrement.</translation>
+    </message>
+    <message>
+        <source>feedback_failed_notice</source>
+        <translation>Votre rapport n’a pas été envoyé. La page « Rapport de journal » dit pourquoi.</translation>
+    </message>
+    <message>
+        <source>feedback_failed_pack</source>
+        <translation>Les journaux de cet appareil n’ont pas pu être compressés.</translation>
+    </message>
+    <message>
+        <source>feedback_failed_title</source>
+        <translation>Le rapport n’a pas été envoyé</translation>
+    </message>
+    <message>
+        <source>feedback_goes_on</source>
+        <translation>L’opération continue. Vous serez averti du résultat.</translation>
+    </message>
+    <message>
+        <source>feedback_leave_content</source>
+        <translation>Il n’a pas été envoyé. Le texte et les pièces jointes seraient perdus.</translation>
+    </message>
+    <message>
+        <source>feedback_leave_title</source>
+        <translation>Abandonner ce rapport ?</translation>
+    </message>
+    <message>
+        <source>feedback_replace</source>
+        <translation>Remplacer</translation>
+    </message>
+    <message>
+        <source>feedback_replace_content</source>
+        <translation>« %1 » existe déjà. Son contenu serait perdu.</translation>
+    </message>
+    <message>
+        <source>feedback_replace_title</source>
+        <translation>Remplacer ce fichier ?</translation>
+    </message>
+    <message>
+        <source>feedback_retry</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>feedback_save</source>
+        <translation>Enregistrer …</translation>
+    </message>
+    <message>
+        <source>feedback_save_type</source>
+        <translation>Archive ZIP</translation>
+    </message>
+    <message>
+        <source>feedback_saving</source>
+        <translation>Le rapport est en cours d’enregistrement …</translation>
+    </message>
+    <message>
+        <source>feedback_sending</source>
+        <translation>Le rapport est en cours d’envoi …</translation>
+    </message>
+    <message>
+        <source>feedback_sent_content</source>
+        <translation>Merci. Votre administrateur l’a maintenant reçu.</translation>
+    </message>
+    <message>
+        <source>feedback_sent_title</source>
+        <translation>Le rapport a été envoyé</translation>
     </message>
     <message>
         <source>feedback_sentence</source>
-        <translation>C’est ici qu’un problème est décrit et signalé à votre administrateur, avec les journaux de cet appareil.</translation>
+        <translation>Décrivez ici un problème. Votre administrateur reçoit le rapport avec les journaux de cet appareil.</translation>
     </message>
     <message>
-        <source>feedback_title</source>
+        <source>feedback_service_says</source>
+        <translation>Le service indique : %1</translation>
+    </message>
+    <message>
+        <source>feedback_stay</source>
+        <translation>Continuer</translation>
+    </message>
+    <message>
+        <source>feedback_uploads_pending</source>
+        <translation>Le rapport pourra être envoyé une fois les pièces jointes téléversées.</translation>
+    </message>
+    <message>
+        <source>feedback_without_content</source>
+        <translation>Elles n’ont pas été téléversées :
+%1</translation>
+    </message>
+    <message>
+        <source>feedback_without_send</source>
+        <translation>Envoyer sans</translation>
+    </message>
+    <message>
+        <source>feedback_without_title</source>
+        <translation>Envoyer sans ces pièces jointes ?</translation>
+    </message>
+    <message>
+        <source>log_contract_email_hint</source>
+        <translation>nom@exemple.fr</translation>
+    </message>
+    <message>
+        <source>log_contract_email_title</source>
+        <translation>Adresse e-mail pour toute question (facultatif)</translation>
+    </message>
+    <message>
+        <source>log_description_hint</source>
+        <translation>Que s’est-il passé, et que faisiez-vous juste avant ?</translation>
+    </message>
+    <message>
+        <source>log_description_title</source>
+        <translation>Description du problème</translation>
+    </message>
+    <message>
+        <source>log_export_log_failed</source>
+        <translation>Le rapport n’a pas pu être enregistré.</translation>
+    </message>
+    <message>
+        <source>log_export_log_success</source>
+        <translation>Le rapport a été enregistré.</translation>
+    </message>
+    <message>
+        <source>log_files_content</source>
+        <translation>En plus de votre texte et de vos pièces jointes, le rapport contient le nom de cet appareil (%1) et ses fichiers journaux : %2, soit %3 au total.</translation>
+    </message>
+    <message>
+        <source>log_files_end_only</source>
+        <translation>Les derniers %1 du fichier sont affichés ; il est envoyé en entier.</translation>
+    </message>
+    <message>
+        <source>log_files_none</source>
+        <translation>Il n’y a aucun fichier journal sur cet appareil.</translation>
+    </message>
+    <message>
+        <source>log_files_open</source>
+        <translation>Afficher</translation>
+    </message>
+    <message>
+        <source>log_files_open_name</source>
+        <translation>Afficher %1</translation>
+    </message>
+    <message>
+        <source>log_files_title</source>
+        <translation>Ce qui sera envoyé</translation>
+    </message>
+    <message>
+        <source>log_files_unreadable</source>
+        <translation>Ce fichier ne peut pas être lu. Le rapport l’omet.</translation>
+    </message>
+    <message>
+        <source>log_report_title</source>
         <translation>Rapport de journal</translation>
+    </message>
+    <message>
+        <source>log_submit</source>
+        <translation>Envoyer</translation>
+    </message>
+    <message>
+        <source>log_submit_tip</source>
+        <translation>Les journaux de cet appareil sont envoyés avec le rapport.</translation>
+    </message>
+    <message>
+        <source>view_register_input_error_email_input</source>
+        <translation>Cette adresse e-mail n’est pas valide.</translation>
+    </message>
+    <message>
+        <source>web_error_bad_answer</source>
+        <translation>La réponse du service est incompréhensible.</translation>
+    </message>
+    <message>
+        <source>web_error_cancelled</source>
+        <translation>Annulé.</translation>
+    </message>
+    <message>
+        <source>web_error_file</source>
+        <translation>Le fichier n’a pas pu être lu ou a changé entre-temps.</translation>
+    </message>
+    <message>
+        <source>web_error_not_configured</source>
+        <translation>Cet appareil ne connaît pas l’adresse du service.</translation>
+    </message>
+    <message>
+        <source>web_error_not_trusted</source>
+        <translation>Le serveur n’a pas pu prouver son identité.</translation>
+    </message>
+    <message>
+        <source>web_error_other</source>
+        <translation>Une erreur est survenue.</translation>
+    </message>
+    <message>
+        <source>web_error_refused</source>
+        <translation>Le service a refusé la demande.</translation>
+    </message>
+    <message>
+        <source>web_error_timed_out</source>
+        <translation>Le service n’a pas répondu à temps.</translation>
+    </message>
+    <message>
+        <source>web_error_too_large</source>
+        <translation>Le fichier est trop volumineux.</translation>
+    </message>
+    <message>
+        <source>web_error_unreachable</source>
+        <translation>Le service est injoignable.</translation>
     </message>
 </context>
 </TS>

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/files/TaskControl.h"
+
+#include <QString>
+#include <QStringList>
+#include <string>
+
+/// A whole report as a ZIP archive, for any other way to the administrator.
+struct ReportArchive {
+    enum class Result {
+        Saved,
+        Exists, ///< something stands there that may not be replaced
+        Failed,
+    };
+
+    std::wstring logFolder;
+    std::wstring tempFolder;
+    QString text;            ///< what stands in report.txt
+    QStringList attachments; ///< paths
+    QString target;          ///< path of the archive
+    bool mayReplace = false;
+
+    /// Puts the parts together and packs them. What stands at the target stays, unless it may be replaced
+    /// and the new archive is whole. Worker threads.
+    Result Save(const TaskControl& control) const;
+};
