@@ -44,11 +44,13 @@ FeedbackForm::FeedbackForm(const FeedbackBackend& backend, QWidget* parent)
     connect(m_description, &QTextEdit::textChanged, this, &FeedbackForm::OnDescriptionChanged);
     connect(m_description, &DescriptionBox::AttachmentPasted, m_attachments, &AttachmentStrip::Take);
     connect(m_attachments, &AttachmentStrip::Changed, this, &FeedbackForm::Changed);
-    connect(m_email, &QLineEdit::textChanged, this, [this] {
+    connect(m_email, &QLineEdit::textChanged, this, [this](const QString& text) {
+        Theme::SetProperty(m_email, "blank", text.isEmpty());
         ShowEmailError(false);
         emit Changed();
     });
     connect(m_email, &QLineEdit::returnPressed, this, &FeedbackForm::Submitted);
+    Theme::SetProperty(m_email, "blank", true);
     OnDescriptionChanged();
     Retranslate();
 }
@@ -99,6 +101,7 @@ void FeedbackForm::SetLocked(bool locked) {
 
 void FeedbackForm::OnDescriptionChanged() {
     const int characters = Description().toUcs4().size();
+    Theme::SetProperty(m_description, "blank", characters == 0);
     m_counter->setText(QStringLiteral("%1/%2").arg(characters).arg(CharacterLimit));
     Theme::SetProperty(m_counter, "charToLong", characters > CharacterLimit);
     emit Changed();

@@ -99,6 +99,7 @@ void UAlert::SetOtherText(const QString& text) {
 }
 
 void UAlert::SetDangerous(bool dangerous) {
+    m_dangerous = dangerous;
     m_ok->SetLook(dangerous ? UTextButton::Look::Danger : UTextButton::Look::Primary);
 }
 
@@ -109,7 +110,7 @@ void UAlert::setVisible(bool visible) {
 }
 
 void UAlert::Presented() {
-    m_ok->setFocus(Qt::PopupFocusReason);
+    (m_dangerous && !m_cancel->isHidden() ? m_cancel : m_ok)->setFocus(Qt::PopupFocusReason);
     if (m_timeoutMs > 0)
         m_timeout.start(m_timeoutMs);
     AnnounceAlert(this);

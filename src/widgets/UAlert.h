@@ -28,7 +28,7 @@ public:
     void SetCancelText(const QString& text);
     /// Text of a third button, for another way than the two; as long as it is empty there is none.
     void SetOtherText(const QString& text);
-    /// The agreeing button takes something away for good.
+    /// The agreeing button takes something away for good: the declining one has the focus at first.
     void SetDangerous(bool dangerous);
     /// Lets the alert go away by itself, as if declined, after so many milliseconds on screen; 0: never.
     void SetTimeout(int milliseconds) { m_timeoutMs = milliseconds; }
@@ -56,6 +56,7 @@ private:
     UTextButton* m_cancel;
     UTextButton* m_ok;
     bool m_okTextGiven = false;
+    bool m_dangerous = false;
     int m_timeoutMs = 0;
     QTimer m_timeout;
 };
