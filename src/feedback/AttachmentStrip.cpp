@@ -3,6 +3,7 @@
 #include "platform/context/LanguageHelper.h"
 #include "platform/context/RyxPath.h"
 #include "widgets/AccessibleRole.h"
+#include "widgets/GestureScrollArea.h"
 #include "widgets/QFlowLayout.h"
 #include "widgets/ThemeIcon.h"
 #include "widgets/UTextButton.h"
@@ -96,6 +97,7 @@ void AttachmentStrip::Inspect(const QFuture<QVector<AttachmentFile>>& inspection
             m_refused.clear();
             for (const AttachmentFile& file : watcher->result())
                 Add(file);
+            GestureScrollArea::Reveal(m_list);
             ShowRefusals();
         }
         emit Changed();
@@ -253,6 +255,8 @@ void AttachmentStrip::ShowRefusals() {
     const bool isNew = !text.isEmpty() && text != m_refusals->text();
     m_refusals->setText(text);
     m_refusals->setVisible(!text.isEmpty());
-    if (isNew)
+    if (isNew) {
+        GestureScrollArea::Reveal(m_refusals);
         AnnounceAlert(m_refusals);
+    }
 }

@@ -4,6 +4,7 @@
 #include "feedback/DescriptionBox.h"
 #include "platform/context/Theme.h"
 #include "widgets/AccessibleRole.h"
+#include "widgets/GestureScrollArea.h"
 #include "widgets/UTextLabel.h"
 
 #include <QEvent>
@@ -82,6 +83,7 @@ bool FeedbackForm::CheckEmail() {
     ShowEmailError(!Email().isEmpty() && !IsEmail(Email()));
     if (m_emailIsWrong) {
         m_email->setFocus();
+        GestureScrollArea::Reveal(m_emailError);
         AnnounceAlert(m_emailError);
     }
     return !m_emailIsWrong;
@@ -91,6 +93,7 @@ void FeedbackForm::Clear() {
     m_description->clear();
     m_email->clear();
     m_attachments->Clear();
+    GestureScrollArea::Reveal(m_descriptionTitle);
 }
 
 void FeedbackForm::SetLocked(bool locked) {

@@ -20,6 +20,7 @@
 namespace {
 
 constexpr int CardWidth = 760;
+constexpr int LowestList = 60;
 constexpr qint64 MostShown = 256 * 1024; // of a file, its end
 
 QString SizeText(qint64 bytes) {
@@ -50,7 +51,7 @@ LogFilesDialog::LogFilesDialog(const QString& folder, const QString& deviceName,
     auto* column = new QVBoxLayout(card);
     column->setContentsMargins(28, 24, 28, 24);
     column->addWidget(m_stack);
-    m_grid->setContentsMargins(24, 24, 24, 24);
+    m_grid->setContentsMargins(12, 12, 12, 12);
     m_grid->setColumnStretch(0, 1);
     m_grid->setColumnStretch(1, 100);
     m_grid->setColumnStretch(2, 1);
@@ -79,6 +80,7 @@ QWidget* LogFilesDialog::MakeList() {
     rows->setAutoFillBackground(false); // the card's shows
     area->setWidgetResizable(true);
     area->setFocusPolicy(Qt::NoFocus);
+    area->setMinimumHeight(LowestList);
     auto* list = new QWidget;
     auto* column = new QVBoxLayout(list);
     column->setContentsMargins(0, 0, 0, 0);

@@ -13,6 +13,7 @@
 namespace {
 
 constexpr int CardWidth = 480;
+constexpr int CardWidthWithThree = 580; // buttons
 
 } // namespace
 
@@ -35,6 +36,7 @@ UAlert::UAlert(QWidget* parent)
     head->addWidget(m_icon, 0, Qt::AlignTop);
     head->addWidget(m_title, 1);
     QVBoxLayout* column = MakeCard(CardWidth);
+    m_card = column->parentWidget();
     column->addLayout(head);
     column->addWidget(m_content);
     column->addSpacing(12);
@@ -96,6 +98,7 @@ void UAlert::SetCancelText(const QString& text) {
 void UAlert::SetOtherText(const QString& text) {
     m_other->setText(text);
     m_other->setVisible(!text.isEmpty());
+    m_card->setMaximumWidth(text.isEmpty() ? CardWidth : CardWidthWithThree);
 }
 
 void UAlert::SetDangerous(bool dangerous) {

@@ -49,6 +49,7 @@ private:
     void Close(void (UAlert::*answer)());
     void Retranslate();
 
+    QWidget* m_card;
     UIconLabel* m_icon;
     QLabel* m_title;
     QLabel* m_content;

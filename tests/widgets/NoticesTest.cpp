@@ -164,7 +164,8 @@ TEST_F(Notices, StayWithinTheWindowWhateverItsSize) {
         QCoreApplication::processEvents();
         EXPECT_EQ(alert->geometry(), window.rect());
         for (const UTextButton* button : alert->findChildren<UTextButton*>())
-            EXPECT_TRUE(window.rect().contains({button->mapTo(&window, QPoint()), button->size()}));
+            EXPECT_TRUE(button->isHidden() ||
+                        window.rect().contains({button->mapTo(&window, QPoint()), button->size()}));
         EXPECT_TRUE(window.rect().contains(toast.geometry())) << size.width();
         EXPECT_LE(qAbs(2 * toast.geometry().center().x() - size.width()), 4);
     }
