@@ -9,7 +9,7 @@ class GestureScrollArea : public QScrollArea {
 public:
     explicit GestureScrollArea(QWidget* parent = nullptr);
 
-    /// Scrolls the area that the widget lies in, if it lies in one, so far that the widget is seen, as soon as
-    /// it has its place.
+    /// Scrolls the area that the widget lies in, if it lies in one, so far that the widget is seen, as soon
+    /// as it has its place.
     static void Reveal(QWidget* widget);
 };

@@ -471,6 +471,48 @@ TEST_F(EndToEndTest, NeitherWindowNorLockVetoesTheEndOfTheSession) {
     EXPECT_TRUE(WaitUntil([&] { return product.FrontEnd().Result() == 0; }));
 }
 
+// With the keyboard alone: to the last entry of the menu, over the page's fields, and to the button that
+// sends.
+TEST_F(EndToEndTest, AReportArrivesWithTheLogAndAFailedOneLeavesNothingBehind) {
+    const std::string store = product.Folder() + "/store";
+    ASSERT_TRUE(product.StartAgent({"--web", "0", "--web-folder", product.PathForPrograms(store)}));
+    const std::string said = product.Agent().Output();
+    const auto address = said.find("http://");
+    ASSERT_NE(address, std::string::npos) << said;
+    product.Configure("webServer",
+                      QString::fromStdString(said.substr(address, said.find(',', address) - address)));
+    product.Configure("enrolled", true);
+    product.StartFrontEnd();
+    ASSERT_TRUE(mainPage.WaitForStatus(MainPage::Connected));
+    const auto press = [](const char* key, int times) {
+        for (int i = 0; i < times; ++i)
+            screen->Press(key);
+    };
+    const auto temporaryFiles = [this] {
+        return QDir(QString::fromStdString(product.Folder() + "/data/temp"))
+            .entryList(QDir::AllEntries | QDir::NoDotAndDotDot)
+            .size();
+    };
+    press("Tab", 5);
+    press("space", 1);
+    press("Tab", 1);
+    screen->Type("broken");
+    press("Tab", 4);
+    product.Tell("web log 500");
+    press("space", 1);
+    EXPECT_TRUE(product.WaitForLog("UFeedback::ReportLog NotifyDeviceLogUpload failed."));
+    EXPECT_EQ(temporaryFiles(), 0);
+    product.Tell("web log ok");
+    ASSERT_TRUE(WaitUntil([&] { // until the dialog is there, whose first button tries again
+        screen->Press("Return");
+        return product.AgentLines("web feedback kept") > 0;
+    }));
+    EXPECT_TRUE(WaitUntil([&] { return temporaryFiles() == 0; }));
+    QFile document(QString::fromStdString(store + "/feedback-1.json"));
+    ASSERT_TRUE(document.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(document.readAll().contains("\"content\": \"broken\""));
+}
+
 TEST_F(EndToEndTest, AnImpostorIsRefusedAndToldNothing) {
     product.Configure("agentAccount", QLatin1String("daemon"));
     std::vector<std::string> asAnother;

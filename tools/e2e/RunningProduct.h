@@ -97,6 +97,9 @@ public:
     /// What a failed test should tell: the agent service's lines and the log.
     std::string Story();
 
+    /// The path as the programs name it, such as on their drive Z.
+    std::string PathForPrograms(const std::string& path) const;
+
     Desktop& Screen() const { return m_desktop; }
     std::string Folder() const { return m_folder.path().toStdString(); }
 
@@ -106,7 +109,6 @@ private:
     void WriteConfiguration();
     bool TellOfDrive(const char* what);
     bool HaveMet();
-    std::string PathForPrograms(const std::string& path) const;
     std::string Log() const;
 
     Desktop& m_desktop;
