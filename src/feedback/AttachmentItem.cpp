@@ -120,7 +120,8 @@ void AttachmentItem::OnUploaded() {
 
 void AttachmentItem::SetState(State state) {
     m_state = state;
-    Theme::SetProperty(this, "failed", state == State::Failed);
+    for (QWidget* part : {static_cast<QWidget*>(this), static_cast<QWidget*>(m_status)})
+        Theme::SetProperty(part, "failed", state == State::Failed);
     m_again->setVisible(state != State::Uploaded);
     m_again->setIcon(
         ThemeIcon::Get(state == State::Failed ? QStringLiteral("retry") : QStringLiteral("close")));

@@ -205,7 +205,7 @@ void UFeedback::OnLogReported(const QString&, bool ok) {
 
 // A failure that nobody sees now waits for the user's return.
 void UFeedback::TellOutcome(NoticeKind kind, const QString& notice) {
-    if (isVisible()) {
+    if (isVisible() && !window()->isMinimized()) {
         ShowOutcome();
         return;
     }

@@ -66,7 +66,8 @@ struct Agent : testing::Test {
     ManualClock clock;
     AgentService service{server, clock};
     AgentEnrolment enrolment{server, service, log};
-    CommandInterpreter interpreter{server, service, enrolment, log};
+    WebService web{log, QDir::tempPath()};
+    CommandInterpreter interpreter{server, service, enrolment, log, &web};
 };
 
 TEST_F(Agent, SendsToEveryClientAndAnswersTheOneThatAsks) {
