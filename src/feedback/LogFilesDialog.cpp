@@ -100,8 +100,9 @@ void LogFilesDialog::AddRow(QVBoxLayout& rows, const QString& path) {
     auto* name = new UElidedLabel;
     name->SetElideMode(Qt::ElideMiddle);
     name->SetText(QDir(m_folder).relativeFilePath(path));
-    auto* size = new QLabel(SizeText(info.size()));
+    auto* size = new QLabel;
     size->setObjectName(QStringLiteral("logFileSize"));
+    size->setProperty("bytes", info.size());
     size->setTextFormat(Qt::PlainText);
     auto* open = new UTextButton(UTextButton::Look::Plain);
     open->setObjectName(QStringLiteral("logFileOpen"));
@@ -198,6 +199,8 @@ void LogFilesDialog::Retranslate() {
                                  .arg(m_deviceName, LanguageHelper::Instance()->Locale().toString(m_files),
                                       SizeText(m_bytes)));
     m_close->setText(tr("button_ok"));
+    for (auto* size : findChildren<QLabel*>(QStringLiteral("logFileSize")))
+        size->setText(SizeText(size->property("bytes").toLongLong()));
     for (auto* open : findChildren<UTextButton*>(QStringLiteral("logFileOpen"))) {
         open->setText(tr("log_files_open"));
         open->setAccessibleName(tr("log_files_open_name").arg(open->property("fileName").toString()));

@@ -62,7 +62,7 @@ protected:
 
     const QTemporaryDir place;
     const QDir folder{place.path()};
-    const AfternoonClock clock;
+    const AfternoonClock clock{};
     std::ostringstream lines;
     EventLog log{lines};
     WebService service{log, place.filePath(QStringLiteral("store"))};
