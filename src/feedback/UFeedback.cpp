@@ -233,9 +233,8 @@ void UFeedback::ShowOutcome() {
 }
 
 QString UFeedback::FailureText() const {
-    if (m_outcome.step == ReportStep::Pack)
-        return tr("feedback_failed_pack");
-    QString text = WebErrorText(m_outcome.error);
+    QString text =
+        m_outcome.step == ReportStep::Pack ? tr("feedback_failed_pack") : WebErrorText(m_outcome.error);
     if (m_outcome.error == WebError::Refused && !m_outcome.message.isEmpty())
         text += QLatin1Char('\n') + tr("feedback_service_says").arg(m_outcome.message);
     return text + QLatin1Char('\n') + tr("feedback_failed_advice");
