@@ -32,8 +32,11 @@ QRect EnrolPage::Button(const QColor& color) const {
     const QRect footer = Footer();
     if (footer.isEmpty() || IsCovered())
         return {};
-    const QRect place = FindColor(m_desktop.Screenshot(footer), color).bounds;
-    const bool isButton = place.width() >= SmallestWords.width() && place.height() >= SmallestWords.height();
+    const ColorArea area = FindColor(m_desktop.Screenshot(footer), color);
+    const QRect place = area.bounds;
+    // One that waits has a border of that colour alone.
+    const bool isButton = area.pixels > (color == Accent ? FilledPixels : WordsPixels) &&
+                          place.width() >= SmallestWords.width() && place.height() >= SmallestWords.height();
     return isButton ? place.translated(footer.topLeft()) : QRect();
 }
 
