@@ -68,7 +68,8 @@ protected:
     WebService service{log, place.filePath(QStringLiteral("store"))};
     AgentServer server{log};
     AgentService agent{server};
-    CommandInterpreter interpreter{server, agent, log, &service};
+    AgentEnrolment enrolment{server, agent, log};
+    CommandInterpreter interpreter{server, agent, enrolment, log, &service};
     RyxWebClient client;
 };
 

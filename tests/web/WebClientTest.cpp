@@ -75,7 +75,8 @@ struct Web : testing::Test {
     WebService service{log, folder.filePath(QStringLiteral("store"))};
     AgentServer server{log};
     AgentService agent{server};
-    CommandInterpreter interpreter{server, agent, log, &service};
+    AgentEnrolment enrolment{server, agent, log};
+    CommandInterpreter interpreter{server, agent, enrolment, log, &service};
     WebSettings settings;
     RyxWebClient client;
     std::string message;
