@@ -21,6 +21,12 @@ protected:
         product.Tell("bodies on");
         return true;
     }
+    /// Tells the service, which has heard it afterwards.
+    void Order(const std::string& command) {
+        product.Tell(command);
+        product.Tell("say heard");
+        ASSERT_TRUE(product.AgentSays("say heard"));
+    }
     bool StartEnrolled() { return StartBoth() && enrolPage.Wait(&EnrolPage::OffersUnenrolment); }
     void OpenPrompt() {
         enrolPage.PressButton();
@@ -50,7 +56,7 @@ protected:
 
 TEST_F(EnrolmentEndToEndTest, EnrolsIsKnownAfterARestartAndUnenrolsWithThePassword) {
     ASSERT_TRUE(StartFilled());
-    product.Tell("binding-delay 0.5");
+    Order("binding-delay 0.5");
     enrolPage.PressButton(5);
     ASSERT_TRUE(product.AgentSays("\"code\" : \"a1b2c3\""));
     ASSERT_TRUE(BecomesEnrolled());
@@ -81,10 +87,10 @@ TEST_F(EnrolmentEndToEndTest, EnrolsIsKnownAfterARestartAndUnenrolsWithThePasswo
 
 TEST_F(EnrolmentEndToEndTest, EachFailureIsToldAndTheNextTryMayDoBetter) {
     ASSERT_TRUE(StartFilled());
-    product.Tell("binding-delay 1");
+    Order("binding-delay 1");
     for (const char* code : {"r_802001", "error", "170002", "other", "net_error"}) {
         SCOPED_TRACE(code);
-        product.Tell(std::string("binding fail ") + code);
+        Order(std::string("binding fail ") + code);
         enrolPage.PressButton();
         ASSERT_TRUE(WaitUntil([&] { return !enrolPage.OffersAction(); })) << "it waits";
         ASSERT_TRUE(product.AgentSays("was sent 3 Binding"));
@@ -99,7 +105,7 @@ TEST_F(EnrolmentEndToEndTest, EachFailureIsToldAndTheNextTryMayDoBetter) {
                   code == std::string("r_802001"));
     }
     EXPECT_EQ(product.AgentLines("received 3 Binding"), 5);
-    product.Tell("binding normal");
+    Order("binding normal");
     enrolPage.PressButton();
     EXPECT_TRUE(BecomesEnrolled());
 }
@@ -125,7 +131,7 @@ TEST_F(EnrolmentEndToEndTest, AnAnswerIsCorrectedAndTheAgreementIsNotForgotten) 
 
 TEST_F(EnrolmentEndToEndTest, WithoutTheServiceNobodyWaits) {
     ASSERT_TRUE(StartFilled());
-    product.Tell("binding silent");
+    Order("binding silent");
     enrolPage.PressButton();
     ASSERT_TRUE(product.AgentSays("received 3 Binding"));
     product.Agent().Kill();
@@ -147,7 +153,7 @@ TEST_F(EnrolmentEndToEndTest, WithoutTheServiceNobodyWaits) {
 
 TEST_F(EnrolmentEndToEndTest, AStatusBeforeTheResultIsTheResult) {
     ASSERT_TRUE(StartFilled());
-    product.Tell("binding silent");
+    Order("binding silent");
     enrolPage.PressButton();
     ASSERT_TRUE(product.AgentSays("received 3 Binding"));
     product.Tell("status connected");
@@ -158,7 +164,7 @@ TEST_F(EnrolmentEndToEndTest, AStatusBeforeTheResultIsTheResult) {
     EXPECT_FALSE(enrolPage.IsCovered());
     product.Tell("status connected");
     EXPECT_TRUE(enrolPage.Wait(&EnrolPage::OffersUnenrolment));
-    product.Tell("binding normal");
+    Order("binding normal");
     OpenPrompt(); // the request's values are known
     screen->Type("123456");
     screen->Press("Return");
@@ -192,6 +198,8 @@ TEST_F(EnrolmentEndToEndTest, ThePromptGoesWithWhatItIsAskedFor) {
 }
 
 TEST_F(EnrolmentEndToEndTest, AStickFillsTheFormInOrIsRefused) {
+    if (product.HasLauncher())
+        GTEST_SKIP() << "the front end does not see a drive that another program makes under Wine";
     ASSERT_TRUE(StartUnenrolled());
     const std::string folder = product.Folder() + "/stick";
     Put("Enrollment.json", "[]");
@@ -217,8 +225,8 @@ TEST_F(EnrolmentEndToEndTest, AStickFillsTheFormInOrIsRefused) {
 
 TEST_F(EnrolmentEndToEndTest, WhatHappensBehindAClosedWindowIsToldInTheTray) {
     ASSERT_TRUE(StartFilled());
-    product.Tell("binding-delay 1");
-    product.Tell("binding fail error");
+    Order("binding-delay 1");
+    Order("binding fail error");
     enrolPage.PressButton();
     ASSERT_TRUE(product.AgentSays("received 3 Binding"));
     screen->Close(screen->Find(MainPage::Title).value());
