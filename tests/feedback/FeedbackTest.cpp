@@ -60,6 +60,7 @@ struct Scripted {
 struct Window : RyxWindow {
     void Notify(NoticeKind, const QString& text) override { notices.append(text); }
     void OpenNetworkPage() override {}
+    void OpenEnrolmentPage() override {}
     QStringList notices;
 };
 
