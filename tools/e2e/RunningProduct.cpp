@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
+#include <algorithm>
 #include <cstdlib>
 #include <sstream>
 #include <stdexcept>
@@ -176,9 +177,9 @@ void RunningProduct::WriteConfiguration() {
 
 bool RunningProduct::PlugIn(const std::string& folder) {
     if (HasLauncher()) {
-        m_drive = Variable("WINEPREFIX") + "/dosdevices/t:";
-        return QFile::link(QString::fromStdString(folder), QString::fromStdString(m_drive)) &&
-               TellOfDrive("arrive");
+        m_drive = "Z:" + folder;
+        std::replace(m_drive.begin(), m_drive.end(), '/', '\\');
+        return TellOfDrive("arrive");
     }
     m_drive = "/mnt/" + m_folder.path().section(QLatin1Char('/'), -1).toStdString();
     return QDir().mkpath(QString::fromStdString(m_drive)) &&
@@ -189,7 +190,6 @@ void RunningProduct::PlugOut() {
     if (m_drive.empty())
         return;
     if (HasLauncher()) {
-        QFile::remove(QString::fromStdString(m_drive));
         TellOfDrive("remove");
     } else {
         std::system(("umount " + m_drive + " 2>/dev/null").c_str());
@@ -200,7 +200,7 @@ void RunningProduct::PlugOut() {
 
 bool RunningProduct::TellOfDrive(const char* what) {
     ChildProcess message;
-    Start(message, Steering::VolumeMessage, {what, "T"});
+    Start(message, Steering::VolumeMessage, {what, "T", m_drive});
     return WaitUntil([&] { return message.Result().has_value(); }) && message.Result() == 0;
 }
 
