@@ -91,8 +91,11 @@ TEST_F(EnrolmentEndToEndTest, EachFailureIsToldAndTheNextTryMayDoBetter) {
     for (const char* code : {"r_802001", "error", "170002", "other", "net_error"}) {
         SCOPED_TRACE(code);
         Order(std::string("binding fail ") + code);
-        enrolPage.PressButton();
-        ASSERT_TRUE(WaitUntil([&] { return !enrolPage.OffersAction(); })) << "it waits";
+        // On a busy machine the window manager may keep a press for itself.
+        ASSERT_TRUE(WaitUntil([&] {
+            enrolPage.PressButton();
+            return WaitUntil([&] { return !enrolPage.OffersAction(); }, std::chrono::milliseconds(500));
+        })) << "it waits";
         ASSERT_TRUE(product.AgentSays("was sent 3 Binding"));
         if (code == std::string("net_error")) {
             ASSERT_TRUE(enrolPage.Wait(&EnrolPage::IsCovered));
@@ -197,8 +200,6 @@ TEST_F(EnrolmentEndToEndTest, ThePromptGoesWithWhatItIsAskedFor) {
 }
 
 TEST_F(EnrolmentEndToEndTest, AStickFillsTheFormInOrIsRefused) {
-    if (product.HasLauncher())
-        GTEST_SKIP() << "the front end does not see a drive that another program makes under Wine";
     ASSERT_TRUE(StartUnenrolled());
     const std::string folder = product.Folder() + "/stick";
     Put("Enrollment.json", "[]");

@@ -8,7 +8,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
-#include <algorithm>
 #include <cstdlib>
 #include <sstream>
 #include <stdexcept>
@@ -176,11 +175,8 @@ void RunningProduct::WriteConfiguration() {
 }
 
 bool RunningProduct::PlugIn(const std::string& folder) {
-    if (HasLauncher()) {
-        m_drive = "Z:" + folder;
-        std::replace(m_drive.begin(), m_drive.end(), '/', '\\');
-        return TellOfDrive("arrive");
-    }
+    if (HasLauncher())
+        return false;
     m_drive = "/mnt/" + m_folder.path().section(QLatin1Char('/'), -1).toStdString();
     return QDir().mkpath(QString::fromStdString(m_drive)) &&
            std::system(("mount --bind " + folder + ' ' + m_drive + " 2>/dev/null").c_str()) == 0;
@@ -189,19 +185,9 @@ bool RunningProduct::PlugIn(const std::string& folder) {
 void RunningProduct::PlugOut() {
     if (m_drive.empty())
         return;
-    if (HasLauncher()) {
-        TellOfDrive("remove");
-    } else {
-        std::system(("umount " + m_drive + " 2>/dev/null").c_str());
+    if (std::system(("umount " + m_drive + " 2>/dev/null").c_str()) == 0)
         QDir().rmdir(QString::fromStdString(m_drive));
-    }
     m_drive.clear();
-}
-
-bool RunningProduct::TellOfDrive(const char* what) {
-    ChildProcess message;
-    Start(message, Steering::VolumeMessage, {what, "T", m_drive});
-    return WaitUntil([&] { return message.Result().has_value(); }) && message.Result() == 0;
 }
 
 void RunningProduct::StartFrontEnd(const Words& arguments) {

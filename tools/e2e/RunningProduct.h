@@ -25,7 +25,6 @@ constexpr Program FrontEnd{"RYX_E2E_FRONTEND", "velmora-ryx"};
 constexpr Program Agent{"RYX_E2E_AGENT", "ryx-agent"};
 constexpr Program ForeignWindow{"RYX_E2E_FOREIGN", "foreign_window"}; // needed where there is a launcher
 constexpr Program Attack{"RYX_E2E_ATTACK", "ryx-attack"};
-constexpr Program VolumeMessage{"RYX_E2E_VOLUME_MESSAGE", "volume_message"}; // likewise
 constexpr Program SessionManager{"RYX_E2E_SESSION_MANAGER", "ryx-session-manager"};
 } // namespace Steering
 
@@ -107,7 +106,6 @@ private:
     Words Environment() const;
     QJsonObject Configuration() const;
     void WriteConfiguration();
-    bool TellOfDrive(const char* what);
     bool HaveMet();
     std::string Log() const;
 

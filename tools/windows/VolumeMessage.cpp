@@ -1,10 +1,8 @@
 // Tells every top-level window what the system tells when drives come or go:
 //
-//   volume_message arrive|remove LETTERS          such as: volume_message arrive EF
-//   volume_message arrive|remove LETTER FOLDER    makes or takes away the drive, which is that folder, before
+//   volume_message arrive|remove LETTERS     such as: volume_message arrive EF
 //
-// Prints "done" when all of them have heard it. Drives without a folder are the caller's to make and take
-// away.
+// Prints "done" when all of them have heard it. The drives themselves are the caller's to make and take away.
 #include <cstdio>
 #include <cstdlib>
 #include <string>
@@ -17,12 +15,9 @@
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
     int count = 0;
     wchar_t** words = CommandLineToArgvW(GetCommandLineW(), &count);
-    if (!words || count < 3)
+    if (!words || count != 3)
         return EXIT_FAILURE;
     const bool arrives = std::wstring(words[1]) == L"arrive";
-    if (count > 3)
-        DefineDosDeviceW(arrives ? 0 : DDD_REMOVE_DEFINITION, (std::wstring(words[2]) + L':').c_str(),
-                         arrives ? words[3] : nullptr);
     DEV_BROADCAST_VOLUME volume{};
     volume.dbcv_size = sizeof volume;
     volume.dbcv_devicetype = DBT_DEVTYP_VOLUME;
