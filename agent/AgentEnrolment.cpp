@@ -132,19 +132,22 @@ void AgentEnrolment::SetName(const std::string& name) {
     if (m_enrolment)
         m_enrolment->name = name;
     m_server.Send(PipeKey::DeviceNameChanged, NameBody(name));
-    Keep();
+    if (m_enrolment)
+        Keep();
 }
 
 void AgentEnrolment::SetTags(const std::vector<std::string>& tags) {
     if (m_enrolment)
         m_enrolment->tags = tags;
     m_server.Send(PipeKey::DeviceTagsChanged, TagsBody(tags));
-    Keep();
+    if (m_enrolment)
+        Keep();
 }
 
 void AgentEnrolment::SetAccount(const std::string& account) {
     if (m_enrolment)
         m_enrolment->account = account;
     m_server.Send(PipeKey::AdminAccountChanged, AccountBody(account));
-    Keep();
+    if (m_enrolment)
+        Keep();
 }

@@ -34,8 +34,12 @@ QString EnrolmentStore::Write(const std::optional<Enrolment>& enrolment) {
     const QString path = QString::fromStdString(AppConfigData::DefaultPath());
     QFile old(path);
     QJsonObject keys;
-    if (old.open(QIODevice::ReadOnly))
-        keys = QJsonDocument::fromJson(old.readAll()).object();
+    if (old.open(QIODevice::ReadOnly)) {
+        QJsonParseError error{};
+        keys = QJsonDocument::fromJson(old.readAll(), &error).object();
+        if (error.error != QJsonParseError::NoError) // which would lose every other key
+            return path + QStringLiteral(": ") + error.errorString();
+    }
     old.close();
     keys[QLatin1String("enrolled")] = enrolment.has_value();
     for (const char* key : {"schoolCode", "adminAccount", "deviceName", "deviceTags", "permissionList"})

@@ -105,6 +105,8 @@ QString WebService::Listen(int port) {
     if (m_port <= 0)
         return QStringLiteral("cannot listen at port %1").arg(port);
     m_thread = std::thread([this] { m_server->listen_after_bind(); });
+    while (!m_server->is_running()) // before that, stop() would do nothing
+        std::this_thread::yield();
     m_log.Line("web service at " + Address() + ", files in " + m_store.Folder().toStdString());
     return {};
 }

@@ -152,6 +152,8 @@ bool UBodyEnroll::InvokeEnrollComplete(const std::string& body) {
     const DeviceBindingResult result = ReadResult(body, false);
     EndWaiting();
     if (!result.result) {
+        if (result.code != NetError) // one that was lost with the link may have gone well
+            m_request = {};
         CheckDeviceBindingResult(result.code, true);
         return false;
     }
@@ -172,7 +174,6 @@ bool UBodyEnroll::InvokeUnEnrollComplete(const std::string& body, bool requested
     const DeviceBindingResult result = ReadResult(body, !requested);
     if (!result.result) {
         CheckDeviceBindingResult(result.code, false);
-        UEnrollToast::Of(this)->Tell(NoticeKind::Error, tr("Unable to UnEnroll."));
         EndWaiting();
         // A notice that says that the device is still enrolled changes the state all the same.
         const auto goBack = [this] {
@@ -183,10 +184,15 @@ bool UBodyEnroll::InvokeUnEnrollComplete(const std::string& body, bool requested
             QMetaObject::invokeMethod(this, goBack, Qt::QueuedConnection);
         return false;
     }
-    AppContextData::Instance()->ForgetEnrolment();
-    Form().Name().SetText({});
+    ForgetEnrolment();
     InvokeNoBindUI(); // nobody enters after a notice
     return true;
+}
+
+void UBodyEnroll::ForgetEnrolment() {
+    m_request = {};
+    AppContextData::Instance()->ForgetEnrolment();
+    Form().Name().SetText({});
 }
 
 bool UBodyEnroll::InvokeAutoEnroll(const std::string& body) {
@@ -207,25 +213,25 @@ bool UBodyEnroll::InvokeAutoEnroll(const std::string& body) {
 }
 
 void UBodyEnroll::CheckDeviceBindingResult(const std::string& code, bool fromBind) {
-    UEnrollToast& toast = *UEnrollToast::Of(this);
+    QString told = tr("Unable to bind.");
     if (fromBind) {
         SetErrorAreaVisible(true);
         if (code == "r_802001" || code == "r_802002" || code == "r_802003") {
             Form().Code().MarkError(true);
             Form().Account().MarkError(true);
-            toast.Tell(NoticeKind::Error, tr("bind_result_no_match_error_tip"));
-        } else {
-            toast.Tell(NoticeKind::Error, tr("Unable to bind."));
+            told = tr("bind_result_no_match_error_tip");
         }
     }
     if (code == "error")
-        toast.Tell(NoticeKind::Error, tr("error ."));
+        told = tr("error .");
     else if (code == NetError)
         ShowFailure(fromBind ? ButtonState::Bind : ButtonState::Unbind, QT_TR_NOOP("dialog_bind_fail_text"),
                     QT_TR_NOOP("dialog_disconnect_content_text"),
                     QT_TR_NOOP("view_register_windows_title_bind_state"));
     else if (code == "170002" || code == "170004")
-        toast.Tell(NoticeKind::Error, tr("bind_result_no_net_error_tip"));
+        told = tr("bind_result_no_net_error_tip");
+    // The later word counts, and that of an unenrolment is the last.
+    UEnrollToast::Of(this)->Tell(NoticeKind::Error, fromBind ? told : tr("Unable to UnEnroll."));
 }
 
 // What the service has sent meanwhile says nothing of the values: those of the request count.
@@ -262,12 +268,11 @@ void UBodyEnroll::OnConnectChanged(bool connected) {
 void UBodyEnroll::OnUnBindingDevice() {
     m_machine->SetState(EnrollStates::UnEnrolling());
     BeginWaiting(Wait::ForUnbinding);
-    OnConnectChanged(PipeClientService::Instance()->IsConnected());
 }
 
 void UBodyEnroll::SetEnrollUI() {
-    // The status came before the result, which is then no longer waited for.
-    if (m_wait == Wait::ForBinding)
+    // The status came before the result, or in place of one that was lost with the link.
+    if (m_request.binding && (m_wait == Wait::ForBinding || AppContextData::Instance()->SchoolCode().empty()))
         TakeOver(m_request);
     EndWaiting();
     const AppContextData& context = *AppContextData::Instance();
@@ -299,6 +304,8 @@ void UBodyEnroll::InvokeDisConnectedUI() {
 }
 
 void UBodyEnroll::InvokeNoBindUI() {
+    if (m_wait == Wait::ForUnbinding) // the status came before the result
+        ForgetEnrolment();
     EndWaiting();
     Form().Tags().TagsListDelete();
     Form().ClearErrors();
@@ -319,6 +326,7 @@ void UBodyEnroll::InvokeConnected() {
     if (!m_unModal) {
         m_unModal = new UBodyEnrollUnModal(this);
         connect(m_unModal, &UBodyEnrollUnModal::UnEnrollingState, this, &UBodyEnroll::OnUnBindingDevice);
+        connect(m_unModal, &UBodyEnrollUnModal::NotSent, this, [this] { OnConnectChanged(false); });
     }
     m_unModal->show();
 }
@@ -352,6 +360,8 @@ void UBodyEnroll::HideDialogs(ButtonState button) {
         m_permissions->hide();
     if (m_usbAlert && button != ButtonState::Bind)
         m_usbAlert->hide();
+    if (m_tip && button != ButtonState::Bind)
+        m_tip->hide();
 }
 
 void UBodyEnroll::InvokeDeviceNameChanged(const std::string& body) {

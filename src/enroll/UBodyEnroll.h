@@ -62,6 +62,7 @@ private:
     void BeginWaiting(Wait wait);
     void EndWaiting();
     void TakeOver(const DeviceBindingParam& enrolment);
+    void ForgetEnrolment();
     void SetEnrollUI();
     void GetConfigTags();
 

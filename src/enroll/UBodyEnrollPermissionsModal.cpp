@@ -52,6 +52,7 @@ void UBodyEnrollPermissionsModal::Initialization() {
     m_remoteControl->setObjectName(QStringLiteral("remoteControlRow"));
     m_done->setObjectName(QStringLiteral("doneButton"));
     QVBoxLayout* column = MakeCard(CardWidth);
+    column->setObjectName(QStringLiteral("UBodyEnrollPermissionsModalClass"));
     column->addWidget(m_title);
     column->addWidget(m_location);
     column->addWidget(m_screenView);

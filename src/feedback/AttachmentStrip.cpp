@@ -129,6 +129,7 @@ void AttachmentStrip::Add(const AttachmentFile& file) {
     setTabOrder(item->FirstButton(), item->LastButton());
     m_progressTimer.start();
     connect(item, &AttachmentItem::StateChanged, this, &AttachmentStrip::Changed);
+    connect(item, &AttachmentItem::StateChanged, &m_progressTimer, qOverload<>(&QTimer::start));
     connect(item, &AttachmentItem::RemoveRequested, this, [this, item] { Remove(item); });
 }
 
@@ -184,6 +185,8 @@ void AttachmentStrip::Clear() {
         Remove(m_items.constLast());
     ++m_listNumber;
     m_pictures = 0;
+    m_refused.clear();
+    ShowRefusals();
 }
 
 void AttachmentStrip::SetLocked(bool locked) {

@@ -17,16 +17,20 @@ bool WriteText(const QString& path, const QString& text) {
 }
 
 /// A file that cannot be read is left out, as in the report that is sent.
-void CopyLogs(const QDir& from, const QDir& to, const Cancellation& cancellation) {
+bool CopyLogs(const QDir& from, const QDir& to, const Cancellation& cancellation) {
     QDirIterator files(from.path(), QDir::Files | QDir::Hidden | QDir::NoSymLinks,
                        QDirIterator::Subdirectories);
     while (files.hasNext() && !cancellation.IsCancelled()) {
         const QString path = files.next();
         const QString copy = to.filePath(from.relativeFilePath(path));
         QDir().mkpath(QFileInfo(copy).path());
-        if (!QFile::copy(path, copy))
+        QFile source(path);
+        if (!source.open(QIODevice::ReadOnly))
             LOG(INFO) << "ReportArchive::Save leaves out " << LogText(path);
+        else if (!source.copy(copy))
+            return false; // a full disk must not cost the logs
     }
+    return true;
 }
 
 /// Attachments from different folders may bear the same name.
@@ -48,8 +52,9 @@ ReportArchive::Result ReportArchive::Save(const TaskControl& control) const {
         !folder.mkpath(QStringLiteral("attachments")) ||
         !WriteText(folder.filePath(QStringLiteral("report.txt")), text))
         return Result::Failed;
-    CopyLogs(QDir(QString::fromStdWString(logFolder)), QDir(folder.filePath(QStringLiteral("log"))),
-             control.cancellation);
+    if (!CopyLogs(QDir(QString::fromStdWString(logFolder)), QDir(folder.filePath(QStringLiteral("log"))),
+                  control.cancellation))
+        return Result::Failed;
     for (const QString& attachment : attachments) {
         const QString copy =
             FreePath(QDir(folder.filePath(QStringLiteral("attachments"))), QFileInfo(attachment).fileName());

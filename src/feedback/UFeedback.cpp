@@ -370,6 +370,8 @@ void UFeedback::dragLeaveEvent(QDragLeaveEvent*) {
 
 void UFeedback::dropEvent(QDropEvent* event) {
     Theme::SetProperty(&m_form->Attachments(), "dropTarget", false);
+    if (m_activity != Activity::None || !AttachmentStrip::CanTake(*event->mimeData()))
+        return;
     AcceptCopy(*event);
     m_form->Attachments().Take(*event->mimeData());
 }

@@ -45,12 +45,15 @@ void UBodyEnrollUnModal::OnConfirmed() {
     DeviceBindingParam request;
     request.code = context.SchoolCode();
     request.email = context.AdminAccount();
+    bool isSent = false;
     if (RyxWindow* window = RyxWindow::Of(m_page)) {
         window->BeginBinding(RyxWindow::BindAction::Unbind);
-        if (ControllerBase* controller = window->MainController())
-            controller->Send(PipeKey::Binding, request);
+        ControllerBase* controller = window->MainController();
+        isSent = controller && controller->Send(PipeKey::Binding, request);
     }
     emit UnEnrollingState();
+    if (!isSent)
+        emit NotSent();
 }
 
 void UBodyEnrollUnModal::LanguageChanges() {

@@ -15,8 +15,10 @@ public:
     explicit UBodyEnrollUnModal(QWidget* page, const Clock& clock = Clock::System());
 
 signals:
-    /// The request to unenrol was handed to the link, which may have been down.
+    /// The request to unenrol was handed to the link.
     void UnEnrollingState();
+    /// Follows UnEnrollingState: the link has not taken it.
+    void NotSent();
 
 protected:
     void Presented() override;

@@ -4,6 +4,7 @@
 #include "app/UBody.h"
 #include "app/ULauncher.h"
 #include "app/UMenu.h"
+#include "enroll/UBodyEnrollModal.h"
 #include "entity/EnrollEntities.h"
 #include "gallery/Scenes.h"
 #include "platform/application/UsbDetector.h"
@@ -289,7 +290,8 @@ TEST_F(EnrolmentPage, EveryWaitEnds) {
         EXPECT_NE(Toast(), "error .");
         if (row.key == 0) {
             ASSERT_TRUE(QTest::qWaitFor([&] { return link.IsConnected(); }));
-            Press(*stage->Window().findChild<QWidget*>(QStringLiteral("cancelButton"))); // tries again
+            Press(*stage->Window().findChild<UBodyEnrollModal*>()->findChild<QWidget*>(
+                QStringLiteral("cancelButton"))); // tries again
             EXPECT_TRUE(IsWaiting());
         }
     }

@@ -88,6 +88,10 @@ TEST(SystemContract, AWindowMadeHiddenShowsAndRisesAtItsSize) {
 
 TEST(SystemContract, DrivesAreListedByTheirRootsAndWatched) {
     EXPECT_TRUE(SystemDrives::Native().WatchDrives([] {}));
+    EXPECT_TRUE(
+        UsbDetector::IsOnDrive(QStringLiteral("/media/STICK/a.json"), QStringLiteral("/media/STICK")));
+    EXPECT_FALSE(
+        UsbDetector::IsOnDrive(QStringLiteral("/media/STICK2/a.json"), QStringLiteral("/media/STICK")));
     for (const QString& drive : UsbDetector().Drives()) {
         EXPECT_TRUE(QDir::isAbsolutePath(drive)) << drive.toStdString();
         EXPECT_FALSE(QDir::home().path().startsWith(drive)) << drive.toStdString() << " is the system's";

@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>view_register_input_error_email_input</source>
-        <translation>هذا ليس عنوان بريد إلكتروني.</translation>
+        <translation>عنوان البريد الإلكتروني غير صالح.</translation>
     </message>
     <message>
         <source>view_register_input_error_empty</source>

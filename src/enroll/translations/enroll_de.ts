@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>view_register_input_error_email_input</source>
-        <translation>Das ist keine E-Mail-Adresse.</translation>
+        <translation>Das ist keine gültige E-Mail-Adresse.</translation>
     </message>
     <message>
         <source>view_register_input_error_empty</source>

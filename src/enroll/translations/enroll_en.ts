@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>view_register_input_error_email_input</source>
-        <translation>This is not an e-mail address.</translation>
+        <translation>This is not a valid e-mail address.</translation>
     </message>
     <message>
         <source>view_register_input_error_empty</source>

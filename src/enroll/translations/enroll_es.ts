@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>view_register_input_error_email_input</source>
-        <translation>No es una dirección de correo.</translation>
+        <translation>Esta dirección de correo no es válida.</translation>
     </message>
     <message>
         <source>view_register_input_error_empty</source>

@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>view_register_input_error_email_input</source>
-        <translation>Ce n’est pas une adresse e-mail.</translation>
+        <translation>Cette adresse e-mail n’est pas valide.</translation>
     </message>
     <message>
         <source>view_register_input_error_empty</source>

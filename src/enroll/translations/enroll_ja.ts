@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>view_register_input_error_email_input</source>
-        <translation>メールアドレスではありません。</translation>
+        <translation>メールアドレスが正しくありません。</translation>
     </message>
     <message>
         <source>view_register_input_error_empty</source>

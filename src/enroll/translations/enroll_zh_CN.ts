@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>view_register_input_error_email_input</source>
-        <translation>这不是有效的电子邮件地址。</translation>
+        <translation>邮箱地址无效。</translation>
     </message>
     <message>
         <source>view_register_input_error_empty</source>

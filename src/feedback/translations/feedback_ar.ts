@@ -249,10 +249,6 @@
         <translation>تُرسل سجلات هذا الجهاز مع التقرير.</translation>
     </message>
     <message>
-        <source>view_register_input_error_email_input</source>
-        <translation>عنوان البريد الإلكتروني غير صالح.</translation>
-    </message>
-    <message>
         <source>web_error_bad_answer</source>
         <translation>تعذّر فهم رد الخدمة.</translation>
     </message>

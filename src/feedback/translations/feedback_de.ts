@@ -249,10 +249,6 @@
         <translation>Die Protokolle dieses Geräts werden mit dem Bericht gesendet.</translation>
     </message>
     <message>
-        <source>view_register_input_error_email_input</source>
-        <translation>Das ist keine gültige E-Mail-Adresse.</translation>
-    </message>
-    <message>
         <source>web_error_bad_answer</source>
         <translation>Die Antwort des Dienstes war unverständlich.</translation>
     </message>

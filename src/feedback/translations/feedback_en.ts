@@ -5,7 +5,7 @@
     <name>Ryx</name>
     <message>
         <source>+ Add attachments (Optional)</source>
-        <translation>+ Add attachments (optional)</translation>
+        <translation>+ Add attachments (Optional)</translation>
     </message>
     <message>
         <source>attachment_cancel</source>
@@ -247,10 +247,6 @@
     <message>
         <source>log_submit_tip</source>
         <translation>The logs of this device are sent along with the report.</translation>
-    </message>
-    <message>
-        <source>view_register_input_error_email_input</source>
-        <translation>This is not a valid e-mail address.</translation>
     </message>
     <message>
         <source>web_error_bad_answer</source>

@@ -249,10 +249,6 @@
         <translation>Los registros de este dispositivo se envían con el informe.</translation>
     </message>
     <message>
-        <source>view_register_input_error_email_input</source>
-        <translation>Esta dirección de correo no es válida.</translation>
-    </message>
-    <message>
         <source>web_error_bad_answer</source>
         <translation>No se entendió la respuesta del servicio.</translation>
     </message>

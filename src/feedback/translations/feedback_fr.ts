@@ -249,10 +249,6 @@
         <translation>Les journaux de cet appareil sont envoyés avec le rapport.</translation>
     </message>
     <message>
-        <source>view_register_input_error_email_input</source>
-        <translation>Cette adresse e-mail n’est pas valide.</translation>
-    </message>
-    <message>
         <source>web_error_bad_answer</source>
         <translation>La réponse du service est incompréhensible.</translation>
     </message>

@@ -249,10 +249,6 @@
         <translation>このデバイスのログもレポートとともに送信されます。</translation>
     </message>
     <message>
-        <source>view_register_input_error_email_input</source>
-        <translation>メールアドレスが正しくありません。</translation>
-    </message>
-    <message>
         <source>web_error_bad_answer</source>
         <translation>サービスの応答を理解できませんでした。</translation>
     </message>

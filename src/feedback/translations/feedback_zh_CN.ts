@@ -249,10 +249,6 @@
         <translation>此设备的日志将随报告一起发送。</translation>
     </message>
     <message>
-        <source>view_register_input_error_email_input</source>
-        <translation>邮箱地址无效。</translation>
-    </message>
-    <message>
         <source>web_error_bad_answer</source>
         <translation>无法理解服务的响应。</translation>
     </message>

@@ -131,6 +131,8 @@ private:
 
     /// Without a notice the store itself says that it has the file.
     NubraUploadResult Proof(const WebAnswer& answer) const {
+        if (const auto object = ReadObject(answer.body); object && !(*object)["code"].isInt())
+            RefuseAnswer("the file store tells no code");
         const auto response = ReadAnswer<NubraUploadResponse>(answer);
         if (response.code != 0)
             throw WebException(WebError::Refused, "the file store answered with code " +

@@ -51,6 +51,8 @@ WebAnswer WebExchange::Wait() {
     if (!m_reply->isFinished())
         m_loop.exec();
     Read(); // what came with the end
+    if (!m_end && m_sink && IsSuccess() && m_received == 0)
+        m_sink(0, {}, 0); // an empty answer takes back what an earlier attempt has brought
     if (m_end)
         throw WebException(*m_end);
     if (m_reply->error() != QNetworkReply::NoError || (!IsSuccess() && Redirect().isEmpty()))
