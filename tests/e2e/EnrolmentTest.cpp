@@ -149,7 +149,10 @@ TEST_F(EnrolmentEndToEndTest, WithoutTheServiceNobodyWaits) {
     screen->Press("Escape");
     ASSERT_TRUE(product.StartAgent());
     ASSERT_TRUE(mainPage.WaitForStatus(MainPage::NotEnrolled)) << "the service has said all";
-    enrolPage.PressButton(); // the answers are still there
+    EXPECT_TRUE(WaitUntil([&] { // the answers are still there
+        enrolPage.PressButton();
+        return WaitUntil([&] { return enrolPage.IsCovered(); }, std::chrono::seconds(3));
+    }));
     EXPECT_TRUE(BecomesEnrolled());
 }
 
