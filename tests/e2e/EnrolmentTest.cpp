@@ -88,14 +88,15 @@ TEST_F(EnrolmentEndToEndTest, EnrolsIsKnownAfterARestartAndUnenrolsWithThePasswo
 TEST_F(EnrolmentEndToEndTest, EachFailureIsToldAndTheNextTryMayDoBetter) {
     ASSERT_TRUE(StartFilled());
     Order("binding-delay 1");
+    // On a busy machine the window manager may keep a press for itself.
+    const auto pressed = [&] {
+        enrolPage.PressButton();
+        return WaitUntil([&] { return !enrolPage.OffersAction(); }, std::chrono::milliseconds(500));
+    };
     for (const char* code : {"r_802001", "error", "170002", "other", "net_error"}) {
         SCOPED_TRACE(code);
         Order(std::string("binding fail ") + code);
-        // On a busy machine the window manager may keep a press for itself.
-        ASSERT_TRUE(WaitUntil([&] {
-            enrolPage.PressButton();
-            return WaitUntil([&] { return !enrolPage.OffersAction(); }, std::chrono::milliseconds(500));
-        })) << "it waits";
+        ASSERT_TRUE(WaitUntil(pressed)) << "it waits";
         ASSERT_TRUE(product.AgentSays("was sent 3 Binding"));
         if (code == std::string("net_error")) {
             ASSERT_TRUE(enrolPage.Wait(&EnrolPage::IsCovered));
@@ -109,7 +110,7 @@ TEST_F(EnrolmentEndToEndTest, EachFailureIsToldAndTheNextTryMayDoBetter) {
     }
     EXPECT_EQ(product.AgentLines("received 3 Binding"), 5);
     Order("binding normal");
-    enrolPage.PressButton();
+    ASSERT_TRUE(WaitUntil(pressed));
     EXPECT_TRUE(BecomesEnrolled());
 }
 

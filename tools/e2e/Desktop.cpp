@@ -1,6 +1,7 @@
 #include "Desktop.h"
 
 #include <QDir>
+#include <algorithm>
 #include <stdexcept>
 
 // Behind Qt's headers: X.h defines common words as macros.
@@ -14,6 +15,7 @@ namespace {
 
 constexpr int ScreenWidth = 1280;
 constexpr int ScreenHeight = 800;
+constexpr int MostLooks = 5; // at windows that another program restacks all the time
 
 /// Windows may go while they are looked at; that is no error here.
 int IgnoreError(::Display*, XErrorEvent*) {
@@ -104,11 +106,22 @@ std::string Desktop::Title(unsigned long window) const {
 }
 
 std::vector<DesktopWindow> Desktop::Windows() const {
-    std::vector<DesktopWindow> windows;
-    XGrabServer(m_display); // order and state are of one moment
-    AddWindows(DefaultRootWindow(m_display), windows);
-    XUngrabServer(m_display);
-    XFlush(m_display);
+    const auto look = [this] {
+        std::vector<DesktopWindow> windows;
+        AddWindows(DefaultRootWindow(m_display), windows);
+        return windows;
+    };
+    const auto isSame = [](const DesktopWindow& one, const DesktopWindow& other) {
+        return one.id == other.id;
+    };
+    // Order and state are read one after the other: they belong together when the order is still the same.
+    std::vector<DesktopWindow> windows = look();
+    for (int tries = 0; tries < MostLooks; ++tries) {
+        std::vector<DesktopWindow> again = look();
+        if (std::equal(windows.begin(), windows.end(), again.begin(), again.end(), isSame))
+            break;
+        windows = std::move(again);
+    }
     return windows;
 }
 
