@@ -78,7 +78,9 @@ protected:
         return marked;
     }
     DeviceBindingParam Request() {
-        const FrameDecoder::Frame frame = service.Receive();
+        FrameDecoder::Frame frame = service.Receive();
+        while (frame.key == PipeKey::ContextRequest || frame.key == PipeKey::OtaVersionInfo)
+            frame = service.Receive(); // what every connection begins with
         EXPECT_EQ(frame.key, PipeKey::Binding);
         DeviceBindingParam request;
         request.ReadFromString(frame.body);
