@@ -7,6 +7,14 @@
 #include <QDir>
 #include <glog/logging.h>
 
+namespace {
+
+QString TempFolder() {
+    return QString::fromStdWString(RyxPath::GetUserDataDir()) + QStringLiteral("/temp");
+}
+
+} // namespace
+
 std::wstring RyxPath::GetRyxLogDir() {
     const std::string& chosen = AppConfigData::Instance()->logFolder;
     const QString folder =
@@ -22,7 +30,7 @@ std::wstring RyxPath::GetUserDataDir() {
 }
 
 std::wstring RyxPath::GetRyxTempDir() {
-    const QString folder = QString::fromStdWString(GetUserDataDir()) + QStringLiteral("/temp");
+    const QString folder = TempFolder();
     QDir().mkpath(folder);
     QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     return QDir::toNativeSeparators(folder).toStdWString();
@@ -30,7 +38,7 @@ std::wstring RyxPath::GetRyxTempDir() {
 
 void RyxPath::RemoveOldTempFiles() {
     const QDateTime dayAgo = QDateTime::currentDateTime().addDays(-1);
-    const QDir folder(QString::fromStdWString(GetRyxTempDir()));
+    const QDir folder(TempFolder()); // which need not be there yet
     for (const QFileInfo& entry :
          folder.entryInfoList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot)) {
         if (entry.lastModified() >= dayAgo)
