@@ -205,7 +205,15 @@ void Desktop::Click(const QPoint& place) {
     MoveMouse(place);
     XTestFakeButtonEvent(m_display, Button1, True, CurrentTime);
     XTestFakeButtonEvent(m_display, Button1, False, CurrentTime);
-    XSync(m_display, False);
+    // A window manager that looks at presses first holds the pointer's events back. The mouse must not go on
+    // before they are handed on, or the press counts where it is by then.
+    WaitUntil([this] {
+        ::Window ignored = 0;
+        int x = 0, y = 0;
+        unsigned int state = 0;
+        XQueryPointer(m_display, DefaultRootWindow(m_display), &ignored, &ignored, &x, &y, &x, &y, &state);
+        return (state & Button1Mask) == 0;
+    });
 }
 
 void Desktop::Key(const std::string& name, bool down) {

@@ -73,8 +73,6 @@ void EnrolPage::PressButton(int times) {
     });
     for (int click = 0; click < times; ++click)
         m_desktop.Click(place.center());
-    // The window manager hands a press on late, and it counts where the mouse still is.
-    WaitUntil([] { return false; }, std::chrono::milliseconds(200));
     m_desktop.MoveMouse(Window().topLeft()); // it has another colour below the mouse
 }
 
