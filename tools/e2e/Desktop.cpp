@@ -164,6 +164,18 @@ std::string Desktop::TopmostTitle() const {
     return title;
 }
 
+bool Desktop::WaitForFocus(const std::string& title) const {
+    const auto hasFocus = [&] {
+        ::Window focused = 0;
+        int ignored = 0;
+        XGetInputFocus(m_display, &focused, &ignored);
+        return focused > PointerRoot && Title(focused) == title;
+    };
+    return WaitUntil([&] {
+        return hasFocus() && !WaitUntil([&] { return !hasFocus(); }, std::chrono::milliseconds(300));
+    });
+}
+
 bool Desktop::WaitForWindow(const std::string& title) const {
     return WaitUntil([&] { return Find(title).has_value(); });
 }

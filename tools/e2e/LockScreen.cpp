@@ -29,7 +29,7 @@ bool LockScreen::Wait() const {
 }
 
 bool LockScreen::OpenPasswordBoxes() {
-    if (!Wait())
+    if (!Wait() || !m_product.WaitForInput(Title))
         return false;
     m_desktop.Click(FindColor(Picture(), Accent).bounds.center());
     return WaitUntil([this] { return FocusedBox().has_value(); });

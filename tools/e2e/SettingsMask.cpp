@@ -22,6 +22,10 @@ QImage SettingsMask::Picture() const {
 }
 
 bool SettingsMask::Wait() {
+    return IsThere() && m_product.WaitForInput(Title) && IsThere();
+}
+
+bool SettingsMask::IsThere() {
     return WaitUntil([this] {
         const QImage picture = Picture();
         const ColorArea usable = FindColor(picture, LockScreen::Surface);
