@@ -18,6 +18,7 @@
 #include "platform/link/ControllerBase.h"
 #include "platform/link/PipeClientService.h"
 #include "platform/security/LogText.h"
+#include "widgets/GestureScrollArea.h"
 
 #include <QCheckBox>
 #include <QFutureWatcher>
@@ -126,8 +127,8 @@ bool UBodyEnroll::CheckIsAgreePrivacyPolicy() {
 bool UBodyEnroll::InvokeBinding() {
     SetErrorAreaVisible(false);
     if (EnrollField* wrong = Form().CheckInputIsRight()) {
-        ScrollTo(*wrong);
         wrong->FocusAnswer();
+        GestureScrollArea::Reveal(wrong);
         return false;
     }
     if (!CheckIsAgreePrivacyPolicy())

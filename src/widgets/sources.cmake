@@ -17,6 +17,7 @@ target_sources(ryx_user_objects PRIVATE
     ${CMAKE_CURRENT_LIST_DIR}/ULoadingBar.cpp
     ${CMAKE_CURRENT_LIST_DIR}/ULoadingIndicator.cpp
     ${CMAKE_CURRENT_LIST_DIR}/UOverlay.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/UPage.cpp
     ${CMAKE_CURRENT_LIST_DIR}/USwitch.cpp
     ${CMAKE_CURRENT_LIST_DIR}/USwitchRow.cpp
     ${CMAKE_CURRENT_LIST_DIR}/UTextButton.cpp

@@ -7,7 +7,7 @@ namespace {
 
 constexpr int HeaderHeight = 77;
 constexpr int MenuWidth = 240;
-constexpr int ButtonRowHeight = 76;
+constexpr int ButtonRowHeight = 84;
 constexpr int FilledPixels = 4000;     // of the button
 constexpr QSize SmallestWords(80, 10); // on the button
 constexpr int WordsPixels = 60;        // of a short sentence

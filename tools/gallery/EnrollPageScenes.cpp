@@ -1,12 +1,11 @@
 #include "app/MainWindow.h"
 #include "app/ULauncher.h"
+#include "enroll/EnrollView.h"
 #include "gallery/Scenes.h"
 
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScrollArea>
-#include <QScrollBar>
 
 namespace {
 
@@ -65,10 +64,7 @@ QVector<Scene> EnrollPageScenes() {
              [](Stage& stage) {
                  Fill(stage);
                  Settle();
-                 QScrollBar* bar = stage.Window()
-                                       .findChild<QScrollArea*>(QStringLiteral("enrolScroll"))
-                                       ->verticalScrollBar();
-                 bar->setValue(bar->maximum());
+                 stage.Window().findChild<EnrollView*>()->ScrollToEnd();
              }),
         Form(QStringLiteral("form-two-fields"),
              [](Stage& stage) {
