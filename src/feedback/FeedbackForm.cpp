@@ -2,6 +2,7 @@
 
 #include "feedback/AttachmentStrip.h"
 #include "feedback/DescriptionBox.h"
+#include "platform/context/EmailAddress.h"
 #include "platform/context/Theme.h"
 #include "widgets/AccessibleRole.h"
 #include "widgets/GestureScrollArea.h"
@@ -9,7 +10,6 @@
 
 #include <QEvent>
 #include <QLineEdit>
-#include <QRegularExpression>
 #include <QVBoxLayout>
 
 FeedbackForm::FeedbackForm(const FeedbackBackend& backend, QWidget* parent)
@@ -64,13 +64,6 @@ QString FeedbackForm::Email() const {
     return m_email->text();
 }
 
-bool FeedbackForm::IsEmail(const QString& text) {
-    // A plain "$" would let a line break at the end pass.
-    static const QRegularExpression address(QRegularExpression::anchoredPattern(
-        QStringLiteral("[a-zA-Z0-9._-]+@[a-zA-Z0-9_-]+(\\.[a-zA-Z0-9_-]+)+")));
-    return address.match(text).hasMatch();
-}
-
 bool FeedbackForm::IsComplete() const {
     return !Description().trimmed().isEmpty() && !m_attachments->IsPending();
 }
@@ -80,7 +73,7 @@ bool FeedbackForm::HoldsSomething() const {
 }
 
 bool FeedbackForm::CheckEmail() {
-    ShowEmailError(!Email().isEmpty() && !IsEmail(Email()));
+    ShowEmailError(!Email().isEmpty() && !IsEmailAddress(Email()));
     if (m_emailIsWrong) {
         m_email->setFocus();
         GestureScrollArea::Reveal(m_emailError);
