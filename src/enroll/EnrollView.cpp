@@ -18,7 +18,7 @@ constexpr int AboveToasts = 34; // between the button and what a toast must not 
 EnrollView::EnrollView(QWidget* parent)
     : UPage(QStringLiteral("enrolment"), parent),
       m_form(new EnrollForm),
-      m_errorArea(new UTextLabel("enrolError")),
+      m_errorArea(new UTextLabel("fieldError")),
       m_status(new QWidget),
       m_statusText(new UTextLabel("enrolStatusText")),
       m_bind(new UTextButton(UTextButton::Look::Primary)) {

@@ -187,7 +187,7 @@ TEST_F(Feedback, AWrongAddressIsToldAndNothingIsSent) {
 }
 
 TEST_F(Feedback, WhatIsNotAttachedIsToldWithItsReason) {
-    const auto& refusals = *Strip().findChild<QLabel*>(QStringLiteral("errorText"));
+    const auto& refusals = *Strip().findChild<QLabel*>(QStringLiteral("fieldError"));
     const QString good = Make(QStringLiteral("good"));
     const struct {
         QStringList paths;
