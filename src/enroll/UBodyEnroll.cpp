@@ -176,13 +176,8 @@ bool UBodyEnroll::InvokeUnEnrollComplete(const std::string& body, bool requested
     if (!result.result) {
         CheckDeviceBindingResult(result.code, false);
         EndWaiting();
-        // A notice that says that the device is still enrolled changes the state all the same.
-        const auto goBack = [this] {
-            if (m_machine->IsIn(EnrollStates::NoEnrollYet()) && AppContextData::Instance()->Enrolled())
-                m_machine->SetState(EnrollStates::Connected());
-        };
-        if (!requested)
-            QMetaObject::invokeMethod(this, goBack, Qt::QueuedConnection);
+        if (!requested) // it has left the state, and is no unenrolment
+            m_machine->SetState(EnrollStates::Connected());
         return false;
     }
     ForgetEnrolment();

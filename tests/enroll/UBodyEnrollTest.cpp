@@ -351,7 +351,6 @@ TEST_F(EnrolmentPage, TheServicesWordIsTaken) {
             EXPECT_EQ(Page().findChildren<QWidget*>(QStringLiteral("DeviceTagsItem")).size(),
                       static_cast<int>(AppContextData::Instance()->DeviceTags().size()));
         }
-        QCoreApplication::processEvents();
         Press(Button()); // whatever it says, it does
         EXPECT_EQ(Overlay() == "UBodyUnbindModal", row.state == 2);
     }
