@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QTextDocument>
 #include <QTextEdit>
+#include <QVariant>
 
 void MarkBlank(QLineEdit* field) {
     const auto mark = [field] { Theme::SetProperty(field, "blank", field->text().isEmpty()); };

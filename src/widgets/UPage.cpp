@@ -7,7 +7,6 @@
 
 #include <QEvent>
 #include <QScrollBar>
-#include <QStyle>
 #include <QVBoxLayout>
 
 namespace {
@@ -98,8 +97,7 @@ void UPage::UpdateMargins() {
     if (!m_footerMargins)
         return;
     const QScrollBar* bar = m_scroll->verticalScrollBar();
-    const int barWidth =
-        bar->maximum() > 0 ? bar->style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, bar) : 0;
+    const int barWidth = bar->maximum() > 0 ? bar->sizeHint().width() : 0;
     m_footerMargins->setContentsMargins(margin + (isRightToLeft() ? barWidth : 0), NarrowMargin,
                                         margin + (isRightToLeft() ? 0 : barWidth), NarrowMargin);
 }
