@@ -44,7 +44,7 @@ AttachmentItem::AttachmentItem(AttachmentFile file, const FeedbackBackend& backe
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(14, 8, 6, 8);
     grid->setHorizontalSpacing(4);
-    grid->setVerticalSpacing(2);
+    grid->setVerticalSpacing(4);
     grid->setColumnMinimumWidth(0, 36);
     grid->setColumnStretch(1, 1);
     grid->addWidget(m_icon, 0, 0, 2, 1);
