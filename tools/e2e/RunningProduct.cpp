@@ -200,11 +200,13 @@ bool RunningProduct::TellOfDrive(const Words& words) const {
 }
 
 void RunningProduct::PlugOut() {
+    if (m_drive.empty())
+        return;
     const QString drive = QString::fromStdString(m_drive);
-    if (HasLauncher() && QFile::remove(drive))
-        TellOfDrive({"remove", "E"});
-    else if (!m_drive.empty() && std::system(("umount " + m_drive + " 2>/dev/null").c_str()) == 0)
+    if (!HasLauncher() && std::system(("umount " + m_drive + " 2>/dev/null").c_str()) == 0)
         QDir().rmdir(drive);
+    else if (HasLauncher() && QFile::remove(drive))
+        TellOfDrive({"remove", "E"});
     m_drive.clear();
 }
 
