@@ -1,16 +1,14 @@
 #pragma once
 
-#include <QRegularExpressionValidator>
+#include "platform/context/EmailAddress.h"
+
+#include <QValidator>
 
 /// Judges an administrator's account, an e-mail address, and lets everything be typed: one that kept keys
 /// from a wrong text would keep it from being corrected, too.
-class AccountValidator : public QRegularExpressionValidator {
+class AccountValidator : public QValidator {
 public:
-    AccountValidator()
-        : QRegularExpressionValidator(
-              QRegularExpression(QStringLiteral(R"(^[a-zA-Z0-9._-]+@[a-zA-Z0-9_-]+(\.[a-zA-Z0-9_-]+)+$)"))) {}
-
-    State validate(QString& text, int& position) const override {
-        return qMax(Intermediate, QRegularExpressionValidator::validate(text, position));
+    State validate(QString& text, int& /*position*/) const override {
+        return IsEmailAddress(text) ? Acceptable : Intermediate;
     }
 };

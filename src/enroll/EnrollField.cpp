@@ -2,6 +2,7 @@
 
 #include "platform/context/Theme.h"
 #include "widgets/AccessibleRole.h"
+#include "widgets/BlankHint.h"
 #include "widgets/UTextLabel.h"
 
 #include <QLineEdit>
@@ -27,10 +28,7 @@ EnrollField::EnrollField(const char* name, Script script)
 QLineEdit* EnrollField::AddEdit(const char* name, Script script) {
     auto* edit = new QLineEdit(this);
     edit->setObjectName(QString::fromLatin1(name));
-    // The style sheet's colour is the placeholder's, too, which must not look like an answer.
-    edit->setProperty("empty", true);
-    connect(edit, &QLineEdit::textChanged, edit,
-            [edit](const QString& text) { Theme::SetProperty(edit, "empty", text.isEmpty()); });
+    MarkBlank(edit);
     if (script == Script::LeftToRight) {
         edit->setLayoutDirection(Qt::LeftToRight);
         edit->setInputMethodHints(Qt::ImhNoAutoUppercase | Qt::ImhNoPredictiveText | Qt::ImhPreferLatin);

@@ -4,6 +4,7 @@
 #include "enroll/EnrollAgreement.h"
 #include "enroll/EnrollNameField.h"
 #include "enroll/UBodyEnrollTags.h"
+#include "entity/EnrollEntities.h"
 #include "widgets/UTextLabel.h"
 
 #include <QApplication>
@@ -110,6 +111,21 @@ void EnrollForm::SetAllEditAble(bool editable) {
     m_tagsLabel->setVisible(editable || !m_tags->Tags().empty());
     m_line->setVisible(editable);
     m_agreement->setVisible(editable);
+}
+
+void EnrollForm::Fill(const UsbEnrollmentFile& file) {
+    m_code->SetText(QString::fromStdString(file.code));
+    m_code->ClearError();
+    m_account->SetText(QString::fromStdString(file.account));
+    m_account->ClearError();
+    if (!file.deviceName.empty())
+        m_name->SetText(QString::fromStdString(file.deviceName));
+    if (!file.devicePrefix.empty() || !file.deviceSuffix.empty())
+        m_name->SetParts(QString::fromStdString(file.devicePrefix),
+                         QString::fromStdString(file.deviceSuffix));
+    m_name->ClearError();
+    if (!file.tags.empty())
+        SetTags(file.tags);
 }
 
 void EnrollForm::SetTags(const std::vector<std::string>& tags) {

@@ -11,6 +11,7 @@ class EnrollAgreement;
 class EnrollNameField;
 class QBoxLayout;
 class UBodyEnrollTags;
+struct UsbEnrollmentFile;
 
 /// What the enrolment page asks for, and what it shows of an enrolled device. GUI thread.
 class EnrollForm : public QFrame {
@@ -26,6 +27,8 @@ public:
     UBodyEnrollTags& Tags() const { return *m_tags; }
     EnrollAgreement& Agreement() const { return *m_agreement; }
 
+    /// Answers with what a file on a USB drive says; what it says nothing of stays.
+    void Fill(const UsbEnrollmentFile& file);
     /// Shows these tags in place of those before.
     void SetTags(const std::vector<std::string>& tags);
     /// Whether the user may answer; what is to be agreed to is seen only then.

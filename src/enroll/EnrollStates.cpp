@@ -118,11 +118,10 @@ public:
         machine.Page().InvokeBindingUI();
         return true;
     }
-    // Whatever the notice says, and the page has drawn it by itself.
+    // Before the page is asked: it draws itself, and takes the state back when the notice tells of a failure.
     bool UnenrolledNotice(EnrollStateMachine& machine, const std::string& body, bool) const override {
-        const bool unenrolled = machine.Page().InvokeUnEnrollComplete(body, false);
         machine.SetState(EnrollStates::NoEnrollYet());
-        return unenrolled;
+        return machine.Page().InvokeUnEnrollComplete(body, false);
     }
     bool DeviceNameChanged(EnrollStateMachine& machine, const std::string& body) const override {
         machine.Page().InvokeDeviceNameChanged(body);

@@ -1,16 +1,13 @@
 #pragma once
 
-#include <QWidget>
+#include "widgets/UPage.h"
 
 class EnrollForm;
-class QLabel;
-class QLayout;
-class QScrollArea;
 class UTextButton;
 
 /// What one sees of the enrolment page: the form, which scrolls, and below it, always in view, how things
 /// stand and the one button. GUI thread.
-class EnrollView : public QWidget {
+class EnrollView : public UPage {
     Q_OBJECT
 
 public:
@@ -32,26 +29,17 @@ public:
     void ShowEnrolled(bool enrolled);
     void SetErrorAreaVisible(bool visible);
 
-    void ScrollToEnd();
-    void ScrollTo(QWidget& part);
-
 signals:
     void ButtonClicked();
 
 protected:
-    void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
-    QWidget* MakeContent();
     QWidget* MakeFooter();
     void LanguageChanges();
 
-    QLabel* m_title;
-    QLabel* m_sentence;
     EnrollForm* m_form;
-    QScrollArea* m_scroll;
-    QLayout* m_margins;
     QLabel* m_errorArea;
     QWidget* m_status;
     QLabel* m_statusText;

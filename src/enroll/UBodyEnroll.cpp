@@ -4,13 +4,13 @@
 #include "enroll/EnrollForm.h"
 #include "enroll/EnrollNameField.h"
 #include "enroll/EnrollStateMachine.h"
-#include "enroll/EnrollmentFile.h"
 #include "enroll/UBodyEnrollModal.h"
 #include "enroll/UBodyEnrollPermissionsModal.h"
 #include "enroll/UBodyEnrollTags.h"
 #include "enroll/UBodyEnrollTip.h"
 #include "enroll/UBodyEnrollUsbAlert.h"
 #include "enroll/UEnrollToast.h"
+#include "enroll/UsbEnrollment.h"
 #include "lock/UBodyEnrollUnModal.h"
 #include "platform/application/RyxWindow.h"
 #include "platform/application/UsbDetector.h"
@@ -18,11 +18,10 @@
 #include "platform/link/ControllerBase.h"
 #include "platform/link/PipeClientService.h"
 #include "platform/security/LogText.h"
+#include "widgets/GestureScrollArea.h"
 
 #include <QCheckBox>
-#include <QFutureWatcher>
 #include <QShowEvent>
-#include <QtConcurrentRun>
 #include <glog/logging.h>
 
 namespace {
@@ -50,6 +49,7 @@ DeviceBindingResult ReadResult(const std::string& body, bool unreadable) {
 UBodyEnroll::UBodyEnroll(QWidget* parent, const SystemDrives& drives)
     : EnrollView(parent),
       m_detector(new UsbDetector(drives, this)),
+      m_usb(new UsbEnrollment(this)),
       m_machine(new EnrollStateMachine(*this, *m_detector, this)) {
     InitConnect();
 }
@@ -58,6 +58,7 @@ void UBodyEnroll::InitConnect() {
     connect(this, &EnrollView::ButtonClicked, this, &UBodyEnroll::OnClickedBindButton);
     connect(PipeClientService::Instance(), &PipeClientService::ConnectChanged, this,
             &UBodyEnroll::OnConnectChanged);
+    connect(m_usb, &UsbEnrollment::Found, this, &UBodyEnroll::OnEnrollJsonFound);
     installEventFilter(this);
 }
 
@@ -69,7 +70,12 @@ RyxWindow& UBodyEnroll::Window() const {
 
 void UBodyEnroll::showEvent(QShowEvent* event) {
     EnrollView::showEvent(event);
-    if (event->spontaneous() || std::exchange(m_firstShowDone, true))
+    if (!event->spontaneous())
+        BeginOnce();
+}
+
+void UBodyEnroll::BeginOnce() {
+    if (std::exchange(m_firstShowDone, true))
         return;
     const bool enrolled = AppContextData::Instance()->Enrolled();
     if (enrolled)
@@ -78,8 +84,8 @@ void UBodyEnroll::showEvent(QShowEvent* event) {
     // What the service has said before anybody looked still holds.
     if (const IotStatus status = Window().KnownLinkStatus(); enrolled && status != IotStatus::NotEnrolled)
         m_machine->FollowStatus(status);
-    if (m_usbFile.isEmpty())
-        FindEnrollJson(m_detector->Drives(), !enrolled);
+    if (m_usb->Path().isEmpty())
+        m_usb->FindEnrollJson(m_detector->Drives(), !enrolled);
 }
 
 void UBodyEnroll::changeEvent(QEvent* event) {
@@ -126,8 +132,8 @@ bool UBodyEnroll::CheckIsAgreePrivacyPolicy() {
 bool UBodyEnroll::InvokeBinding() {
     SetErrorAreaVisible(false);
     if (EnrollField* wrong = Form().CheckInputIsRight()) {
-        ScrollTo(*wrong);
         wrong->FocusAnswer();
+        GestureScrollArea::Reveal(wrong);
         return false;
     }
     if (!CheckIsAgreePrivacyPolicy())
@@ -175,13 +181,8 @@ bool UBodyEnroll::InvokeUnEnrollComplete(const std::string& body, bool requested
     if (!result.result) {
         CheckDeviceBindingResult(result.code, false);
         EndWaiting();
-        // A notice that says that the device is still enrolled changes the state all the same.
-        const auto goBack = [this] {
-            if (m_machine->IsIn(EnrollStates::NoEnrollYet()) && AppContextData::Instance()->Enrolled())
-                m_machine->SetState(EnrollStates::Connected());
-        };
-        if (!requested)
-            QMetaObject::invokeMethod(this, goBack, Qt::QueuedConnection);
+        if (!requested) // it has left the state, and is no unenrolment
+            m_machine->SetState(EnrollStates::Connected());
         return false;
     }
     ForgetEnrolment();
@@ -394,38 +395,21 @@ void UBodyEnroll::InvokeAdminAccountChanged(const std::string& body) {
 }
 
 void UBodyEnroll::InvokeUsbArrived(const QString& drive, bool mayEnroll) {
-    FindEnrollJson({drive}, mayEnroll);
+    m_usb->FindEnrollJson({drive}, mayEnroll);
 }
 
 void UBodyEnroll::InvokeUsbRemoved(const QString& drive) {
-    if (UsbDetector::IsOnDrive(m_usbFile, drive))
-        m_usbFile.clear();
-}
-
-// A drive may take its time.
-void UBodyEnroll::FindEnrollJson(const QStringList& drives, bool mayEnroll) {
-    auto* search = new QFutureWatcher<EnrollmentFile>(this);
-    connect(search, &QFutureWatcherBase::finished, this, [this, search, mayEnroll] {
-        search->deleteLater();
-        OnEnrollJsonFound(search->result(), mayEnroll);
-    });
-    search->setFuture(QtConcurrent::run([drives] {
-        EnrollmentFile file;
-        for (const QString& drive : drives)
-            if (file = EnrollmentFile::FindOn(drive); file.IsFound())
-                break;
-        return file;
-    }));
+    m_usb->Forget(drive);
 }
 
 void UBodyEnroll::OnEnrollJsonFound(const EnrollmentFile& file, bool mayEnroll) {
-    if (!file.IsFound() || m_wait != Wait::ForNothing)
+    if (m_wait != Wait::ForNothing)
         return;
-    m_usbFile = file.path;
     if (!file.IsUsable()) {
         Window().Notify(NoticeKind::Warning, file.Refusal());
         return;
     }
+    BeginOnce(); // which would empty the form after it is filled, as under a lock the window stays away
     if (mayEnroll && !AppContextData::Instance()->Enrolled())
         Window().OpenEnrolmentPage();
     FillFromUsbEnrollmentFile(file.content);
@@ -436,22 +420,9 @@ void UBodyEnroll::FillFromUsbEnrollmentFile(const UsbEnrollmentFile& file) {
         Window().Notify(NoticeKind::Warning, tr("usb_bind_failed"));
         return;
     }
-    Form().Code().SetText(QString::fromStdString(file.code));
-    Form().Code().ClearError();
-    Form().Account().SetText(QString::fromStdString(file.account));
-    Form().Account().ClearError();
-    if (!file.deviceName.empty())
-        Form().Name().SetText(QString::fromStdString(file.deviceName));
-    if (!file.devicePrefix.empty() || !file.deviceSuffix.empty())
-        Form().Name().SetParts(QString::fromStdString(file.devicePrefix),
-                               QString::fromStdString(file.deviceSuffix));
-    Form().Name().ClearError();
-    if (!file.tags.empty()) {
-        Form().Tags().TagsListDelete();
-        Form().SetTags(file.tags);
-    }
+    Form().Fill(file);
     if (!m_usbAlert)
         m_usbAlert = new UBodyEnrollUsbAlert(this);
-    m_usbAlert->SetFile(m_usbFile);
+    m_usbAlert->SetFile(m_usb->Path());
     m_usbAlert->show();
 }

@@ -13,6 +13,7 @@ class UBodyEnrollTip;
 class UBodyEnrollUnModal;
 class UBodyEnrollUsbAlert;
 class UsbDetector;
+class UsbEnrollment;
 struct EnrollmentFile;
 
 /// The enrolment of this device: checks what was entered, sends the requests to enrol and unenrol, and shows
@@ -52,6 +53,8 @@ private:
     void InvokeWindowHided() override;
 
     void InitConnect();
+    /// Enters the state, and looks at the drives, when the page is needed first.
+    void BeginOnce();
     void OnClickedBindButton();
     void Press(ButtonState state);
     void OnConnectChanged(bool connected);
@@ -71,7 +74,6 @@ private:
     /// The state has changed: what is about another one than that of `button` goes.
     void HideDialogs(ButtonState button);
 
-    void FindEnrollJson(const QStringList& drives, bool mayEnroll);
     void OnEnrollJsonFound(const EnrollmentFile& file, bool mayEnroll);
     void FillFromUsbEnrollmentFile(const UsbEnrollmentFile& file);
 
@@ -88,8 +90,8 @@ private:
     ButtonState m_retry = ButtonState::Bind; // what m_modal offers
     DeviceBindingParam m_request;
     bool m_firstShowDone = false;
-    QString m_usbFile; // that was found last
 
     UsbDetector* m_detector;
+    UsbEnrollment* m_usb;
     EnrollStateMachine* m_machine;
 };

@@ -2,7 +2,7 @@
 
 #include "platform/application/RyxWindow.h"
 #include "widgets/AccessibleRole.h"
-#include "widgets/ThemeIcon.h"
+#include "widgets/UIconButton.h"
 #include "widgets/UTextButton.h"
 #include "widgets/UTextLabel.h"
 
@@ -19,7 +19,7 @@ UBodyEnrollModal::UBodyEnrollModal(QWidget* page)
     : UOverlay(page),
       m_title(new UTextLabel("dialogTitle")),
       m_content(new UTextLabel("dialogContent")),
-      m_close(new UTextButton(UTextButton::Look::Plain)),
+      m_close(new UIconButton("dialogClose", QStringLiteral("close"), 24)),
       m_cancel(new UTextButton),
       m_ok(new UTextButton(UTextButton::Look::Primary)) {
     Initialization();
@@ -31,9 +31,6 @@ void UBodyEnrollModal::Initialization() {
     setObjectName(QStringLiteral("UBodyEnrollModal"));
     m_ok->setObjectName(QStringLiteral("okButton"));
     m_cancel->setObjectName(QStringLiteral("cancelButton"));
-    m_close->setObjectName(QStringLiteral("dialogClose"));
-    m_close->setIcon(ThemeIcon::Get(QStringLiteral("close")));
-    m_close->setIconSize({24, 24});
 
     auto* head = new QHBoxLayout;
     head->addWidget(m_title, 1);
@@ -89,8 +86,7 @@ void UBodyEnrollModal::LanguageChanges() {
     m_content->setText(text(m_contentKey));
     m_ok->setText(text(m_okKey));
     m_cancel->setText(text(m_cancelKey));
-    m_close->setAccessibleName(tr("dialog_close"));
-    m_close->setToolTip(tr("dialog_close"));
+    m_close->SetName(tr("dialog_close"));
     setAccessibleName(m_title->text());
     setAccessibleDescription(m_content->text());
 }

@@ -5,6 +5,7 @@
 #include <QByteArray>
 
 class QLabel;
+class UIconButton;
 class UTextButton;
 
 /// Tells that the service cannot be reached, and offers the network page and another try. Escape closes it
@@ -45,7 +46,7 @@ private:
     QByteArray m_titleKey, m_contentKey, m_okKey, m_cancelKey;
     QLabel* m_title;
     QLabel* m_content;
-    UTextButton* m_close;
+    UIconButton* m_close;
     UTextButton* m_cancel;
     UTextButton* m_ok;
 };

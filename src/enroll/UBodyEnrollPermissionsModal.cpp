@@ -74,16 +74,15 @@ void UBodyEnrollPermissionsModal::InitConnect() {
 
 void UBodyEnrollPermissionsModal::SetPermissions(const std::vector<std::string>& granted) {
     m_location->SetOn(IsGranted(granted, LocationNames));
-    m_remoteControl->SetOn(IsGranted(granted, RemoteControlNames));
-    SetScreenView(IsGranted(granted, ScreenViewNames));
+    m_controlTold = IsGranted(granted, RemoteControlNames);
+    SetScreenView(IsGranted(granted, ScreenViewNames), m_controlTold);
 }
 
 // Who may not see the screen cannot control it.
-void UBodyEnrollPermissionsModal::SetScreenView(bool on) {
+void UBodyEnrollPermissionsModal::SetScreenView(bool on, bool control) {
     m_screenView->SetOn(on);
     m_remoteControl->setEnabled(on);
-    if (!on)
-        m_remoteControl->SetOn(false);
+    m_remoteControl->SetOn(on && control);
 }
 
 void UBodyEnrollPermissionsModal::OnLocationControlStateChange(bool on) {
@@ -96,13 +95,15 @@ void UBodyEnrollPermissionsModal::OnScreenViewStateChange(bool on) {
         m_screenView->SetOn(!on);
         return;
     }
-    SetScreenView(on);
     if (!on)
         ReportWebrtcControlState(false);
+    SetScreenView(on, false);
 }
 
 void UBodyEnrollPermissionsModal::ReportWebrtcControlState(bool on) {
-    if (!Report(PipeKey::ScreenNotifySetting, on) && m_remoteControl->isEnabled())
+    if (Report(PipeKey::ScreenNotifySetting, on))
+        m_controlTold = on;
+    else
         m_remoteControl->SetOn(!on);
 }
 
@@ -128,9 +129,11 @@ void UBodyEnrollPermissionsModal::OnPipeDataReceived(PipeKey key, const std::str
     if (key == PipeKey::LocationSetting)
         m_location->SetOn(state.status);
     else if (key == PipeKey::ScreenShotSetting)
-        SetScreenView(state.status);
-    else
-        m_remoteControl->SetOn(state.status && m_remoteControl->isEnabled());
+        SetScreenView(state.status, m_controlTold);
+    else {
+        m_controlTold = state.status;
+        m_remoteControl->SetOn(m_controlTold && m_remoteControl->isEnabled());
+    }
 }
 
 void UBodyEnrollPermissionsModal::EnrollSuccessfullyToast() {

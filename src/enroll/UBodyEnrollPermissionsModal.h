@@ -44,12 +44,13 @@ private:
     void LanguageChanges();
     void OnPipeDataReceived(PipeKey key, const std::string& body);
     bool Report(PipeKey key, bool on);
-    void SetScreenView(bool on);
+    void SetScreenView(bool on, bool control);
 
     QLabel* m_title;
     QLabel* m_footer;
     USwitchRow* m_location;
     USwitchRow* m_screenView;
     USwitchRow* m_remoteControl;
+    bool m_controlTold = false; // to or by the service, also while the switch cannot show it
     UTextButton* m_done;
 };

@@ -1,6 +1,7 @@
 #include "enroll/UBodyEnrollTagAdd.h"
 
 #include "platform/context/Theme.h"
+#include "widgets/BlankHint.h"
 #include "widgets/UTextButton.h"
 
 #include <QHBoxLayout>
@@ -12,6 +13,7 @@ UBodyEnrollTagAdd::UBodyEnrollTagAdd(QWidget* parent)
     setObjectName(QStringLiteral("DeviceTagsAdd"));
     m_field->setObjectName(QStringLiteral("tagField"));
     m_add->setObjectName(QStringLiteral("tagAddButton"));
+    MarkBlank(m_field);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(2, 2, 2, 2);
     row->setSpacing(4);

@@ -1,12 +1,11 @@
 #include "enroll/UBodyEnrollTagItem.h"
 
 #include "platform/context/Theme.h"
-#include "widgets/ThemeIcon.h"
 #include "widgets/UElidedLabel.h"
+#include "widgets/UIconButton.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
-#include <QPushButton>
 #include <QVariant>
 
 namespace {
@@ -17,13 +16,13 @@ constexpr int MostTextWidth = 340; // what may be typed fits; what the service s
 } // namespace
 
 UBodyEnrollTagItem::UBodyEnrollTagItem(const QString& tag, QWidget* parent)
-    : QFrame(parent), m_text(new UElidedLabel), m_remove(new QPushButton) {
+    : QFrame(parent),
+      m_text(new UElidedLabel),
+      m_remove(
+          new UIconButton("tagRemoveButton", QStringLiteral("close"), 18, QStringLiteral("accentSoftText"))) {
     setObjectName(QStringLiteral("DeviceTagsItem"));
     m_text->SetText(tag);
     m_text->setMaximumWidth(MostTextWidth);
-    m_remove->setObjectName(QStringLiteral("tagRemoveButton"));
-    m_remove->setIcon(ThemeIcon::Get(QStringLiteral("close"), QStringLiteral("accentSoftText")));
-    m_remove->setIconSize({18, 18});
     auto* row = new QHBoxLayout(this);
     row->setSpacing(0);
     row->addWidget(m_text);
@@ -55,8 +54,7 @@ void UBodyEnrollTagItem::UpdateMargins() {
 }
 
 void UBodyEnrollTagItem::LanguageChanges() {
-    m_remove->setAccessibleName(tr("tag_remove").arg(m_text->Text()));
-    m_remove->setToolTip(m_remove->accessibleName());
+    m_remove->SetName(tr("tag_remove").arg(m_text->Text()));
 }
 
 void UBodyEnrollTagItem::changeEvent(QEvent* event) {

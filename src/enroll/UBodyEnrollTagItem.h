@@ -2,8 +2,8 @@
 
 #include <QFrame>
 
-class QPushButton;
 class UElidedLabel;
+class UIconButton;
 
 /// One tag, with a button that takes it away. GUI thread.
 class UBodyEnrollTagItem : public QFrame {
@@ -32,5 +32,5 @@ private:
     void LanguageChanges();
 
     UElidedLabel* m_text;
-    QPushButton* m_remove;
+    UIconButton* m_remove;
 };

@@ -16,4 +16,5 @@ target_sources(ryx_user_objects PRIVATE
     ${CMAKE_CURRENT_LIST_DIR}/UBodyEnrollTags.cpp
     ${CMAKE_CURRENT_LIST_DIR}/UBodyEnrollTip.cpp
     ${CMAKE_CURRENT_LIST_DIR}/UBodyEnrollUsbAlert.cpp
-    ${CMAKE_CURRENT_LIST_DIR}/UEnrollToast.cpp)
+    ${CMAKE_CURRENT_LIST_DIR}/UEnrollToast.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/UsbEnrollment.cpp)

@@ -5,32 +5,18 @@
 #include "platform/context/Theme.h"
 #include "widgets/ThemeIcon.h"
 #include "widgets/UElidedLabel.h"
+#include "widgets/UIconButton.h"
 #include "widgets/UIconLabel.h"
 #include "widgets/UTextLabel.h"
 
 #include <QEvent>
 #include <QGridLayout>
 #include <QProgressBar>
-#include <QPushButton>
 #include <utility>
 
 namespace {
 
 constexpr int Width = 396;
-
-QPushButton* MakeIconButton(const char* objectName, const QString& icon) {
-    auto* button = new QPushButton;
-    button->setObjectName(QLatin1String(objectName));
-    button->setProperty("iconButton", true);
-    button->setIcon(ThemeIcon::Get(icon));
-    button->setIconSize({22, 22});
-    return button;
-}
-
-void SetName(QPushButton* button, const QString& name) {
-    button->setAccessibleName(name);
-    button->setToolTip(name.toHtmlEscaped());
-}
 
 } // namespace
 
@@ -44,8 +30,8 @@ AttachmentItem::AttachmentItem(AttachmentFile file, const FeedbackBackend& backe
       m_name(new UElidedLabel),
       m_status(new UTextLabel("attachmentStatus")),
       m_progress(new QProgressBar),
-      m_again(MakeIconButton("attachmentAgain", QStringLiteral("close"))),
-      m_remove(MakeIconButton("attachmentRemove", QStringLiteral("remove"))) {
+      m_again(new UIconButton("attachmentAgain", QStringLiteral("close"))),
+      m_remove(new UIconButton("attachmentRemove", QStringLiteral("remove"))) {
     m_name->setObjectName(QStringLiteral("attachmentName"));
     m_name->SetElideMode(Qt::ElideMiddle);
     m_name->SetText(m_file.name);
@@ -58,7 +44,7 @@ AttachmentItem::AttachmentItem(AttachmentFile file, const FeedbackBackend& backe
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(14, 8, 6, 8);
     grid->setHorizontalSpacing(4);
-    grid->setVerticalSpacing(2);
+    grid->setVerticalSpacing(4);
     grid->setColumnMinimumWidth(0, 36);
     grid->setColumnStretch(1, 1);
     grid->addWidget(m_icon, 0, 0, 2, 1);
@@ -181,7 +167,7 @@ void AttachmentItem::Retranslate() {
     }
     setAccessibleName(m_file.name);
     setAccessibleDescription(status);
-    SetName(m_again,
-            (m_state == State::Failed ? tr("attachment_retry") : tr("attachment_cancel")).arg(m_file.name));
-    SetName(m_remove, tr("attachment_remove").arg(m_file.name));
+    m_again->SetName(
+        (m_state == State::Failed ? tr("attachment_retry") : tr("attachment_cancel")).arg(m_file.name));
+    m_remove->SetName(tr("attachment_remove").arg(m_file.name));
 }

@@ -8,8 +8,8 @@
 #include <QFutureWatcher>
 
 class QProgressBar;
-class QPushButton;
 class UElidedLabel;
+class UIconButton;
 class UIconLabel;
 class QLabel;
 
@@ -70,6 +70,6 @@ private:
     UElidedLabel* m_name;
     QLabel* m_status;
     QProgressBar* m_progress;
-    QPushButton* m_again; // cancels what runs, and tries again what failed
-    QPushButton* m_remove;
+    UIconButton* m_again; // cancels what runs, and tries again what failed
+    UIconButton* m_remove;
 };

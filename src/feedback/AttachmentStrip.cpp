@@ -30,7 +30,7 @@ AttachmentStrip::AttachmentStrip(const FeedbackBackend& backend, QWidget* parent
       m_note(new UTextLabel("attachmentNote")),
       m_list(new QWidget),
       m_flow(new QFlowLayout(m_list, 0, 12, 12)),
-      m_refusals(new UTextLabel("errorText")) {
+      m_refusals(new UTextLabel("fieldError")) {
     setObjectName(QStringLiteral("attachmentStrip"));
     m_add->setObjectName(QStringLiteral("addAttachments"));
     m_add->setIcon(ThemeIcon::Get(QStringLiteral("attachment")));

@@ -2,25 +2,26 @@
 
 #include "feedback/AttachmentStrip.h"
 #include "feedback/DescriptionBox.h"
+#include "platform/context/EmailAddress.h"
 #include "platform/context/Theme.h"
 #include "widgets/AccessibleRole.h"
+#include "widgets/BlankHint.h"
 #include "widgets/GestureScrollArea.h"
 #include "widgets/UTextLabel.h"
 
 #include <QEvent>
 #include <QLineEdit>
-#include <QRegularExpression>
 #include <QVBoxLayout>
 
 FeedbackForm::FeedbackForm(const FeedbackBackend& backend, QWidget* parent)
     : QWidget(parent),
-      m_descriptionTitle(new UTextLabel("fieldTitle")),
+      m_descriptionTitle(new UTextLabel("fieldLabel")),
       m_description(new DescriptionBox),
       m_counter(new QLabel),
       m_attachments(new AttachmentStrip(backend)),
-      m_emailTitle(new UTextLabel("fieldTitle")),
+      m_emailTitle(new UTextLabel("fieldLabel")),
       m_email(new QLineEdit),
-      m_emailError(new UTextLabel("errorText")) {
+      m_emailError(new UTextLabel("fieldError")) {
     m_counter->setObjectName(QStringLiteral("characterCounter"));
     m_counter->setTextFormat(Qt::PlainText);
     m_email->setObjectName(QStringLiteral("email"));
@@ -45,13 +46,13 @@ FeedbackForm::FeedbackForm(const FeedbackBackend& backend, QWidget* parent)
     connect(m_description, &QTextEdit::textChanged, this, &FeedbackForm::OnDescriptionChanged);
     connect(m_description, &DescriptionBox::AttachmentPasted, m_attachments, &AttachmentStrip::Take);
     connect(m_attachments, &AttachmentStrip::Changed, this, &FeedbackForm::Changed);
-    connect(m_email, &QLineEdit::textChanged, this, [this](const QString& text) {
-        Theme::SetProperty(m_email, "blank", text.isEmpty());
+    connect(m_email, &QLineEdit::textChanged, this, [this] {
         ShowEmailError(false);
         emit Changed();
     });
     connect(m_email, &QLineEdit::returnPressed, this, &FeedbackForm::Submitted);
-    Theme::SetProperty(m_email, "blank", true);
+    MarkBlank(m_description);
+    MarkBlank(m_email);
     OnDescriptionChanged();
     Retranslate();
 }
@@ -64,13 +65,6 @@ QString FeedbackForm::Email() const {
     return m_email->text();
 }
 
-bool FeedbackForm::IsEmail(const QString& text) {
-    // A plain "$" would let a line break at the end pass.
-    static const QRegularExpression address(QRegularExpression::anchoredPattern(
-        QStringLiteral("[a-zA-Z0-9._-]+@[a-zA-Z0-9_-]+(\\.[a-zA-Z0-9_-]+)+")));
-    return address.match(text).hasMatch();
-}
-
 bool FeedbackForm::IsComplete() const {
     return !Description().trimmed().isEmpty() && !m_attachments->IsPending();
 }
@@ -80,7 +74,7 @@ bool FeedbackForm::HoldsSomething() const {
 }
 
 bool FeedbackForm::CheckEmail() {
-    ShowEmailError(!Email().isEmpty() && !IsEmail(Email()));
+    ShowEmailError(!Email().isEmpty() && !IsEmailAddress(Email()));
     if (m_emailIsWrong) {
         m_email->setFocus();
         GestureScrollArea::Reveal(m_emailError);
@@ -104,7 +98,6 @@ void FeedbackForm::SetLocked(bool locked) {
 
 void FeedbackForm::OnDescriptionChanged() {
     const int characters = Description().toUcs4().size();
-    Theme::SetProperty(m_description, "blank", characters == 0);
     m_counter->setText(QStringLiteral("%1/%2").arg(characters).arg(CharacterLimit));
     Theme::SetProperty(m_counter, "charToLong", characters > CharacterLimit);
     emit Changed();

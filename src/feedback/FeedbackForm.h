@@ -22,9 +22,6 @@ public:
     QString Email() const;
     AttachmentStrip& Attachments() const { return *m_attachments; }
 
-    /// Whether a text is an e-mail address that the service takes.
-    static bool IsEmail(const QString& text);
-
     /// Whether there is something to send, and nothing is still on its way.
     bool IsComplete() const;
     /// Whether leaving the form would lose something.

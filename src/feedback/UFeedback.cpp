@@ -42,12 +42,7 @@ void AcceptCopy(QDropEvent& event) {
 } // namespace
 
 UFeedback::UFeedback(QWidget* parent)
-    : UFactsPage({"feedback",
-                  QT_TRANSLATE_NOOP("UFeedback", "log_report_title"),
-                  QT_TRANSLATE_NOOP("UFeedback", "feedback_sentence"),
-                  "",
-                  {}},
-                 parent),
+    : UPage(QStringLiteral("feedback"), parent),
       m_form(new FeedbackForm(m_backend)),
       m_logFiles(new UTextButton(UTextButton::Look::Plain)),
       m_tip(new UTextLabel("pageNote")),
@@ -91,9 +86,8 @@ void UFeedback::Initialization() {
     column->setSpacing(12);
     column->addWidget(m_progress);
     column->addLayout(buttons);
-    AddWidget(m_form);
-    AddWidget(m_logFiles);
-    m_logFiles->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    Content().addWidget(m_form);
+    Content().addWidget(m_logFiles, 0, Qt::AlignLeading);
     SetFooter(footer);
 }
 
@@ -110,7 +104,7 @@ void UFeedback::InitConnect() {
     connect(&m_report, &QFutureWatcherBase::finished, this, &UFeedback::OnReportEnded);
     connect(&m_archive, &QFutureWatcherBase::finished, this, &UFeedback::OnArchiveEnded);
     connect(this, &UFeedback::LogReported, this, &UFeedback::OnLogReported);
-    connect(this, &UFactsPage::BackRequested, this, &UFeedback::Leave);
+    connect(this, &UPage::BackRequested, this, &UFeedback::Leave);
     // A text field that has the focus takes the keys for itself.
     auto* paste = new QShortcut(QKeySequence::Paste, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
     connect(paste, &QShortcut::activated, this, &UFeedback::PasteAttachment);
@@ -346,7 +340,7 @@ void UFeedback::Notify(NoticeKind kind, const QString& text) {
 }
 
 void UFeedback::showEvent(QShowEvent* event) {
-    UFactsPage::showEvent(event);
+    UPage::showEvent(event);
     if (m_outcomeUntold)
         ShowOutcome();
 }
@@ -354,7 +348,7 @@ void UFeedback::showEvent(QShowEvent* event) {
 void UFeedback::changeEvent(QEvent* event) {
     if (event->type() == QEvent::LanguageChange)
         Retranslate();
-    UFactsPage::changeEvent(event);
+    UPage::changeEvent(event);
 }
 
 void UFeedback::dragEnterEvent(QDragEnterEvent* event) {
@@ -377,6 +371,8 @@ void UFeedback::dropEvent(QDropEvent* event) {
 }
 
 void UFeedback::Retranslate() {
+    SetTitle(tr("log_report_title"));
+    SetSentence(tr("feedback_sentence"));
     m_logFiles->setText(tr("log_files_title"));
     ShowTip();
     m_cancel->setText(tr("feedback_cancel"));

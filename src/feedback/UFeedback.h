@@ -4,7 +4,7 @@
 #include "feedback/ReportArchive.h"
 #include "feedback/Workers.h"
 #include "platform/application/NoticeKind.h"
-#include "widgets/UFactsPage.h"
+#include "widgets/UPage.h"
 
 #include <QFutureWatcher>
 #include <QTimer>
@@ -15,7 +15,7 @@ class UAlert;
 class UTextButton;
 
 /// The page from which a user reports a problem, with the logs of this device.
-class UFeedback : public UFactsPage {
+class UFeedback : public UPage {
     Q_OBJECT
 
 public:

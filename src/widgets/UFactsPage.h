@@ -1,17 +1,13 @@
 #pragma once
 
+#include "widgets/UPage.h"
+
 #include <QString>
 #include <QVector>
-#include <QWidget>
 #include <functional>
 
 class QFrame;
 class QGridLayout;
-class QLabel;
-class QLayout;
-class QVBoxLayout;
-class UBackButton;
-class UIconLabel;
 
 /// One line of what a page knows.
 struct PageFact {
@@ -36,7 +32,7 @@ struct PageContent {
 };
 
 /// A page that says what it is for and what is known there now.
-class UFactsPage : public QWidget {
+class UFactsPage : public UPage {
     Q_OBJECT
 
 public:
@@ -45,22 +41,12 @@ public:
     /// Puts a widget of the page's own between the facts and the note.
     void AddWidget(QWidget* widget);
 
-    /// Puts a widget below the page, where it stays while the page is scrolled.
-    void SetFooter(QWidget* widget);
-
-    /// Shows a way back; pressing it emits BackRequested.
-    void ShowBackButton();
-
     /// Asks for the facts again; happens by itself when the page is shown, and while it is, whenever the
     /// state of the link or of the device changes.
     void Refresh();
 
-signals:
-    void BackRequested();
-
 protected:
     void showEvent(QShowEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
@@ -68,12 +54,6 @@ private:
     void ShowFacts(const QVector<PageFact>& facts);
 
     PageContent m_content;
-    QLayout* m_margins;
-    QLayout* m_footerMargins = nullptr;
-    UBackButton* m_back;
-    UIconLabel* m_icon;
-    QLabel* m_title;
-    QLabel* m_sentence;
     QFrame* m_card;
     QGridLayout* m_rows;
     QVBoxLayout* m_own;

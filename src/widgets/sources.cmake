@@ -1,5 +1,6 @@
 target_sources(ryx_user_objects PRIVATE
     ${CMAKE_CURRENT_LIST_DIR}/AccessibleRole.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/BlankHint.cpp
     ${CMAKE_CURRENT_LIST_DIR}/CommonFacts.cpp
     ${CMAKE_CURRENT_LIST_DIR}/GestureScrollArea.cpp
     ${CMAKE_CURRENT_LIST_DIR}/NoticeQueue.cpp
@@ -13,10 +14,12 @@ target_sources(ryx_user_objects PRIVATE
     ${CMAKE_CURRENT_LIST_DIR}/UElidedLabel.cpp
     ${CMAKE_CURRENT_LIST_DIR}/UExitButton.cpp
     ${CMAKE_CURRENT_LIST_DIR}/UFactsPage.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/UIconButton.cpp
     ${CMAKE_CURRENT_LIST_DIR}/UIconLabel.cpp
     ${CMAKE_CURRENT_LIST_DIR}/ULoadingBar.cpp
     ${CMAKE_CURRENT_LIST_DIR}/ULoadingIndicator.cpp
     ${CMAKE_CURRENT_LIST_DIR}/UOverlay.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/UPage.cpp
     ${CMAKE_CURRENT_LIST_DIR}/USwitch.cpp
     ${CMAKE_CURRENT_LIST_DIR}/USwitchRow.cpp
     ${CMAKE_CURRENT_LIST_DIR}/UTextButton.cpp

@@ -88,17 +88,14 @@ TEST_F(EnrolmentEndToEndTest, EnrolsIsKnownAfterARestartAndUnenrolsWithThePasswo
 TEST_F(EnrolmentEndToEndTest, EachFailureIsToldAndTheNextTryMayDoBetter) {
     ASSERT_TRUE(StartFilled());
     Order("binding-delay 1");
-    // On a busy machine the window manager may keep a press for itself.
-    const auto pressed = [&] {
-        enrolPage.PressButton();
-        return WaitUntil([&] { return !enrolPage.OffersAction(); }, std::chrono::milliseconds(500));
-    };
-    for (const char* code : {"r_802001", "error", "170002", "other", "net_error"}) {
+    for (const std::string code :
+         {"r_802001", "r_802002", "r_802003", "error", "170002", "170004", "other", "net_error"}) {
         SCOPED_TRACE(code);
-        Order(std::string("binding fail ") + code);
-        ASSERT_TRUE(WaitUntil(pressed)) << "it waits";
+        Order("binding fail " + code);
+        enrolPage.PressButton();
+        ASSERT_TRUE(WaitUntil([&] { return !enrolPage.OffersAction(); })) << "it waits";
         ASSERT_TRUE(product.AgentSays("was sent 3 Binding"));
-        if (code == std::string("net_error")) {
+        if (code == "net_error") {
             ASSERT_TRUE(enrolPage.Wait(&EnrolPage::IsCovered));
             screen->Press("Escape"); // tries nothing
             ASSERT_TRUE(IsUncovered());
@@ -106,11 +103,11 @@ TEST_F(EnrolmentEndToEndTest, EachFailureIsToldAndTheNextTryMayDoBetter) {
         ASSERT_TRUE(enrolPage.Wait(&EnrolPage::OffersAction));
         EXPECT_TRUE(enrolPage.Wait(&EnrolPage::TellsFailure));
         EXPECT_EQ(WaitUntil([&] { return enrolPage.MarksAnswer(); }, std::chrono::milliseconds(300)),
-                  code == std::string("r_802001"));
+                  code.find("r_802") == 0);
     }
-    EXPECT_EQ(product.AgentLines("received 3 Binding"), 5);
+    EXPECT_EQ(product.AgentLines("received 3 Binding"), 8);
     Order("binding normal");
-    ASSERT_TRUE(WaitUntil(pressed));
+    enrolPage.PressButton();
     EXPECT_TRUE(BecomesEnrolled());
 }
 
@@ -150,11 +147,8 @@ TEST_F(EnrolmentEndToEndTest, WithoutTheServiceNobodyWaits) {
     screen->Press("Escape");
     ASSERT_TRUE(product.StartAgent());
     ASSERT_TRUE(mainPage.WaitForStatus(MainPage::NotEnrolled)) << "the service has said all";
-    EXPECT_TRUE(WaitUntil([&] { // the answers are still there
-        enrolPage.PressButton();
-        return WaitUntil([&] { return enrolPage.IsCovered(); }, std::chrono::seconds(3));
-    }));
-    EXPECT_TRUE(BecomesEnrolled());
+    enrolPage.PressButton();
+    EXPECT_TRUE(BecomesEnrolled()) << "the answers are still there";
 }
 
 TEST_F(EnrolmentEndToEndTest, AStatusBeforeTheResultIsTheResult) {

@@ -109,7 +109,7 @@ TEST_F(EnrollDialogs, TheFailureDialogDoesWhatIsPressedAndEscapeTriesNothing) {
 TEST_F(EnrollDialogs, SwitchesReportTheUsersChangesAloneAndScreenViewTakesControlAlong) {
     constexpr char On[] = R"({"status": true})", Off[] = "{}";
     const struct {
-        const char* granted; ///< names, separated by blanks
+        const char* granted; ///< names, separated by blanks; null: all stays as it was
         const char* pressed; ///< row
         PipeKey received;    ///< with nothing pressed
         const char* body;
@@ -127,21 +127,28 @@ TEST_F(EnrollDialogs, SwitchesReportTheUsersChangesAloneAndScreenViewTakesContro
         {"", "remoteControlRow", {}, nullptr, "", "00-"},
         {"screen", nullptr, PipeKey::LocationSetting, On, "", "110"},
         {"screen", nullptr, PipeKey::ScreenNotifySetting, On, "", "011"},
-        {"", nullptr, PipeKey::ScreenNotifySetting, On, "", "00-"},
         {"screen remoteControl", nullptr, PipeKey::ScreenShotSetting, Off, "", "00-"},
         {"", nullptr, PipeKey::ScreenShotSetting, On, "", "010"},
         {"screen", nullptr, PipeKey::ScreenShotSetting, R"({"status": {}})", "", "010"},
+        {"", nullptr, PipeKey::ScreenNotifySetting, On, "", "00-"},
+        {nullptr, nullptr, PipeKey::ScreenShotSetting, On, "", "011"},
+        {nullptr, "screenViewRow", {}, nullptr, "53-52-", "00-"},
+        {nullptr, nullptr, PipeKey::ScreenShotSetting, On, "", "010"},
     };
     UBodyEnrollPermissionsModal dialog(&page);
     const auto switchOf = [&](const char* row) {
         return dialog.findChild<QWidget*>(QLatin1String(row))->findChild<USwitch*>();
     };
     for (const auto& [granted, pressed, received, body, sent, switches] : cases) {
-        SCOPED_TRACE(testing::Message() << granted << " | " << (pressed ? pressed : body ? body : ""));
+        SCOPED_TRACE(testing::Message() << (granted ? granted : "as it was") << " | "
+                                        << (pressed ? pressed
+                                            : body  ? body
+                                                    : ""));
         std::vector<std::string> names;
         for (const QString& name : QString::fromLatin1(granted).split(QLatin1Char(' ')))
             names.push_back(name.toStdString());
-        dialog.SetPermissions(names);
+        if (granted)
+            dialog.SetPermissions(names);
         dialog.show();
         if (pressed)
             QTest::mouseClick(switchOf(pressed), Qt::LeftButton);

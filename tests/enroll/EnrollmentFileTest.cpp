@@ -1,4 +1,5 @@
 #include "enroll/EnrollmentFile.h"
+#include "platform/context/LanguageHelper.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -22,37 +23,47 @@ constexpr char Good[] =
     R"({"code": "A1B2C3", "account": "a@b.example", "tags": [" hall ", "hall", " ", "physics"]})";
 constexpr int Largest = 64 * 1024;
 
+void Expect(const QString& drive, State state, const char* refusal) {
+    LanguageHelper::Instance()->SetLanguage(QStringLiteral("en"));
+    const EnrollmentFile file = EnrollmentFile::FindOn(drive);
+    EXPECT_EQ(file.state, state);
+    EXPECT_EQ(file.content.code, state == State::Usable ? "A1B2C3" : "");
+    EXPECT_EQ(file.content.tags.size(), state == State::Usable ? 2u : 0u);
+    EXPECT_EQ(file.Refusal().remove(QStringLiteral("The enrolment file on the USB drive ")),
+              QLatin1String(refusal));
+}
+
 TEST(EnrollmentFile, EveryContentIsUsedOrRefusedWithAReason) {
     const struct {
         QByteArray text;
         State state;
+        const char* refusal = "";
     } files[] = {
         {Good, State::Usable},
         {QByteArray("\xEF\xBB\xBF") + Good, State::Usable},
         {QByteArray(Good).leftJustified(Largest), State::Usable},
-        {QByteArray(Good).leftJustified(Largest + 1), State::TooLarge},
-        {"", State::NotJson},
-        {"code=A1B2C3", State::NotJson},
-        {QByteArray("\xFF\xFE{\0}\0", 6), State::NotJson},
-        {QByteArray(Largest, '['), State::NotJson},
-        {"[]", State::WrongFormat},
-        {R"({"code": {}})", State::WrongFormat},
-        {R"({"code": "A1B2C3", "account": "a@b.example", "tags": {"a": 1}})", State::WrongFormat},
-        {R"({"code": "A1B2C3", "account": "a@b.example", "tags": ["a", {}]})", State::WrongFormat},
-        {"null", State::Incomplete},
-        {"{}", State::Incomplete},
-        {R"({"code": "A1B2C3"})", State::Incomplete},
-        {R"({"account": "a@b.example", "deviceName": "Hall"})", State::Incomplete},
+        {QByteArray(Good).leftJustified(Largest + 1), State::TooLarge, "is larger than 64 KiB."},
+        {"", State::NotJson, "is no JSON text in UTF-8."},
+        {"code=A1B2C3", State::NotJson, "is no JSON text in UTF-8."},
+        {QByteArray("\xFF\xFE{\0}\0", 6), State::NotJson, "is no JSON text in UTF-8."},
+        {QByteArray(Largest, '['), State::NotJson, "is no JSON text in UTF-8."},
+        {"[]", State::WrongFormat, "does not have the right format."},
+        {R"({"code": {}})", State::WrongFormat, "does not have the right format."},
+        {R"({"code": "A1B2C3", "account": "a@b.example", "tags": {"a": 1}})", State::WrongFormat,
+         "does not have the right format."},
+        {R"({"code": "A1B2C3", "account": "a@b.example", "tags": ["a", {}]})", State::WrongFormat,
+         "does not have the right format."},
+        {"null", State::Incomplete, "lacks the code or the account."},
+        {"{}", State::Incomplete, "lacks the code or the account."},
+        {R"({"code": "A1B2C3"})", State::Incomplete, "lacks the code or the account."},
+        {R"({"account": "a@b.example", "deviceName": "Hall"})", State::Incomplete,
+         "lacks the code or the account."},
     };
     const QTemporaryDir drive;
-    for (const auto& [text, state] : files) {
+    for (const auto& [text, state, refusal] : files) {
         SCOPED_TRACE(text.left(60).constData());
         Write(drive.filePath(QStringLiteral("Enrollment.json")), text);
-        const EnrollmentFile file = EnrollmentFile::FindOn(drive.path());
-        EXPECT_EQ(file.state, state);
-        EXPECT_EQ(file.content.code, state == State::Usable ? "A1B2C3" : "");
-        EXPECT_EQ(file.content.tags.size(), state == State::Usable ? 2u : 0u);
-        EXPECT_EQ(file.Refusal().isEmpty(), state == State::Usable);
+        Expect(drive.path(), state, refusal);
     }
 }
 
@@ -92,7 +103,7 @@ TEST(EnrollmentFile, ALinkIsRefused) {
                                         link.toStdWString(), error);
         if (error)
             GTEST_SKIP() << error.message();
-        EXPECT_EQ(EnrollmentFile::FindOn(drive.path()).state, State::NotRegular) << target;
+        Expect(drive.path(), State::NotRegular, "is a link, not a file of its own.");
         QFile::remove(link);
     }
 }

@@ -1,4 +1,5 @@
 // The enrolment page in its window, over a real link: what a user enters and presses, what the service says.
+#include "enroll/UBodyEnroll.h"
 #include "app/MainWindow.h"
 #include "app/Pages.h"
 #include "app/UBody.h"
@@ -8,6 +9,7 @@
 #include "entity/EnrollEntities.h"
 #include "gallery/Scenes.h"
 #include "platform/application/UsbDetector.h"
+#include "platform/application/WindowStack.h"
 #include "platform/context/AppContextData.h"
 #include "platform/context/LanguageHelper.h"
 #include "platform/link/PipeClientService.h"
@@ -29,6 +31,12 @@ namespace {
 const char* const Code = "a1b2c3";
 const char* const Account = "ad.min_1-x@lake-side.example.org";
 
+struct OneDrive : SystemDrives {
+    QVector<SystemDrive> Drives() const override { return {{root, 0}}; }
+    std::unique_ptr<Watch> WatchDrives(std::function<void()>) const override { return nullptr; }
+    QString root;
+};
+
 class EnrolmentPage : public testing::Test {
 protected:
     void SetUp() override {
@@ -49,7 +57,9 @@ protected:
         if (!enrolled)
             stage->Window().findChild<ULauncher*>()->EnrolRequested();
     }
-    QWidget& Page() { return *stage->Window().findChild<UBody*>()->Page(PageIndex(PageId::Enrolment)); }
+    QWidget& Page() {
+        return ownPage ? *ownPage : *stage->Window().findChild<UBody*>()->Page(PageIndex(PageId::Enrolment));
+    }
     QLineEdit& Edit(const char* name) { return *Page().findChild<QLineEdit*>(QLatin1String(name)); }
     UTextButton& Button() { return *Page().findChild<UTextButton*>(QStringLiteral("bindButton")); }
     int State() { return Button().property("ButtonState").toInt(); }
@@ -124,7 +134,9 @@ protected:
 
     FakeService service;
     PipeClientService& link = *PipeClientService::Instance();
+    OneDrive drives;
     std::unique_ptr<Stage> stage;
+    QPointer<QWidget> ownPage; // in place of the window's
 };
 
 TEST_F(EnrolmentPage, ChecksInOrderAndSendsWhatWasEntered) {
@@ -219,9 +231,11 @@ TEST_F(EnrolmentPage, EveryFailureIsShown) {
         const char* dialog = "";
     } cases[] = {
         {"r_802001", "schoolCode adminAccount ", "Code and e-mail address do not belong together."},
+        {"r_802002", "schoolCode adminAccount ", "Code and e-mail address do not belong together."},
         {"r_802003", "schoolCode adminAccount ", "Code and e-mail address do not belong together."},
         {"error", "", "error ."},
         {"170002", "", "The management service cannot be reached. Check the network."},
+        {"170004", "", "The management service cannot be reached. Check the network."},
         {"net_error", "", "Unable to bind.", "UBodyEnrollModal"},
         {"", "", "Unable to bind."},
     };
@@ -351,8 +365,9 @@ TEST_F(EnrolmentPage, TheServicesWordIsTaken) {
             EXPECT_EQ(Page().findChildren<QWidget*>(QStringLiteral("DeviceTagsItem")).size(),
                       static_cast<int>(AppContextData::Instance()->DeviceTags().size()));
         }
-        QCoreApplication::processEvents();
         Press(Button()); // whatever it says, it does
+        EXPECT_EQ(Overlay() == "UBodyUnbindModal", row.state == 2);
+        ReceiveStatus(row.status); // again
         EXPECT_EQ(Overlay() == "UBodyUnbindModal", row.state == 2);
     }
 }
@@ -375,39 +390,64 @@ TEST_F(EnrolmentPage, ShownLateItKnowsWhatTheServiceHasSaid) {
 }
 
 TEST_F(EnrolmentPage, AFileOnADriveFillsTheFormOrSaysWhyNot) {
+    enum When { PageIsAway, PageIsShownFirst, WindowIsAwayUnderALock };
     const struct {
+        When when;
         bool enrolled;
         const char* text;
         const char* form; ///< code, account, name, prefix and suffix
         int tags;
-        bool filled;
+        const char* refusal = "";
     } cases[] = {
-        {false, R"({"code": "x", "account": "y", "deviceName": "n"})", "x y n   ", 1, true},
-        {false,
+        {PageIsAway, false, R"({"code": "x", "account": "y", "deviceName": "n"})", "x y n   ", 1},
+        {PageIsAway, false,
          R"({"code": "x", "account": "y", "deviceName": "n", "devicePrefix": "p", "tags": ["a", "b"]})",
-         "x y n p  ", 2, true},
-        {false, R"({"code": "x"})", "before     ", 1, false},
-        {false, "[]", "before     ", 1, false},
-        {false, R"({"code": {}})", "before     ", 1, false},
-        {true, R"({"code": "x", "account": "y"})", "A1B2C3 admin@school.example Lecture hall 3   ", 2, false},
+         "x y n p  ", 2},
+        {PageIsAway, false, R"({"code": "x"})", "before     ", 1,
+         "The enrolment file on the USB drive lacks the code or the account."},
+        {PageIsAway, false, "[]", "before     ", 1,
+         "The enrolment file on the USB drive does not have the right format."},
+        {PageIsAway, true, R"({"code": "x", "account": "y"})",
+         "A1B2C3 admin@school.example Lecture hall 3   ", 2,
+         "A file for the enrolment was found on the USB drive, but this device is enrolled already."},
+        {PageIsShownFirst, false, R"({"code": "x", "account": "y"})", "x y    ", 0},
+        {WindowIsAwayUnderALock, false, R"({"code": "x", "account": "y", "tags": ["a"]})", "x y    ", 1},
     };
     for (const auto& row : cases) {
         SCOPED_TRACE(row.text);
-        const QTemporaryDir drive;
-        QFile file(drive.filePath(QStringLiteral("Enrollment 1.json")));
+        const QTemporaryDir folder;
+        QFile file(folder.filePath(QStringLiteral("Enrollment 1.json")));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(row.text);
         file.close();
-        Start(row.enrolled);
-        if (!row.enrolled) {
+        QWidget lock;
+        lock.setProperty("TopLevel", 6);
+        WindowStack::Instance()->PushWindow(&lock);
+        stage.reset();
+        stage = std::make_unique<Stage>(row.enrolled);
+        if (row.when == WindowIsAwayUnderALock) {
+            lock.show();
+            stage->Window().hide();
+        } else if (!row.enrolled) {
+            stage->Window().OpenEnrolmentPage();
             Edit("schoolCode").setText(QStringLiteral("before"));
             AddTag("typed");
             stage->Window().findChild<UMenu*>()->SwitchTo(PageIndex(PageId::Network));
         }
-        emit Page().findChild<UsbDetector*>()->UsbArrived(drive.path());
-        ASSERT_TRUE(QTest::qWaitFor([&] { return !Overlay().empty() || !Toast().empty(); }));
-        EXPECT_EQ(Overlay(), row.filled ? "UBodyEnrollUsbAlert" : "");
-        EXPECT_EQ(Page().isVisible(), row.filled || row.enrolled);
+        if (row.when == PageIsShownFirst) {
+            drives.root = folder.path();
+            ownPage = new UBodyEnroll(&stage->Window(), drives);
+            ownPage->show();
+        } else {
+            emit Page().findChild<UsbDetector*>()->UsbArrived(folder.path());
+        }
+        ASSERT_TRUE(QTest::qWaitFor(
+            [&] { return Edit("schoolCode").text() == QLatin1String("x") || !Toast().empty(); }));
+        lock.hide();
+        stage->Window().show();
+        EXPECT_EQ(Overlay(), *row.refusal ? "" : "UBodyEnrollUsbAlert");
+        EXPECT_EQ(Toast(), row.refusal);
+        EXPECT_EQ(Page().isVisible(), row.enrolled || !*row.refusal);
         std::string form;
         for (const char* name : {"schoolCode", "adminAccount", "deviceName", "devicePrefix", "deviceSuffix"})
             form += Edit(name).text().toStdString() + ' ';

@@ -5,6 +5,7 @@
 #include "platform/application/RyxWindow.h"
 #include "platform/context/AppConfigData.h"
 #include "platform/context/AppContextData.h"
+#include "platform/context/EmailAddress.h"
 #include "platform/context/LanguageHelper.h"
 #include "platform/context/Theme.h"
 #include "widgets/UAlert.h"
@@ -168,10 +169,10 @@ TEST_F(Feedback, WhatIsWrittenOpensSubmitAndIsNeverCut) {
 
 TEST_F(Feedback, AWrongAddressIsToldAndNothingIsSent) {
     for (const char* good : {"a@b.c", "A.b_c-9@x_y-z.co.uk", "._-@_.-"})
-        EXPECT_TRUE(FeedbackForm::IsEmail(QLatin1String(good))) << good;
+        EXPECT_TRUE(IsEmailAddress(QLatin1String(good))) << good;
     for (const char* bad :
          {"", "a", "a@b", "a+b@c.d", "a@b.", "@b.c", "a@b.c\n", " a@b.c", "a@b..c", "a@b.c,d@e.f"})
-        EXPECT_FALSE(FeedbackForm::IsEmail(QLatin1String(bad))) << bad;
+        EXPECT_FALSE(IsEmailAddress(QLatin1String(bad))) << bad;
     Write(QStringLiteral("x"));
     Find<QLineEdit>("email").setText(QStringLiteral("a@b"));
     Submit();
@@ -186,7 +187,7 @@ TEST_F(Feedback, AWrongAddressIsToldAndNothingIsSent) {
 }
 
 TEST_F(Feedback, WhatIsNotAttachedIsToldWithItsReason) {
-    const auto& refusals = *Strip().findChild<QLabel*>(QStringLiteral("errorText"));
+    const auto& refusals = *Strip().findChild<QLabel*>(QStringLiteral("fieldError"));
     const QString good = Make(QStringLiteral("good"));
     const struct {
         QStringList paths;

@@ -7,7 +7,7 @@ namespace {
 
 constexpr int HeaderHeight = 77;
 constexpr int MenuWidth = 240;
-constexpr int ButtonRowHeight = 76;
+constexpr int ButtonRowHeight = 84;
 constexpr int FilledPixels = 4000;     // of the button
 constexpr QSize SmallestWords(80, 10); // on the button
 constexpr int WordsPixels = 60;        // of a short sentence
@@ -42,14 +42,18 @@ QRect EnrolPage::Button(const QColor& color) const {
 }
 
 bool EnrolPage::Open() {
-    if (!m_desktop.WaitForWindow(MainPage::Title))
-        return false;
-    return WaitUntil([this] {
-        if (OffersAction())
-            return true;
-        m_desktop.Press("space");
-        return WaitUntil([this] { return OffersAction(); }, std::chrono::seconds(1));
+    ColorArea button;
+    QRect words; // of the launcher; the picture beside them has the button's colour, too
+    const bool isThere = WaitUntil([&] {
+        words = Window().adjusted(0, HeaderHeight, 0, 0);
+        words.setWidth(words.width() / 2);
+        button = words.isEmpty() ? ColorArea() : FindColor(m_desktop.Screenshot(words), Accent);
+        return button.pixels > FilledPixels;
     });
+    if (!isThere)
+        return false;
+    m_desktop.Click(button.bounds.center() + words.topLeft());
+    return Wait(&EnrolPage::OffersAction);
 }
 
 void EnrolPage::Fill(const std::string& code, const std::string& account, const std::string& name,

@@ -9,7 +9,7 @@ class EnrolPage {
 public:
     explicit EnrolPage(const RunningProduct& product) : m_desktop(product.Screen()) {}
 
-    /// Presses the launcher's button, which has the focus; the first field then has it.
+    /// Presses the launcher's button; the first field then has the keyboard.
     bool Open();
     /// Types the answers, and agrees or not. The first field has the focus.
     void Fill(const std::string& code, const std::string& account, const std::string& name,

@@ -165,6 +165,8 @@ QJsonObject RunningProduct::Configuration() const {
 }
 
 void RunningProduct::WriteConfiguration() {
+    if (m_newKeys.isEmpty())
+        return;
     QJsonObject keys = Configuration();
     for (auto key = m_newKeys.begin(); key != m_newKeys.end(); ++key)
         keys[key.key()] = key.value();
@@ -176,17 +178,35 @@ void RunningProduct::WriteConfiguration() {
 
 bool RunningProduct::PlugIn(const std::string& folder) {
     if (HasLauncher())
-        return false;
+        return PlugInUnderWine(folder);
     m_drive = "/mnt/" + m_folder.path().section(QLatin1Char('/'), -1).toStdString();
     return QDir().mkpath(QString::fromStdString(m_drive)) &&
            std::system(("mount --bind " + folder + ' ' + m_drive + " 2>/dev/null").c_str()) == 0;
 }
 
+// Wine finds files by the link as soon as it is there, and lists drives that somebody has defined.
+bool RunningProduct::PlugInUnderWine(const std::string& folder) {
+    const std::string prefix = Variable("WINEPREFIX");
+    m_drive = prefix + "/dosdevices/e:";
+    return !prefix.empty() && QFile::link(QString::fromStdString(folder), QString::fromStdString(m_drive)) &&
+           TellOfDrive({"arrive", "E", PathForPrograms(folder)});
+}
+
+bool RunningProduct::TellOfDrive(const Words& words) const {
+    ChildProcess messenger;
+    Start(messenger, Steering::Drive, words);
+    WaitUntil([&] { return CountOf(messenger.Output(), "done") > 0 || !messenger.IsRunning(); });
+    return CountOf(messenger.Output(), "done") > 0;
+}
+
 void RunningProduct::PlugOut() {
     if (m_drive.empty())
         return;
-    if (std::system(("umount " + m_drive + " 2>/dev/null").c_str()) == 0)
-        QDir().rmdir(QString::fromStdString(m_drive));
+    const QString drive = QString::fromStdString(m_drive);
+    if (!HasLauncher() && std::system(("umount " + m_drive + " 2>/dev/null").c_str()) == 0)
+        QDir().rmdir(drive);
+    else if (HasLauncher() && QFile::remove(drive))
+        TellOfDrive({"remove", "E"});
     m_drive.clear();
 }
 
@@ -205,7 +225,6 @@ bool RunningProduct::StartBoth() {
 }
 
 bool RunningProduct::StartSupervised() {
-    WriteConfiguration();
     return StartAgent({"--launch", PathForPrograms(FileOf(Steering::FrontEnd))}) && HaveMet();
 }
 

@@ -25,6 +25,7 @@ constexpr Program FrontEnd{"RYX_E2E_FRONTEND", "velmora-ryx"};
 constexpr Program Agent{"RYX_E2E_AGENT", "ryx-agent"};
 constexpr Program ForeignWindow{"RYX_E2E_FOREIGN", "foreign_window"}; // needed where there is a launcher
 constexpr Program Attack{"RYX_E2E_ATTACK", "ryx-attack"};
+constexpr Program Drive{"RYX_E2E_DRIVE", "volume_message"}; // needed under Wine
 constexpr Program SessionManager{"RYX_E2E_SESSION_MANAGER", "ryx-session-manager"};
 } // namespace Steering
 
@@ -111,6 +112,8 @@ private:
     QJsonObject Configuration() const;
     void WriteConfiguration();
     bool HaveMet();
+    bool PlugInUnderWine(const std::string& folder);
+    bool TellOfDrive(const Words& words) const;
     std::string Log() const;
 
     Desktop& m_desktop;
@@ -122,7 +125,7 @@ private:
     Words m_variables;
     ChildProcess m_agent;
     ChildProcess m_frontEnd;
-    std::string m_drive;                 // that is plugged in
+    std::string m_drive;                 // that is plugged in: where it is mounted, or its letter's link
     std::list<ChildProcess> m_attackers; // some of them stay
     std::size_t m_agentRead = 0;         // of the agent service's output, what AgentSays has passed
 };

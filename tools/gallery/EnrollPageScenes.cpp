@@ -1,12 +1,12 @@
 #include "app/MainWindow.h"
 #include "app/ULauncher.h"
+#include "enroll/EnrollView.h"
 #include "gallery/Scenes.h"
+#include "lock/UBodyEnrollUnModal.h"
 
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScrollArea>
-#include <QScrollBar>
 
 namespace {
 
@@ -65,10 +65,7 @@ QVector<Scene> EnrollPageScenes() {
              [](Stage& stage) {
                  Fill(stage);
                  Settle();
-                 QScrollBar* bar = stage.Window()
-                                       .findChild<QScrollArea*>(QStringLiteral("enrolScroll"))
-                                       ->verticalScrollBar();
-                 bar->setValue(bar->maximum());
+                 stage.Window().findChild<EnrollView*>()->ScrollToEnd();
              }),
         Form(QStringLiteral("form-two-fields"),
              [](Stage& stage) {
@@ -99,6 +96,15 @@ QVector<Scene> EnrollPageScenes() {
         Refused(QStringLiteral("no-network"), "net_error"),
         Enrolled(QStringLiteral("disconnected"), 4, [](Stage&) {}),
         Enrolled(QStringLiteral("connect"), 4, [](Stage& stage) { Press(stage, "bindButton"); }),
+        Enrolled(QStringLiteral("connecting"), 5, [](Stage&) {}),
         Enrolled(QStringLiteral("unenrol"), 2, [](Stage& stage) { Press(stage, "bindButton"); }),
+        Enrolled(QStringLiteral("unenrolling"), 2,
+                 [](Stage& stage) {
+                     Press(stage, "bindButton");
+                     auto* prompt = stage.Window().findChild<UBodyEnrollUnModal*>();
+                     prompt->hide();
+                     stage.Window().BeginBinding(RyxWindow::BindAction::Unbind);
+                     emit prompt->UnEnrollingState();
+                 }),
     };
 }

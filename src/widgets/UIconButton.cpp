@@ -1,0 +1,14 @@
+#include "widgets/UIconButton.h"
+
+#include "widgets/ThemeIcon.h"
+
+UIconButton::UIconButton(const char* objectName, const QString& icon, int size, const QString& color) {
+    setObjectName(QString::fromLatin1(objectName));
+    setIcon(ThemeIcon::Get(icon, color));
+    setIconSize({size, size});
+}
+
+void UIconButton::SetName(const QString& name) {
+    setAccessibleName(name);
+    setToolTip(name.toHtmlEscaped());
+}
