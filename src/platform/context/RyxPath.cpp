@@ -1,6 +1,7 @@
 #include "platform/context/RyxPath.h"
 
 #include "platform/context/AppConfigData.h"
+#include "platform/security/LogText.h"
 #include "platform/system/SystemSession.h"
 
 #include <QDateTime>
@@ -47,6 +48,6 @@ void RyxPath::RemoveOldTempFiles() {
         const bool removed =
             isFolder ? QDir(entry.filePath()).removeRecursively() : QFile::remove(entry.filePath());
         LOG(INFO) << "RyxPath::RemoveOldTempFiles " << (removed ? "removed " : "could not remove ")
-                  << entry.fileName().toStdString();
+                  << LogText(entry.fileName());
     }
 }
