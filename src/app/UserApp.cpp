@@ -142,7 +142,6 @@ int UserApp::Run(int argc, char** argv) {
     AppHelper::InitLanguage();
     AppHelper::LoadConfig();
     RyxWebClient::Instance()->Configure(WebSettings::From(*AppConfigData::Instance()));
-    RyxPath::RemoveOldTempFiles();
 
     PopupsController popups;
     MainController main;
@@ -169,6 +168,7 @@ int UserApp::Run(int argc, char** argv) {
         SystemWindows::Native().CreateHidden(window);
     else
         window.show();
+    RyxPath::RemoveOldTempFiles();
     const int exitCode = Execute(application, screenLock);
     quitDeadline.Begin(exitCode);
     return exitCode;

@@ -213,6 +213,7 @@ void PasswordPrompt::Arrange() {
     setMinimumWidth(form.width);
     m_columns->setDirection(form.direction);
     m_pad->SetLow(form.low);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest); // or what is painted first jumps
 }
 
 void PasswordPrompt::keyPressEvent(QKeyEvent* event) {

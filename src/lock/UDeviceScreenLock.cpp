@@ -233,6 +233,7 @@ void UDeviceScreenLock::resizeEvent(QResizeEvent* event) {
     m_ui->messageRows->setSpacing(low ? 16 : 40);
     m_ui->lockIcon->setVisible(!low);
     Theme::SetProperty(m_ui->messageLabel, "low", low);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest); // or what is painted first jumps
     QWidget::resizeEvent(event);
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "AgentEnrolment.h"
 #include "CommandInterpreter.h"
+#include "WebService.h"
 #include "platform/web/RyxWebClient.h"
 
 #include <QTemporaryDir>
