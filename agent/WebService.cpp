@@ -172,6 +172,14 @@ WebService::Answer WebService::Refusal(int status, const std::string& message) {
     return {status, body.toStyledString(), {}};
 }
 
+WebService::Answer WebService::FileAnswer(const httplib::Request& request, const std::string& fileKey) {
+    NubraNotifyUploadResultResponse response;
+    response.status = "success";
+    response.data.fileKey = fileKey;
+    response.data.downloadUrl = AddressOf(request, fileKey);
+    return {200, response.WriteToString(), {}};
+}
+
 WebService::Answer WebService::AnnounceUpload(const httplib::Request& request) {
     if (!request.has_param("name") || !request.has_param("size") || !request.has_param("type"))
         return Refusal(400, "type, name and size are wanted");
@@ -206,22 +214,14 @@ WebService::Answer WebService::TakeNotice(const httplib::Request& request) {
     const std::string digest = tag.size() > 2 ? tag.substr(1, tag.size() - 2) : std::string();
     if (!m_store.TakeNotice(fileKey, digest))
         return Refusal(404, "there is no such upload");
-    NubraNotifyUploadResultResponse response;
-    response.status = "success";
-    response.data.fileKey = fileKey;
-    response.data.downloadUrl = AddressOf(request, fileKey);
-    return {200, response.WriteToString(), {}};
+    return FileAnswer(request, fileKey);
 }
 
 WebService::Answer WebService::TellAddress(const httplib::Request& request) {
     const std::string fileKey = request.get_param_value("fileKey");
     if (!m_store.Has(fileKey))
         return Refusal(404, "there is no such file");
-    NubraNotifyUploadResultResponse response;
-    response.status = "success";
-    response.data.fileKey = fileKey;
-    response.data.downloadUrl = AddressOf(request, fileKey);
-    return {200, response.WriteToString(), {}};
+    return FileAnswer(request, fileKey);
 }
 
 WebService::Answer WebService::ListLog(const httplib::Request& request) {

@@ -5,7 +5,6 @@
 
 #include <QObject>
 #include <condition_variable>
-#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -59,10 +58,10 @@ private:
         std::string body;
         std::map<std::string, std::string> headers;
     };
-    using Get = std::function<Answer(const httplib::Request&)>;
     class Receipt;
 
     static Answer Refusal(int status, const std::string& message);
+    static Answer FileAnswer(const httplib::Request& request, const std::string& fileKey);
     void AddEndpoints();
     void AddStore();
     Answer AnnounceUpload(const httplib::Request& request);

@@ -54,10 +54,11 @@ NubraUploadPolicyData WebStore::Announce(const std::string& name, const std::str
     policy.uploadUrl = address;
     policy.needCallServer = m_manner.wantsNotice;
     policy.keyInfoFields = {Field("fileKey", data.fileKey)};
+    policy.headerFields = {Field("Content-Type", "application/octet-stream")}; // no form may be called so
     if (m_manner.asForm)
         policy.formFields = {Field("token", file.token)};
     else
-        policy.headerFields = {Field("X-Store-Token", file.token)};
+        policy.headerFields.push_back(Field("X-Store-Token", file.token));
     policy.needExtractHeaderNames = {"ETag"};
     return data;
 }

@@ -10,6 +10,7 @@
 #include "lock/UDeviceScreenLock.h"
 #include "platform/ProductConstants.h"
 #include "platform/application/QtSingleApplication.h"
+#include "platform/application/QuitDeadline.h"
 #include "platform/application/Watchdog.h"
 #include "platform/context/AppConfigData.h"
 #include "platform/context/AppHelper.h"
@@ -112,6 +113,7 @@ int UserApp::Run(int argc, char** argv) {
     // Windows that stay open would otherwise veto log-off and shutdown.
     QGuiApplication::setFallbackSessionManagementEnabled(false);
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    QuitDeadline quitDeadline;
     QtSingleApplication application(QStringLiteral("velmora_ryx_windows_shell"), argc, argv);
     if (application.isRunning()) {
         application.sendMessage(ForwardedArguments(application.arguments()), ForwardTimeoutMs);
@@ -167,7 +169,9 @@ int UserApp::Run(int argc, char** argv) {
     else
         window.show();
     RyxPath::RemoveOldTempFiles();
-    return Execute(application, screenLock);
+    const int exitCode = Execute(application, screenLock);
+    quitDeadline.Begin(exitCode);
+    return exitCode;
 }
 
 void UserApp::OnOtherInstanceMessageReceived(const QString& message) {

@@ -20,6 +20,13 @@ Refusal Judge(const QFileInfo& info) {
 
 } // namespace
 
+QVector<AttachmentFile> AttachmentFile::Unreadable(const QStringList& paths) {
+    QVector<AttachmentFile> files;
+    for (const QString& path : paths)
+        files.append({path, QFileInfo(path).fileName(), path, 0, Refusal::Unreadable, nullptr});
+    return files;
+}
+
 QVector<AttachmentFile> AttachmentFile::Inspect(const QStringList& paths) {
     QVector<AttachmentFile> files;
     for (const QString& path : paths) {
@@ -34,7 +41,7 @@ QVector<AttachmentFile> AttachmentFile::Save(const QImage& picture, const QStrin
     const auto folder = std::make_shared<QTemporaryDir>(tempFolder + QStringLiteral("/picture-XXXXXX"));
     const QString path = folder->filePath(name);
     if (!folder->isValid() || !picture.save(path, "PNG"))
-        return {{path, name, path, 0, Refusal::Unreadable, nullptr}};
+        return Unreadable({path});
     QVector<AttachmentFile> files = Inspect({path});
     files.first().folder = folder;
     return files;

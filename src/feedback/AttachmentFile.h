@@ -21,6 +21,9 @@ struct AttachmentFile {
     Refusal refusal = Refusal::None;
     std::shared_ptr<QTemporaryDir> folder; ///< of a picture that exists nowhere else; goes with its last user
 
+    /// Files that could not be looked at.
+    static QVector<AttachmentFile> Unreadable(const QStringList& paths);
+
     /// Looks at files. Worker threads.
     static QVector<AttachmentFile> Inspect(const QStringList& paths);
 

@@ -73,12 +73,13 @@ void AttachmentItem::Start() {
     m_cancellation = Cancellation();
     m_meter = ProgressMeter();
     // The worker has copies: it may be at work after this widget has gone. A picture's folder goes with it.
-    m_upload.setFuture(m_workers.Run([upload = m_backend.upload, file = m_file, meter = m_meter,
-                                      cancellation = m_cancellation]() -> FeedbackBackend::Upload {
+    const auto upload = [upload = m_backend.upload, file = m_file, meter = m_meter,
+                         cancellation = m_cancellation]() -> FeedbackBackend::Upload {
         if (cancellation.IsCancelled())
             return {{}, WebError::Cancelled};
         return upload(file.path, meter.Watch(cancellation));
-    }));
+    };
+    m_upload.setFuture(m_workers.Run(upload, {{}, WebError::Internal}));
     SetState(State::Pending);
 }
 
@@ -149,8 +150,7 @@ void AttachmentItem::changeEvent(QEvent* event) {
 }
 
 void AttachmentItem::Retranslate() {
-    const QLocale locale = LanguageHelper::Instance()->Locale();
-    const QString size = locale.formattedDataSize(m_file.size, 1, QLocale::DataSizeTraditionalFormat);
+    const QString size = LanguageHelper::Instance()->SizeText(m_file.size);
     const int percent = m_meter.Percent();
     QString status;
     if (m_state == State::Uploaded)
@@ -160,7 +160,7 @@ void AttachmentItem::Retranslate() {
     else if (percent < 0)
         status = tr("attachment_waiting").arg(size);
     else
-        status = tr("attachment_uploading").arg(locale.toString(percent), size);
+        status = tr("attachment_uploading").arg(LanguageHelper::Instance()->Locale().toString(percent), size);
     if (status != m_status->text()) {
         m_status->setText(status);
         updateGeometry();

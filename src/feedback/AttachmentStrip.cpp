@@ -78,13 +78,15 @@ void AttachmentStrip::ChooseFiles() {
 }
 
 void AttachmentStrip::AddFiles(const QStringList& paths) {
-    Inspect(m_inspectors.Run([paths] { return AttachmentFile::Inspect(paths); }));
+    Inspect(m_inspectors.Run([paths] { return AttachmentFile::Inspect(paths); },
+                             AttachmentFile::Unreadable(paths)));
 }
 
 void AttachmentStrip::AddPicture(const QImage& picture) {
     const QString name = QStringLiteral("picture-%1.png").arg(++m_pictures);
     const QString folder = QString::fromStdWString(RyxPath::GetRyxTempDir());
-    Inspect(m_inspectors.Run([=] { return AttachmentFile::Save(picture, name, folder); }));
+    Inspect(m_inspectors.Run([=] { return AttachmentFile::Save(picture, name, folder); },
+                             AttachmentFile::Unreadable({name})));
 }
 
 void AttachmentStrip::Inspect(const QFuture<QVector<AttachmentFile>>& inspection) {
@@ -215,12 +217,11 @@ void AttachmentStrip::changeEvent(QEvent* event) {
 }
 
 void AttachmentStrip::Retranslate() {
-    const QLocale locale = LanguageHelper::Instance()->Locale();
+    const LanguageHelper& language = *LanguageHelper::Instance();
     m_add->setText(tr("+ Add attachments (Optional)"));
     m_note->setText(
         tr("attachment_note")
-            .arg(locale.toString(MostFiles),
-                 locale.formattedDataSize(AttachmentFile::MostBytes, 0, QLocale::DataSizeTraditionalFormat)));
+            .arg(language.Locale().toString(MostFiles), language.SizeText(AttachmentFile::MostBytes, 0)));
     ShowRefusals();
 }
 
@@ -230,8 +231,7 @@ void AttachmentStrip::ShowRefusals() {
         switch (why) {
         case Refusal::TooLarge:
             return tr("attachment_too_large")
-                .arg(locale.formattedDataSize(AttachmentFile::MostBytes, 0,
-                                              QLocale::DataSizeTraditionalFormat));
+                .arg(LanguageHelper::Instance()->SizeText(AttachmentFile::MostBytes, 0));
         case Refusal::TooMany:
             return tr("attachment_too_many").arg(locale.toString(MostFiles));
         case Refusal::Folder:

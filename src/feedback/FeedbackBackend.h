@@ -1,6 +1,7 @@
 #pragma once
 
 #include "feedback/LogReport.h"
+#include "feedback/ReportArchive.h"
 
 #include <functional>
 
@@ -16,6 +17,9 @@ struct FeedbackBackend {
     std::function<LogReportOutcome(const LogReportRequest&, const Cancellation&, const ProgressMeter&)>
         report = [](const LogReportRequest& request, const Cancellation& cancellation,
                     const ProgressMeter& meter) { return LogReport(request).Run(cancellation, meter); };
+
+    std::function<ReportArchive::Result(const ReportArchive&, const TaskControl&)> save =
+        &ReportArchive::Save;
 
     /// Uploads a file with the web client and asks for its address. One that changes meanwhile fails.
     static Upload UploadAttachment(const QString& path, const TaskControl& control);

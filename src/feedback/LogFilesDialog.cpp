@@ -1,6 +1,7 @@
 #include "feedback/LogFilesDialog.h"
 
 #include "platform/context/LanguageHelper.h"
+#include "platform/files/NamedFile.h"
 #include "widgets/AccessibleRole.h"
 #include "widgets/GestureScrollArea.h"
 #include "widgets/UBackButton.h"
@@ -9,70 +10,50 @@
 #include "widgets/UTextButton.h"
 #include "widgets/UTextLabel.h"
 
-#include <QDir>
-#include <QDirIterator>
-#include <QGridLayout>
-#include <QKeyEvent>
+#include <QEvent>
+#include <QFile>
+#include <QFileInfo>
 #include <QPlainTextEdit>
-#include <QStackedWidget>
 #include <QVBoxLayout>
 
 namespace {
 
 constexpr int CardWidth = 760;
 constexpr int LowestList = 60;
+constexpr int HighestView = 4000;        // as high as there is room
 constexpr qint64 MostShown = 256 * 1024; // of a file, its end
 
-QString SizeText(qint64 bytes) {
-    return LanguageHelper::Instance()->Locale().formattedDataSize(bytes, 1,
-                                                                  QLocale::DataSizeTraditionalFormat);
-}
+class LogView : public QPlainTextEdit {
+public:
+    QSize sizeHint() const override { return {CardWidth, HighestView}; }
+};
 
 } // namespace
 
 LogFilesDialog::LogFilesDialog(const QString& folder, const QString& deviceName, QWidget* parent)
     : UOverlay(parent),
-      m_folder(folder),
       m_deviceName(deviceName),
-      m_grid(new QGridLayout(this)),
-      m_stack(new QStackedWidget),
-      m_title(new UTextLabel("alertTitle")),
-      m_content(new UTextLabel("alertContent")),
+      m_title(new UTextLabel("dialogTitle")),
+      m_content(new UTextLabel("dialogContent")),
       m_close(new UTextButton(UTextButton::Look::Primary)),
       m_back(new UBackButton),
       m_viewTitle(new UElidedLabel),
-      m_viewNote(new UTextLabel("alertContent")),
-      m_view(new QPlainTextEdit) {
-    auto* card = new QFrame;
-    card->setObjectName(QStringLiteral("alertCard"));
-    card->setMaximumWidth(CardWidth);
-    m_stack->addWidget(MakeList());
-    m_stack->addWidget(MakeView());
-    auto* column = new QVBoxLayout(card);
-    column->setContentsMargins(28, 24, 28, 24);
-    column->addWidget(m_stack);
-    m_grid->setContentsMargins(12, 12, 12, 12);
-    m_grid->setColumnStretch(0, 1);
-    m_grid->setColumnStretch(1, 100);
-    m_grid->setColumnStretch(2, 1);
-    m_grid->setRowStretch(0, 1);
-    m_grid->setRowStretch(2, 1);
-    m_grid->addWidget(card, 1, 1);
+      m_viewNote(new UTextLabel("dialogContent")),
+      m_view(new LogView) {
+    QVBoxLayout* column = MakeCard(CardWidth);
+    column->addWidget(m_listPart = MakeList(folder));
+    column->addWidget(m_viewPart = MakeView());
+    m_viewPart->hide();
     Retranslate();
 }
 
-QWidget* LogFilesDialog::MakeList() {
+QWidget* LogFilesDialog::MakeList(const QString& folder) {
     auto* rows = new QWidget;
     auto* rowsColumn = new QVBoxLayout(rows);
     rowsColumn->setContentsMargins(0, 0, 0, 0);
     rowsColumn->setSpacing(4);
-    QDirIterator files(m_folder, QDir::Files | QDir::Hidden | QDir::NoSymLinks, QDirIterator::Subdirectories);
-    QStringList paths;
-    while (files.hasNext())
-        paths.append(files.next());
-    paths.sort();
-    for (const QString& path : qAsConst(paths))
-        AddRow(*rowsColumn, path);
+    for (const NamedFile& file : ListFiles(folder))
+        AddRow(*rowsColumn, file);
     rowsColumn->addStretch();
 
     auto* area = new GestureScrollArea;
@@ -93,23 +74,23 @@ QWidget* LogFilesDialog::MakeList() {
     return list;
 }
 
-void LogFilesDialog::AddRow(QVBoxLayout& rows, const QString& path) {
-    const QFileInfo info(path);
+void LogFilesDialog::AddRow(QVBoxLayout& rows, const NamedFile& file) {
+    const qint64 bytes = QFileInfo(file.path).size();
     ++m_files;
-    m_bytes += info.size();
+    m_bytes += bytes;
     auto* name = new UElidedLabel;
     name->SetElideMode(Qt::ElideMiddle);
-    name->SetText(QDir(m_folder).relativeFilePath(path));
+    name->SetText(file.name);
     auto* size = new QLabel;
     size->setObjectName(QStringLiteral("logFileSize"));
-    size->setProperty("bytes", info.size());
+    size->setProperty("bytes", bytes);
     size->setTextFormat(Qt::PlainText);
     auto* open = new UTextButton(UTextButton::Look::Plain);
     open->setObjectName(QStringLiteral("logFileOpen"));
-    open->setProperty("fileName", name->Text());
-    connect(open, &QPushButton::clicked, this, [this, path, open] {
+    open->setProperty("fileName", file.name);
+    connect(open, &QPushButton::clicked, this, [this, file, open] {
         m_opened = open;
-        ShowFile(path);
+        ShowFile(file);
     });
     auto* row = new QHBoxLayout;
     row->setSpacing(12);
@@ -121,7 +102,7 @@ void LogFilesDialog::AddRow(QVBoxLayout& rows, const QString& path) {
 }
 
 QWidget* LogFilesDialog::MakeView() {
-    m_viewTitle->setObjectName(QStringLiteral("alertTitle"));
+    m_viewTitle->setObjectName(QStringLiteral("dialogTitle"));
     m_viewTitle->SetElideMode(Qt::ElideMiddle);
     m_view->setObjectName(QStringLiteral("logFileView"));
     m_view->setReadOnly(true);
@@ -142,25 +123,24 @@ QWidget* LogFilesDialog::MakeView() {
     return view;
 }
 
-void LogFilesDialog::ShowFile(const QString& path) {
-    QFile file(path);
-    const bool readable = file.open(QIODevice::ReadOnly);
-    const bool isCut = readable && file.size() > MostShown && file.seek(file.size() - MostShown);
-    m_viewTitle->SetText(QDir(m_folder).relativeFilePath(path));
-    m_viewNote->setText(readable ? tr("log_files_end_only").arg(SizeText(MostShown))
-                                 : tr("log_files_unreadable"));
-    m_viewNote->setVisible(isCut || !readable);
-    m_view->setPlainText(readable ? QString::fromUtf8(file.read(MostShown)) : QString());
-    m_view->setAccessibleName(m_viewTitle->Text());
-    m_stack->setCurrentIndex(1);
-    m_grid->setRowStretch(1, 100); // as high as there is room
+void LogFilesDialog::ShowFile(const NamedFile& named) {
+    QFile file(named.path);
+    m_isReadable = file.open(QIODevice::ReadOnly);
+    const bool isCut = m_isReadable && file.size() > MostShown && file.seek(file.size() - MostShown);
+    m_viewTitle->SetText(named.name);
+    m_viewNote->setVisible(isCut || !m_isReadable);
+    m_view->setPlainText(m_isReadable ? QString::fromUtf8(file.read(MostShown)) : QString());
+    m_view->setAccessibleName(named.name);
+    m_listPart->hide();
+    m_viewPart->show();
     m_view->moveCursor(QTextCursor::End);
     m_view->setFocus();
+    Retranslate();
 }
 
 void LogFilesDialog::ShowList() {
-    m_stack->setCurrentIndex(0);
-    m_grid->setRowStretch(1, 0);
+    m_viewPart->hide();
+    m_listPart->show();
     m_opened->setFocus();
 }
 
@@ -174,10 +154,8 @@ void LogFilesDialog::Close() {
     deleteLater();
 }
 
-void LogFilesDialog::keyPressEvent(QKeyEvent* event) {
-    if (event->key() != Qt::Key_Escape)
-        UOverlay::keyPressEvent(event);
-    else if (m_stack->currentIndex() == 0)
+void LogFilesDialog::Dismiss() {
+    if (m_viewPart->isHidden())
         Close();
     else
         ShowList();
@@ -190,17 +168,19 @@ void LogFilesDialog::changeEvent(QEvent* event) {
 }
 
 void LogFilesDialog::Retranslate() {
+    const LanguageHelper& language = *LanguageHelper::Instance();
     const QString title = tr("log_files_title");
     setAccessibleName(title);
     m_title->setText(title);
-    m_content->setText(m_files == 0
-                           ? tr("log_files_none")
-                           : tr("log_files_content")
-                                 .arg(m_deviceName, LanguageHelper::Instance()->Locale().toString(m_files),
-                                      SizeText(m_bytes)));
+    m_content->setText(m_files == 0 ? tr("log_files_none")
+                                    : tr("log_files_content")
+                                          .arg(m_deviceName, language.Locale().toString(m_files),
+                                               language.SizeText(m_bytes)));
+    m_viewNote->setText(m_isReadable ? tr("log_files_end_only").arg(language.SizeText(MostShown))
+                                     : tr("log_files_unreadable"));
     m_close->setText(tr("button_ok"));
     for (auto* size : findChildren<QLabel*>(QStringLiteral("logFileSize")))
-        size->setText(SizeText(size->property("bytes").toLongLong()));
+        size->setText(language.SizeText(size->property("bytes").toLongLong()));
     for (auto* open : findChildren<UTextButton*>(QStringLiteral("logFileOpen"))) {
         open->setText(tr("log_files_open"));
         open->setAccessibleName(tr("log_files_open_name").arg(open->property("fileName").toString()));

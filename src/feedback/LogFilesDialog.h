@@ -2,14 +2,13 @@
 
 #include "widgets/UOverlay.h"
 
-class QGridLayout;
 class QLabel;
 class QPlainTextEdit;
-class QStackedWidget;
 class QVBoxLayout;
 class UBackButton;
 class UElidedLabel;
 class UTextButton;
+struct NamedFile;
 
 /// Lists the log files that a report carries, and shows what is in each. Goes away for good when it is
 /// closed.
@@ -21,24 +20,24 @@ public:
 
 protected:
     void Presented() override;
-    void keyPressEvent(QKeyEvent* event) override;
+    void Dismiss() override;
     void changeEvent(QEvent* event) override;
 
 private:
-    QWidget* MakeList();
+    QWidget* MakeList(const QString& folder);
     QWidget* MakeView();
-    void AddRow(QVBoxLayout& rows, const QString& path);
-    void ShowFile(const QString& path);
+    void AddRow(QVBoxLayout& rows, const NamedFile& file);
+    void ShowFile(const NamedFile& named);
     void ShowList();
     void Close();
     void Retranslate();
 
-    const QString m_folder;
     const QString m_deviceName;
     int m_files = 0;
     qint64 m_bytes = 0;
-    QGridLayout* m_grid;
-    QStackedWidget* m_stack;
+    bool m_isReadable = true; // the file in the view
+    QWidget* m_listPart = nullptr;
+    QWidget* m_viewPart = nullptr;
     QLabel* m_title;
     QLabel* m_content;
     UTextButton* m_close;

@@ -1,44 +1,22 @@
 #include "feedback/ReportArchive.h"
 
 #include "platform/files/ZipUtility.h"
-#include "platform/security/LogText.h"
 
-#include <QDir>
-#include <QDirIterator>
-#include <QTemporaryDir>
-#include <glog/logging.h>
+#include <QFileInfo>
+#include <QScopeGuard>
+#include <QSet>
+#include <QTemporaryFile>
+#include <filesystem>
 
 namespace {
 
-bool WriteText(const QString& path, const QString& text) {
-    QFile file(path);
-    const QByteArray bytes = text.toUtf8();
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
-}
-
-/// A file that cannot be read is left out, as in the report that is sent.
-bool CopyLogs(const QDir& from, const QDir& to, const Cancellation& cancellation) {
-    QDirIterator files(from.path(), QDir::Files | QDir::Hidden | QDir::NoSymLinks,
-                       QDirIterator::Subdirectories);
-    while (files.hasNext() && !cancellation.IsCancelled()) {
-        const QString path = files.next();
-        const QString copy = to.filePath(from.relativeFilePath(path));
-        QDir().mkpath(QFileInfo(copy).path());
-        QFile source(path);
-        if (!source.open(QIODevice::ReadOnly))
-            LOG(INFO) << "ReportArchive::Save leaves out " << LogText(path);
-        else if (!source.copy(copy))
-            return false; // a full disk must not cost the logs
-    }
-    return true;
-}
-
 /// Attachments from different folders may bear the same name.
-QString FreePath(const QDir& folder, const QString& name) {
-    QString path = folder.filePath(name);
-    for (int number = 2; QFileInfo::exists(path); ++number)
-        path = folder.filePath(QStringLiteral("%1-%2").arg(number).arg(name));
-    return path;
+QString FreeName(const QString& name, QSet<QString>& taken) {
+    QString free = name;
+    for (int number = 2; taken.contains(free.toLower()); ++number)
+        free = QStringLiteral("%1-%2").arg(number).arg(name);
+    taken.insert(free.toLower());
+    return QStringLiteral("attachments/") + free;
 }
 
 } // namespace
@@ -46,26 +24,28 @@ QString FreePath(const QDir& folder, const QString& name) {
 ReportArchive::Result ReportArchive::Save(const TaskControl& control) const {
     if (QFileInfo::exists(target) && !mayReplace)
         return Result::Exists;
-    const QTemporaryDir parts(QString::fromStdWString(tempFolder) + QStringLiteral("/report-XXXXXX"));
-    const QDir folder(parts.path());
-    if (!parts.isValid() || !folder.mkpath(QStringLiteral("log")) ||
-        !folder.mkpath(QStringLiteral("attachments")) ||
-        !WriteText(folder.filePath(QStringLiteral("report.txt")), text))
+    QTemporaryFile description(QString::fromStdWString(tempFolder) + QStringLiteral("/report-XXXXXX"));
+    const QByteArray bytes = text.toUtf8();
+    if (!description.open() || description.write(bytes) != bytes.size() || !description.flush())
         return Result::Failed;
-    if (!CopyLogs(QDir(QString::fromStdWString(logFolder)), QDir(folder.filePath(QStringLiteral("log"))),
-                  control.cancellation))
+
+    QVector<NamedFile> files{{QStringLiteral("report.txt"), description.fileName(), true}};
+    for (const NamedFile& log : ListFiles(QString::fromStdWString(logFolder)))
+        files.append({QStringLiteral("log/") + log.name, log.path});
+    QSet<QString> taken;
+    for (const QString& attachment : attachments)
+        files.append({FreeName(QFileInfo(attachment).fileName(), taken), attachment, true});
+
+    const QString part = target + QStringLiteral(".part");
+    const auto remove = qScopeGuard([&part] { QFile::remove(part); });
+    if (!ZipUtility::CreateZip(files, part.toStdWString(), control))
         return Result::Failed;
-    for (const QString& attachment : attachments) {
-        const QString copy =
-            FreePath(QDir(folder.filePath(QStringLiteral("attachments"))), QFileInfo(attachment).fileName());
-        if (control.IsCancelled() || !QFile::copy(attachment, copy)) {
-            LOG(INFO) << "ReportArchive::Save failed at " << LogText(attachment);
-            return Result::Failed;
-        }
+    if (mayReplace) {
+        std::error_code failure;
+        std::filesystem::rename(part.toStdWString(), target.toStdWString(), failure);
+        return failure ? Result::Failed : Result::Saved;
     }
-    if (QFileInfo::exists(target) && !mayReplace)
-        return Result::Exists;
-    return ZipUtility::CreateZipFromDir(parts.path().toStdWString(), target.toStdWString(), control)
-               ? Result::Saved
-               : Result::Failed;
+    if (QFile::rename(part, target))
+        return Result::Saved;
+    return QFileInfo::exists(target) ? Result::Exists : Result::Failed;
 }

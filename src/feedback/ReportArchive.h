@@ -21,7 +21,8 @@ struct ReportArchive {
     QString target;          ///< path of the archive
     bool mayReplace = false;
 
-    /// Puts the parts together and packs them. What stands at the target stays, unless it may be replaced
-    /// and the new archive is whole. Worker threads.
+    /// Packs text, logs and attachments beside the target and renames the whole archive. What stands at the
+    /// target stays, unless it may be replaced. Logs that cannot be read are left out; without an attachment
+    /// the report is not saved. Worker threads.
     Result Save(const TaskControl& control) const;
 };

@@ -31,7 +31,7 @@
 namespace {
 
 constexpr int ProgressMs = 100;
-constexpr int EndMs = 2000;
+constexpr int EndMs = 1500; // of the two seconds that the program has for its end
 
 // Whatever was proposed: after a move the source would delete its file.
 void AcceptCopy(QDropEvent& event) {
@@ -146,11 +146,13 @@ void UFeedback::OnSubmitButtonClicked() {
         StartReport();
         return;
     }
-    UAlert* alert = Ask(tr("feedback_without_title"),
-                        tr("feedback_without_content").arg(failed.join(QStringLiteral("\n"))));
+    UAlert* alert = Ask([failed](UAlert& asked) {
+        asked.SetTitle(tr("feedback_without_title"));
+        asked.SetContent(tr("feedback_without_content").arg(failed.join(QStringLiteral("\n"))));
+        asked.SetOkText(tr("feedback_without_send"));
+        asked.SetCancelText(tr("button_back"));
+    });
     alert->SetKind(NoticeKind::Warning);
-    alert->SetOkText(tr("feedback_without_send"));
-    alert->SetCancelText(tr("button_back"));
     connect(alert, &UAlert::Accepted, this, &UFeedback::StartReport);
     alert->show();
 }
@@ -167,10 +169,13 @@ void UFeedback::StartReport() {
                                    MachineHelper::GetDeviceName(),  AppContextData::Instance()->ContextText(),
                                    m_form->Description(),           m_form->Email(),
                                    m_form->Attachments().Uploaded()};
-    m_report.setFuture(
-        m_workers.Run([backend = m_backend, request, cancellation = m_cancellation, meter = m_meter] {
-            return ReportLog(backend, request, cancellation, meter);
-        }));
+    const auto report = [backend = m_backend, request, cancellation = m_cancellation, meter = m_meter] {
+        return ReportLog(backend, request, cancellation, meter);
+    };
+    LogReportOutcome failed;
+    failed.error = WebError::Internal;
+    failed.step = ReportStep::Send;
+    m_report.setFuture(m_workers.Run(report, failed));
 }
 
 LogReportOutcome UFeedback::ReportLog(const FeedbackBackend& backend, const LogReportRequest& request,
@@ -210,17 +215,23 @@ void UFeedback::TellOutcome(NoticeKind kind, const QString& notice) {
 void UFeedback::ShowOutcome() {
     m_outcomeUntold = false;
     if (m_outcome.ok) {
-        UAlert* alert = Ask(tr("feedback_sent_title"), tr("feedback_sent_content"));
+        UAlert* alert = Ask([](UAlert& told) {
+            told.SetTitle(tr("feedback_sent_title"));
+            told.SetContent(tr("feedback_sent_content"));
+        });
         alert->SetKind(NoticeKind::Success);
         connect(alert, &UAlert::Accepted, this, &UFeedback::Left);
         alert->show();
         return;
     }
-    UAlert* alert = Ask(tr("feedback_failed_title"), FailureText());
+    UAlert* alert = Ask([this](UAlert& told) {
+        told.SetTitle(tr("feedback_failed_title"));
+        told.SetContent(FailureText());
+        told.SetOkText(tr("feedback_retry"));
+        told.SetCancelText(tr("feedback_close"));
+        told.SetOtherText(tr("feedback_save"));
+    });
     alert->SetKind(NoticeKind::Error);
-    alert->SetOkText(tr("feedback_retry"));
-    alert->SetCancelText(tr("feedback_close"));
-    alert->SetOtherText(tr("feedback_save"));
     connect(alert, &UAlert::Accepted, this, &UFeedback::OnSubmitRetry);
     connect(alert, &UAlert::OtherChosen, this, &UFeedback::ChooseArchive);
     alert->show();
@@ -264,8 +275,10 @@ void UFeedback::SaveArchive(const QString& target, bool mayReplace) {
                                 m_form->Attachments().Paths(),
                                 target,
                                 mayReplace};
-    m_archive.setFuture(
-        m_workers.Run([archive, control = m_meter.Watch(m_cancellation)] { return archive.Save(control); }));
+    const auto save = [save = m_backend.save, archive, control = m_meter.Watch(m_cancellation)] {
+        return save(archive, control);
+    };
+    m_archive.setFuture(m_workers.Run(save, ReportArchive::Result::Failed));
 }
 
 void UFeedback::OnArchiveEnded() {
@@ -276,11 +289,13 @@ void UFeedback::OnArchiveEnded() {
         Notify(NoticeKind::Success, tr("log_export_log_success"));
         break;
     case ReportArchive::Result::Exists: {
-        UAlert* alert = Ask(tr("feedback_replace_title"),
-                            tr("feedback_replace_content").arg(QFileInfo(m_target).fileName()));
+        UAlert* alert = Ask([name = QFileInfo(m_target).fileName()](UAlert& asked) {
+            asked.SetTitle(tr("feedback_replace_title"));
+            asked.SetContent(tr("feedback_replace_content").arg(name));
+            asked.SetOkText(tr("feedback_replace"));
+            asked.SetCancelText(tr("button_back"));
+        });
         alert->SetDangerous(true);
-        alert->SetOkText(tr("feedback_replace"));
-        alert->SetCancelText(tr("button_back"));
         connect(alert, &UAlert::Accepted, this, [this] { SaveArchive(m_target, true); });
         connect(alert, &UAlert::Rejected, this, &UFeedback::ChooseArchive);
         alert->show();
@@ -301,10 +316,13 @@ void UFeedback::Leave() {
     } else if (!m_form->HoldsSomething()) {
         emit Left();
     } else {
-        UAlert* alert = Ask(tr("feedback_leave_title"), tr("feedback_leave_content"));
+        UAlert* alert = Ask([](UAlert& asked) {
+            asked.SetTitle(tr("feedback_leave_title"));
+            asked.SetContent(tr("feedback_leave_content"));
+            asked.SetOkText(tr("feedback_discard"));
+            asked.SetCancelText(tr("feedback_stay"));
+        });
         alert->SetDangerous(true);
-        alert->SetOkText(tr("feedback_discard"));
-        alert->SetCancelText(tr("feedback_stay"));
         connect(alert, &UAlert::Accepted, this, [this] {
             m_form->Clear();
             emit Left();
@@ -325,10 +343,11 @@ void UFeedback::PasteAttachment() {
         m_form->Attachments().Take(*clip);
 }
 
-UAlert* UFeedback::Ask(const QString& title, const QString& content) {
+UAlert* UFeedback::Ask(const std::function<void(UAlert&)>& setTexts) {
     auto* alert = new UAlert(this);
-    alert->SetTitle(title);
-    alert->SetContent(content);
+    setTexts(*alert);
+    connect(LanguageHelper::Instance(), &LanguageHelper::LanguageChanged, alert,
+            [alert, setTexts] { setTexts(*alert); });
     for (const auto answer : {&UAlert::Accepted, &UAlert::Rejected, &UAlert::OtherChosen})
         connect(alert, answer, alert, &QObject::deleteLater);
     return alert;

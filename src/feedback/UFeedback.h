@@ -20,7 +20,7 @@ class UFeedback : public UPage {
 
 public:
     explicit UFeedback(QWidget* parent = nullptr);
-    /// Cancels what runs and waits for it, two seconds at most.
+    /// Cancels what runs and waits for it, a second and a half at most.
     ~UFeedback() override;
 
     /// Puts others in the place of those who do the work. Before the page is used.
@@ -71,7 +71,8 @@ private:
     void Leave();
     void ShowLogFiles();
     void PasteAttachment();
-    UAlert* Ask(const QString& title, const QString& content);
+    /// Makes an alert whose texts follow the language.
+    UAlert* Ask(const std::function<void(UAlert&)>& setTexts);
     void Notify(NoticeKind kind, const QString& text);
     void Retranslate();
 

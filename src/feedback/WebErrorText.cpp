@@ -24,7 +24,7 @@ QString WebErrorText(WebError error) {
         return Text("web_error_too_large");
     case WebError::None:
     case WebError::WrongDigest:
-    case WebError::Misuse:
+    case WebError::Internal:
         break;
     }
     return Text("web_error_other");

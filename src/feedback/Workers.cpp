@@ -1,5 +1,7 @@
 #include "feedback/Workers.h"
 
+#include "platform/security/LogText.h"
+
 #include <glog/logging.h>
 
 Workers::Workers(int threads) : m_pool(std::make_unique<QThreadPool>()) {
@@ -11,6 +13,10 @@ Workers::~Workers() {
         return;
     LOG(WARNING) << "Workers::~Workers leaves work behind that does not end";
     static_cast<void>(m_pool.release()); // its destructor would wait
+}
+
+void Workers::LogException(const std::exception& exception) {
+    LOG(ERROR) << "Workers::Run ended with an exception: " << LogText(std::string(exception.what()));
 }
 
 void Workers::Join(QDeadlineTimer deadline) {

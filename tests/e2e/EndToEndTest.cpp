@@ -304,22 +304,50 @@ TEST_F(EndToEndTest, AReportArrivesWithTheLogAndAFailedOneLeavesNothingBehind) {
     product.Configure("webServer",
                       QString::fromStdString(said.substr(address, said.find(',', address) - address)));
     product.Configure("enrolled", true);
-    product.StartFrontEnd();
-    ASSERT_TRUE(mainPage.WaitForStatus(MainPage::Connected));
     const auto press = [](const char* key, int times) {
         for (int i = 0; i < times; ++i)
             screen->Press(key);
+    };
+    const auto openPage = [&] {
+        product.StartFrontEnd();
+        EXPECT_TRUE(mainPage.WaitForStatus(MainPage::Connected));
+        press("Tab", 5);
+        press("space", 1);
+        press("Tab", 1);
     };
     const auto temporaryFiles = [this] {
         return QDir(QString::fromStdString(product.Folder() + "/data/temp"))
             .entryList(QDir::AllEntries | QDir::NoDotAndDotDot)
             .size();
     };
-    press("Tab", 5);
-    press("space", 1);
-    press("Tab", 1);
+    ChildProcess session;
+    if (!product.HasLauncher()) { // a report on its way does not keep the program from ending
+        product.Start(session, Steering::SessionManager, {});
+        ASSERT_TRUE(WaitUntil([&] { return session.Output().find('\n') != std::string::npos; }));
+        product.SetVariable(session.Output().substr(0, session.Output().find('\n')));
+        openPage();
+        screen->Type("broken");
+        press("Tab", 4);
+        product.Tell("web upload slow 60");
+        press("space", 1);
+        ASSERT_TRUE(product.AgentSays("bytes: slow"));
+        session.Write("die\n");
+        EXPECT_TRUE(WaitUntil([&] { return product.FrontEnd().Result() == 0; }, std::chrono::seconds(3)));
+        EXPECT_EQ(temporaryFiles(), 0);
+        product.Tell("web upload ok");
+    }
+    openPage();
+    screen->Type("cut");
+    screen->Press("a", {"Control_L"});
+    screen->Press("x", {"Control_L"});
+    EXPECT_TRUE(WaitUntil([] { return screen->ClipboardText() == "cut"; })) << "for other programs";
     screen->Type("broken");
-    press("Tab", 4);
+    press("Tab", 1);
+    press("space", 1);
+    EXPECT_TRUE(screen->WaitForWindow("Choose attachments"));
+    press("Escape", 1);
+    EXPECT_TRUE(screen->WaitForNoWindow("Choose attachments"));
+    press("Tab", 3);
     product.Tell("web log 500");
     press("space", 1);
     EXPECT_TRUE(product.WaitForLog("UFeedback::ReportLog NotifyDeviceLogUpload failed."));

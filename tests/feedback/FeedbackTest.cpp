@@ -15,6 +15,7 @@
 #include <QClipboard>
 #include <QDropEvent>
 #include <QElapsedTimer>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
@@ -43,6 +44,8 @@ struct Scripted {
             [this](const LogReportRequest& request, const Cancellation& cancellation, const ProgressMeter&) {
                 ++reports;
                 last = request;
+                if (request.email == QLatin1String("throw@b.c"))
+                    throw std::runtime_error("thrown");
                 while (!cancellation.IsCancelled() && !reportsGoOn.tryAcquire(1, 5)) {
                 }
                 LogReportOutcome outcome = next;
@@ -119,7 +122,7 @@ protected:
     /// Presses the alert's button with this text.
     void Answer(const char* text) {
         for (auto* button : Alert()->findChildren<QPushButton*>())
-            if (button->text() == QLatin1String(text))
+            if (button->text() == QString::fromUtf8(text))
                 return button->click();
         ADD_FAILURE() << "no button " << text;
     }
@@ -267,12 +270,26 @@ TEST_F(Feedback, AFailedReportIsRetriedAsItIsAndASentOneIsGone) {
         EndReport(false, step, error);
         EXPECT_NE(AlertSays().find(words), std::string::npos) << AlertSays();
     }
-    Answer("Try again");
+    Answer("Save report …");
+    auto* dialog = page->findChild<QFileDialog*>();
+    emit dialog->fileSelected(Make(QStringLiteral("saved.zip")));
+    delete dialog;
+    EXPECT_TRUE(Comes([&] { return AlertSays().find("saved.zip") != std::string::npos; }));
+    Answer("Replace");
+    EXPECT_TRUE(Comes([&] { return window.notices.size() == 1; }));
+    EXPECT_GT(QFileInfo(folder.filePath(QStringLiteral("saved.zip"))).size(), 100);
+    Find<QLineEdit>("email").setText(QStringLiteral("throw@b.c"));
+    Submit();
+    EXPECT_TRUE(Comes([&] { return AlertSays().find("Something went wrong") != std::string::npos; }));
+    Find<QLineEdit>("email").clear();
+    LanguageHelper::Instance()->SetLanguage(QStringLiteral("de"));
+    Answer("Erneut senden");
+    LanguageHelper::Instance()->SetLanguage(QStringLiteral("en"));
     EXPECT_TRUE(Find<QTextEdit>("description").isReadOnly());
     EndReport(true);
     EXPECT_EQ(script.uploads, 1);
-    EXPECT_EQ(script.reports, 5);
-    EXPECT_EQ(told.join(QLatin1Char(' ')), QStringLiteral("- - words- - words+"));
+    EXPECT_EQ(script.reports, 6);
+    EXPECT_EQ(told.join(QLatin1Char(' ')), QStringLiteral("- - words- - - words+"));
     EXPECT_TRUE(Strip().IsEmpty() && Find<QTextEdit>("description").toPlainText().isEmpty());
     EXPECT_FALSE(CanSubmit());
     Answer("OK");

@@ -1,15 +1,12 @@
 // The steps of a log report with the real web client, against the stand-in web service.
 #include "feedback/LogReport.h"
-#include "AgentEnrolment.h"
-#include "CommandInterpreter.h"
-#include "WebService.h"
 #include "feedback/ReportArchive.h"
+#include "support/StandInWeb.h"
 
 #include <QDir>
 #include <QJsonDocument>
 #include <future>
 #include <set>
-#include <sstream>
 #include <zip.h>
 
 namespace {
@@ -18,14 +15,9 @@ struct AfternoonClock : Clock {
     QDateTime Now() const override { return {{2026, 3, 2}, {15, 4, 5}}; }
 };
 
-class LogReportRun : public testing::Test {
+class LogReportRun : public testing::Test, protected StandInWeb {
 protected:
     void SetUp() override {
-        ASSERT_EQ(service.Listen(0), QString());
-        WebSettings settings;
-        settings.server = QString::fromStdString(service.Address());
-        settings.retryPause = std::chrono::milliseconds(1);
-        client.Configure(settings);
         for (const char* name : {"log", "log/older", "temp"})
             ASSERT_TRUE(folder.mkpath(QString::fromLatin1(name)));
         Write("log/1-User.1", "new lines");
@@ -65,14 +57,6 @@ protected:
     const QTemporaryDir place;
     const QDir folder{place.path()};
     const AfternoonClock clock{};
-    std::ostringstream lines;
-    EventLog log{lines};
-    WebService service{log, place.filePath(QStringLiteral("store"))};
-    AgentServer server{log};
-    AgentService agent{server};
-    AgentEnrolment enrolment{server, agent, log};
-    CommandInterpreter interpreter{server, agent, enrolment, log, &service};
-    RyxWebClient client;
 };
 
 TEST_F(LogReportRun, SendsTheLogThenTheDocument) {
@@ -117,9 +101,9 @@ TEST_F(LogReportRun, StopsAtTheStepThatFailsAndLeavesNoArchive) {
         SCOPED_TRACE(expected.fault);
         const std::string endpoint =
             std::string(expected.fault).substr(0, std::string(expected.fault).find(' '));
-        interpreter.Add(std::string("web ") + expected.fault);
+        Tell(std::string("web ") + expected.fault);
         const LogReportOutcome outcome = Run();
-        interpreter.Add("web " + endpoint + " ok");
+        Tell("web " + endpoint + " ok");
         EXPECT_FALSE(outcome.ok);
         EXPECT_EQ(outcome.error, expected.error);
         EXPECT_EQ(outcome.message.isEmpty(), *expected.message == 0);
@@ -127,11 +111,15 @@ TEST_F(LogReportRun, StopsAtTheStepThatFailsAndLeavesNoArchive) {
         EXPECT_EQ(outcome.logLine, expected.line + outcome.message.toStdString());
         EXPECT_EQ(Left(), QStringList());
     }
+    const Cancellation cancelled;
+    Tell("web policy slow 60");
+    QObject::connect(
+        &service, &WebService::Requested, &service, [&] { cancelled.Cancel(); }, Qt::DirectConnection);
+    const LogReportOutcome outcome = Run(cancelled);
+    EXPECT_EQ(outcome.error, WebError::Cancelled);
+    EXPECT_EQ(outcome.logLine, "file failed to UploadToNubra");
     QDir(folder.filePath(QStringLiteral("log"))).removeRecursively();
     EXPECT_EQ(Run().logLine, "file failed to zip");
-    const Cancellation cancelled;
-    cancelled.Cancel();
-    EXPECT_EQ(Run(cancelled).error, WebError::Cancelled);
     EXPECT_EQ(Left(), QStringList());
 }
 
@@ -164,6 +152,9 @@ TEST_F(LogReportRun, SavedAsAnArchiveItHoldsEverythingAndReplacesNothingUnasked)
     archive.mayReplace = true;
     EXPECT_EQ(save(), ReportArchive::Result::Saved);
     EXPECT_GT(QFileInfo(target).size(), 100);
+    archive.attachments.append(folder.filePath(QStringLiteral("gone.png")));
+    EXPECT_EQ(save(), ReportArchive::Result::Failed) << "nothing is dropped in silence";
+    EXPECT_EQ(folder.entryList({QStringLiteral("report.zip*")}).size(), 1);
     EXPECT_EQ(Left(), QStringList());
 }
 

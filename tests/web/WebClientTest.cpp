@@ -1,15 +1,10 @@
 // The web client against the stand-in web service, whatever that does wrong.
-#include "AgentEnrolment.h"
-#include "CommandInterpreter.h"
-#include "WebService.h"
-#include "platform/web/RyxWebClient.h"
+#include "support/StandInWeb.h"
 
 #include <QCryptographicHash>
 #include <QTcpServer>
 #include <QTcpSocket>
-#include <chrono>
 #include <future>
-#include <sstream>
 
 using namespace std::chrono_literals;
 
@@ -17,13 +12,10 @@ namespace {
 
 constexpr int Many = 1000000;
 
-struct Web : testing::Test {
+struct Web : testing::Test, StandInWeb {
     void SetUp() override {
-        ASSERT_EQ(service.Listen(0), QString());
-        settings.server = QString::fromStdString(service.Address());
         settings.silence = 400ms;
-        settings.callDeadline = settings.transferDeadline = 1500ms;
-        settings.retryPause = 10ms;
+        settings.callDeadline = 1500ms;
         client.Configure(settings);
         WriteFile("log +1 %41 ß.zip", bytes);
     }
@@ -38,10 +30,6 @@ struct Web : testing::Test {
     QByteArray Content(const char* name) const {
         QFile file(Path(name));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
-    }
-    void Tell(const std::string& command) {
-        interpreter.Add(command);
-        EXPECT_EQ(lines.str().find("error"), std::string::npos) << lines.str();
     }
 
     /// All that a report does, up to the first failure, on a worker thread.
@@ -72,15 +60,6 @@ struct Web : testing::Test {
     const QTemporaryDir folder;
     const QByteArray bytes = QByteArray(300000, 'l') + "\r\n--";
     const std::string md5 = QCryptographicHash::hash(bytes, QCryptographicHash::Md5).toHex().toStdString();
-    std::ostringstream lines;
-    EventLog log{lines};
-    WebService service{log, folder.filePath(QStringLiteral("store"))};
-    AgentServer server{log};
-    AgentService agent{server};
-    AgentEnrolment enrolment{server, agent, log};
-    CommandInterpreter interpreter{server, agent, enrolment, log, &service};
-    WebSettings settings;
-    RyxWebClient client;
     std::string message;
 };
 
@@ -113,6 +92,8 @@ TEST_F(Web, EveryFaultEndsInItsTimeAndLeavesNothingBehind) {
         {"policy", R"(PUT@STORE@{"name": "X", "value": "a\r\nY: b"})", WebError::BadAnswer, "header"},
         {"policy", R"(PUT@STORE@{"name": "X\r\nY", "value": "b"})", WebError::BadAnswer, "header"},
         {"policy", R"(PUT@STORE@{"name": "Content-Length", "value": "1"})", WebError::BadAnswer, "header"},
+        {"policy", R"(PUT@STORE@{"name": "pROXY-x", "value": "1"})", WebError::BadAnswer, "header"},
+        {"policy", "drip 0.1", WebError::TimedOut, "time for it is over"},
         {"upload", "503", WebError::Refused, "503: told to fail", 2},
         {"upload", "redirect http://localhost:1/", WebError::NotTrusted, "another host"},
         {"upload", "empty", WebError::BadAnswer, "no code", 1, "put no-notice"},
@@ -175,7 +156,7 @@ TEST_F(Web, EveryFaultEndsInItsTimeAndLeavesNothingBehind) {
 TEST_F(Web, CancelWrongFilesAndTheGuiThreadEndACallAtOnce) {
     WebFailure failure;
     EXPECT_EQ(client.UploadFile(Wide("log +1 %41 ß.zip"), UploadType::DeviceLog, {}, &failure).code, -1);
-    EXPECT_EQ(failure.error, WebError::Misuse);
+    EXPECT_EQ(failure.error, WebError::Internal);
 
     const auto upload = [&](const char* name, const TaskControl& control) {
         std::async(std::launch::async, [&] {
@@ -186,7 +167,7 @@ TEST_F(Web, CancelWrongFilesAndTheGuiThreadEndACallAtOnce) {
     WriteFile("empty", "");
     EXPECT_EQ(upload("empty", {}), WebError::File);
     EXPECT_EQ(upload("missing", {}), WebError::File);
-    EXPECT_EQ(upload("store", {}), WebError::File);
+    EXPECT_EQ(upload(".", {}), WebError::File);
     TaskControl grows;
     grows.onProgress = [this](std::int64_t, std::int64_t) { WriteFile("grows", QByteArray(9, 'y')); };
     WriteFile("grows", QByteArray(Many, 'x'));

@@ -50,6 +50,7 @@ TEST_F(Zip, PacksWhatWasThereWhenItBegan) {
     std::map<QString, QByteArray> files = {{QStringLiteral("1-User.log"), "first"},
                                            {QStringLiteral("Ünter/日誌.log"), "second"},
                                            {QStringLiteral("Ünter/tief/leer.log"), ""},
+                                           {QStringLiteral("y.log"), "will be cut"},
                                            {QStringLiteral("z.log"), "last"}};
     for (const auto& [name, content] : files)
         Write(name, content);
@@ -66,15 +67,17 @@ TEST_F(Zip, PacksWhatWasThereWhenItBegan) {
     TaskControl control;
     std::int64_t done = 0;
     control.onProgress = [&](std::int64_t now, std::int64_t total) {
-        if (done == 0) { // the log goes on, and its oldest file goes
+        if (done == 0) { // the log goes on, its oldest file goes, and another begins anew
+            Write(QStringLiteral("y.log"), "new");
             Write(QStringLiteral("z.log"), " line", QIODevice::Append);
             QFile::remove(folder.filePath(QStringLiteral("logs/Ünter/日誌.log")));
         }
         done = now;
-        EXPECT_EQ(total, 15);
+        EXPECT_EQ(total, 26);
     };
     EXPECT_TRUE(Pack(control));
-    EXPECT_EQ(done, 15);
+    EXPECT_EQ(done, 18);
+    files[QStringLiteral("y.log")] = "new";
     EXPECT_EQ(Entries(), files);
     EXPECT_EQ(Left(), QStringList{archive});
 }

@@ -257,6 +257,30 @@ void Desktop::Type(const std::string& text) {
     }
 }
 
+std::string Desktop::ClipboardText() const {
+    const ::Window reader = XCreateSimpleWindow(m_display, DefaultRootWindow(m_display), 0, 0, 1, 1, 0, 0, 0);
+    const ::Atom property = AtomOf("RYX_PASTED");
+    XConvertSelection(m_display, AtomOf("CLIPBOARD"), AtomOf("UTF8_STRING"), property, reader, CurrentTime);
+    XEvent answer{};
+    std::string pasted;
+    WaitUntil([&] { return XCheckTypedWindowEvent(m_display, reader, SelectionNotify, &answer) == True; },
+              std::chrono::seconds(2));
+    if (answer.xselection.property == property) {
+        ::Atom type = 0;
+        int format = 0;
+        unsigned long count = 0;
+        unsigned long more = 0;
+        unsigned char* text = nullptr;
+        XGetWindowProperty(m_display, reader, property, 0, 1000, False, AnyPropertyType, &type, &format,
+                           &count, &more, &text);
+        if (text && format == 8)
+            pasted.assign(reinterpret_cast<const char*>(text), count);
+        XFree(text);
+    }
+    XDestroyWindow(m_display, reader);
+    return pasted;
+}
+
 void Desktop::SendToRoot(unsigned long window, const char* message, long first, long second, long third) {
     XEvent event{};
     event.xclient.type = ClientMessage;

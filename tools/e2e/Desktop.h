@@ -59,6 +59,9 @@ public:
     /// Presses and releases a key by its X name, such as "Return", with others held down.
     void Press(const std::string& key, const std::vector<std::string>& held = {});
 
+    /// The text that another program would paste now; empty when there is none.
+    std::string ClipboardText() const;
+
     /// Asks a window to close, as the window manager's close button does.
     void Close(const DesktopWindow& window);
     /// Asks the window manager to activate a window, as a task bar does.

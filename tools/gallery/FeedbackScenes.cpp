@@ -4,10 +4,13 @@
 #include "feedback/UFeedback.h"
 #include "gallery/Scenes.h"
 #include "platform/context/AppConfigData.h"
+#include "platform/context/Text.h"
+#include "widgets/UAlert.h"
 #include "widgets/UBackButton.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
@@ -16,6 +19,15 @@
 #include <algorithm>
 
 namespace {
+
+LogReportOutcome Outcome(bool ok, WebError error) {
+    LogReportOutcome outcome;
+    outcome.ok = ok;
+    outcome.step = ReportStep::Send;
+    outcome.error = error;
+    outcome.message = QStringLiteral("feedback is closed for maintenance");
+    return outcome;
+}
 
 /// The page with something written on it, and nobody behind it: an upload does what the file's name says, a
 /// report what the scene says.
@@ -67,6 +79,22 @@ public:
                            }});
     }
 
+    /// Lets the report fail, and the user save it under a name in the file dialog.
+    void Save(const std::function<ReportArchive::Result(const Cancellation&)>& save) {
+        const auto fail = [](auto&&...) { return Outcome(false, WebError::Unreachable); };
+        m_page.SetBackend({Upload, fail, [save](auto&&, const TaskControl& control) {
+                               control.Tell(3, 4);
+                               return save(control.cancellation);
+                           }});
+        Submit(true);
+        for (auto* button : m_window.findChildren<QPushButton*>())
+            if (button->isVisible() && button->text() == Text("feedback_save"))
+                button->click();
+        auto* dialog = m_page.findChild<QFileDialog*>();
+        emit dialog->fileSelected(QStringLiteral("/reports/RYXREPORT-20260302101500.zip"));
+        delete dialog;
+    }
+
     void Submit(bool waitForEnd = false) {
         bool ended = !waitForEnd;
         QObject context;
@@ -76,6 +104,11 @@ public:
     }
 
     void Press(const char* button) { m_window.findChild<QPushButton*>(QString::fromLatin1(button))->click(); }
+
+    bool Asks() const {
+        const auto alerts = m_window.findChildren<UAlert*>();
+        return std::any_of(alerts.begin(), alerts.end(), [](auto* alert) { return alert->isVisible(); });
+    }
 
     bool HasProgress(bool expected) const {
         const auto bars = m_page.findChildren<QProgressBar*>();
@@ -95,12 +128,12 @@ public:
         return folder;
     }
 
-private:
     static void WaitUntilCancelled(const Cancellation& cancellation) {
         while (!cancellation.IsCancelled())
             QThread::msleep(5);
     }
 
+private:
     static FeedbackBackend::Upload Upload(const QString& path, const TaskControl& control) {
         if (path.contains(QLatin1String("fail")))
             return {{}, WebError::Unreachable};
@@ -132,15 +165,6 @@ void MakeLogs() {
         if (QFile file(folder.filePath(QStringLiteral("1-User.20260302-10150%1.4711").arg(lines % 7)));
             file.open(QIODevice::WriteOnly))
             file.write(line.repeated(lines));
-}
-
-LogReportOutcome Outcome(bool ok, WebError error) {
-    LogReportOutcome outcome;
-    outcome.ok = ok;
-    outcome.step = ReportStep::Send;
-    outcome.error = error;
-    outcome.message = QStringLiteral("feedback is closed for maintenance");
-    return outcome;
 }
 
 } // namespace
@@ -193,6 +217,34 @@ QVector<Scene> FeedbackScenes() {
            [](FeedbackStage& page) {
                page.EndsWith(Outcome(false, WebError::Refused));
                page.Submit(true);
+           }),
+        On("not-configured",
+           [](FeedbackStage& page) {
+               page.EndsWith(Outcome(false, WebError::NotConfigured));
+               page.Submit(true);
+           }),
+        On("not-packed",
+           [](FeedbackStage& page) {
+               page.EndsWith({});
+               page.Submit(true);
+           }),
+        On("saving",
+           [](FeedbackStage& page) {
+               page.Save([](const Cancellation& cancellation) {
+                   FeedbackStage::WaitUntilCancelled(cancellation);
+                   return ReportArchive::Result::Failed;
+               });
+               WaitFor([&] { return page.HasProgress(true); });
+           }),
+        On("replace",
+           [](FeedbackStage& page) {
+               page.Save([](auto&&) { return ReportArchive::Result::Exists; });
+               WaitFor([&] { return page.Asks(); });
+           }),
+        On("not-saved",
+           [](FeedbackStage& page) {
+               page.Save([](auto&&) { return ReportArchive::Result::Failed; });
+               WaitFor([&] { return page.Asks(); });
            }),
         On("leave", [](FeedbackStage& page) { page.GoBack(); }),
         On("log-files",

@@ -38,6 +38,11 @@ public:
     /// For dates and numbers in texts shown to the user.
     QLocale Locale() const { return QLocale(m_language); }
 
+    /// A number of bytes in words, such as "1.4 MB".
+    QString SizeText(qint64 bytes, int decimals = 1) const {
+        return Locale().formattedDataSize(bytes, decimals, QLocale::DataSizeTraditionalFormat);
+    }
+
 signals:
     /// Another language is in use, and every widget has been told.
     void LanguageChanged();

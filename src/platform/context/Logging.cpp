@@ -6,10 +6,14 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QScopedValueRollback>
 #include <glog/logging.h>
 #include <memory>
 
 namespace {
+
+/// This thread writes a line, and holds glog's lock: another line from within would wait forever.
+thread_local bool isWriting = false;
 
 /// Writes through glog's own log files. Each time a new one was begun, it becomes readable by its user and
 /// the administrators only, and the oldest ones go.
@@ -21,6 +25,7 @@ public:
     google::base::Logger* Files() const { return m_files; }
 
     void Write(bool forceFlush, time_t timestamp, const char* message, size_t length) override {
+        const QScopedValueRollback<bool> writing(isWriting, true);
         const auto before = m_files->LogSize();
         m_files->Write(forceFlush, timestamp, message, length);
         if (before == 0 || m_files->LogSize() <= before)
@@ -53,6 +58,8 @@ QtMessageHandler handlerBefore = nullptr;
 
 /// What Qt and its plug-ins have to say. After a fatal message Qt ends the process by itself.
 void LogQtMessage(QtMsgType type, const QMessageLogContext&, const QString& message) {
+    if (isWriting)
+        return;
     const bool isWorse = type == QtCriticalMsg || type == QtFatalMsg;
     const auto severity = isWorse                ? google::GLOG_ERROR
                           : type == QtWarningMsg ? google::GLOG_WARNING

@@ -5,6 +5,8 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <algorithm>
 #include <cstring>
 #include <glog/logging.h>
 #include <vector>
@@ -24,22 +26,22 @@ struct Packing {
 /// A file that was opened, as long as it was then: it may be renamed, removed and written to meanwhile.
 class OpenedFile {
 public:
-    OpenedFile(const QFileInfo& info, QString name) : m_file(info.filePath()), m_name(std::move(name)) {
+    explicit OpenedFile(const NamedFile& file) : m_file(file.path), m_name(file.name) {
         zip_stat_init(&m_facts);
         zip_error_init(&m_error);
         char probe = 0; // another program may have locked what it has left readable
         m_isReadable = m_file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) &&
                        (m_file.size() == 0 || m_file.getChar(&probe));
-        m_facts.size = static_cast<zip_uint64_t>(m_file.size());
-        m_facts.mtime = info.lastModified().toSecsSinceEpoch();
-        m_facts.valid = ZIP_STAT_SIZE | ZIP_STAT_MTIME;
+        m_size = m_file.size();
+        m_facts.mtime = QFileInfo(m_file).lastModified().toSecsSinceEpoch();
+        m_facts.valid = ZIP_STAT_MTIME; // a size would have to hold, but the file may be cut meanwhile
     }
     ~OpenedFile() { zip_error_fini(&m_error); }
     Q_DISABLE_COPY(OpenedFile)
 
     bool IsReadable() const { return m_isReadable; }
     QString Problem() const { return m_file.errorString(); }
-    std::int64_t Size() const { return static_cast<std::int64_t>(m_facts.size); }
+    std::int64_t Size() const { return m_size; }
 
     /// Appends the file to the archive, which then reads from this object until it is closed.
     bool AddTo(zip_t* archive, Packing& packing) {
@@ -88,9 +90,9 @@ private:
     zip_int64_t Read(char* data, qint64 size) {
         if (m_packing->control.IsCancelled())
             return Fail(ZIP_ER_CANCELLED);
-        const qint64 read = m_file.read(data, qMin(size, Size() - m_file.pos()));
+        const qint64 read = m_file.read(data, qMin(size, m_size - m_file.pos()));
         if (read < 0) {
-            LOG(WARNING) << "ZipUtility::CreateZipFromDir packs the beginning of " << LogText(m_name) << ": "
+            LOG(WARNING) << "ZipUtility::CreateZip packs the beginning of " << LogText(m_name) << ": "
                          << LogText(Problem());
             return 0;
         }
@@ -107,6 +109,7 @@ private:
     QFile m_file;
     bool m_isReadable = false;
     QString m_name;
+    qint64 m_size = 0;
     zip_stat_t m_facts{};
     zip_error_t m_error{};
     Packing* m_packing = nullptr;
@@ -114,24 +117,20 @@ private:
 
 using OpenedFiles = std::vector<std::unique_ptr<OpenedFile>>;
 
-/// Opens what `folder` holds; names begin with `prefix`. Links are followed nowhere.
-void OpenFiles(const QDir& folder, const QString& prefix, const QString& archive, OpenedFiles& files) {
-    const auto what = QDir::Files | QDir::Dirs | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
-    for (const QFileInfo& entry : folder.entryInfoList(what, QDir::Name)) {
-        const QString name = prefix + entry.fileName();
-        if (entry.isSymLink() || entry.isJunction() || entry.absoluteFilePath() == archive)
+/// Opens what can be opened; returns what went wrong, or an empty text.
+std::string OpenFiles(const QVector<NamedFile>& files, OpenedFiles& opened) {
+    for (const NamedFile& file : files) {
+        auto candidate = std::make_unique<OpenedFile>(file);
+        if (candidate->IsReadable()) {
+            opened.push_back(std::move(candidate));
             continue;
-        if (entry.isDir())
-            OpenFiles(QDir(entry.filePath()), name + QLatin1Char('/'), archive, files);
-        if (!entry.isFile())
-            continue;
-        auto file = std::make_unique<OpenedFile>(entry, name);
-        if (file->IsReadable())
-            files.push_back(std::move(file));
-        else
-            LOG(WARNING) << "ZipUtility::CreateZipFromDir leaves out " << LogText(name) << ": "
-                         << LogText(file->Problem());
+        }
+        std::string problem = LogText(file.name) + ": " + LogText(candidate->Problem());
+        if (file.isNeeded)
+            return problem;
+        LOG(WARNING) << "ZipUtility::CreateZip leaves out " << problem;
     }
+    return opened.empty() ? "there is nothing to pack" : std::string();
 }
 
 /// Writes the archive beside its place and renames it. Returns what went wrong; empty when nothing did.
@@ -144,7 +143,7 @@ std::string WriteArchive(const OpenedFiles& files, const QString& path, const Ta
     if (!archive) {
         zip_error_t error;
         zip_error_init_with_code(&error, code);
-        std::string words = zip_error_strerror(&error);
+        std::string words = LogText(std::string(zip_error_strerror(&error)));
         zip_error_fini(&error);
         return words;
     }
@@ -153,27 +152,33 @@ std::string WriteArchive(const OpenedFiles& files, const QString& path, const Ta
         whole = whole && file->AddTo(archive, packing);
     if (whole && zip_close(archive) == 0)
         return {};
-    std::string words = zip_strerror(archive);
+    std::string words = LogText(std::string(zip_strerror(archive)));
     zip_discard(archive);
     return words;
+}
+
+QString AbsolutePath(const std::wstring& path) {
+    return QFileInfo(QDir::fromNativeSeparators(QString::fromStdWString(path))).absoluteFilePath();
 }
 
 } // namespace
 
 bool ZipUtility::CreateZipFromDir(const std::wstring& directory, const std::wstring& zipPath,
                                   const TaskControl& control) {
-    const auto fail = [](const std::string& why) {
-        LOG(WARNING) << "ZipUtility::CreateZipFromDir failed: " << LogText(why);
-        return false;
-    };
-    if (IsGuiThread())
-        return fail("called on the GUI thread");
-    const QString path =
-        QFileInfo(QDir::fromNativeSeparators(QString::fromStdWString(zipPath))).absoluteFilePath();
-    OpenedFiles files;
-    OpenFiles(QDir(QString::fromStdWString(directory)), {}, path, files);
-    if (files.empty())
-        return fail("there is nothing to pack");
-    const std::string problem = WriteArchive(files, path, control);
-    return problem.empty() || fail(problem);
+    QVector<NamedFile> files = ListFiles(QString::fromStdWString(directory));
+    const QString archive = AbsolutePath(zipPath);
+    files.erase(std::remove_if(files.begin(), files.end(),
+                               [&archive](const NamedFile& file) { return file.path == archive; }),
+                files.end());
+    return CreateZip(files, zipPath, control);
+}
+
+bool ZipUtility::CreateZip(const QVector<NamedFile>& files, const std::wstring& zipPath,
+                           const TaskControl& control) {
+    OpenedFiles opened;
+    std::string problem = IsGuiThread() ? "called on the GUI thread" : OpenFiles(files, opened);
+    if (problem.empty())
+        problem = WriteArchive(opened, AbsolutePath(zipPath), control);
+    LOG_IF(WARNING, !problem.empty()) << "ZipUtility::CreateZip failed: " << problem;
+    return problem.empty();
 }

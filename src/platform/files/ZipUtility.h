@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/files/NamedFile.h"
 #include "platform/files/TaskControl.h"
 
 #include <string>
@@ -7,14 +8,17 @@
 /// ZIP archives. Worker threads; takes long.
 class ZipUtility {
 public:
-    /// Packs every file of `directory` and of the folders below it into a new archive, with paths relative to
-    /// `directory` in UTF-8. Links are left out, and so are files that cannot be read, each with a log line;
-    /// a file that grows meanwhile is packed as long as it was at first. Progress counts the bytes of the
-    /// files.
+    /// Packs files into a new archive, with their names in UTF-8. Those that cannot be read are left out,
+    /// each with a log line, unless they are needed. A file that grows meanwhile is packed as long as it was
+    /// at first, one that is cut with what is left of it. Progress counts the bytes of the files.
     ///
-    /// False, with a log line, when nothing was left to pack, when the archive cannot be written and when the
-    /// work was cancelled; what stood at `zipPath`, if anything did, still stands there then, and nothing
-    /// else is left. Otherwise the archive is whole and in its place.
+    /// False, with a log line, when nothing was left to pack, when a needed file cannot be read, when the
+    /// archive cannot be written and when the work was cancelled; what stood at `zipPath`, if anything did,
+    /// still stands there then, and nothing else is left. Otherwise the archive is whole and in its place.
+    static bool CreateZip(const QVector<NamedFile>& files, const std::wstring& zipPath,
+                          const TaskControl& control = {});
+
+    /// The same with everything that ListFiles finds in `directory`.
     static bool CreateZipFromDir(const std::wstring& directory, const std::wstring& zipPath,
                                  const TaskControl& control = {});
 };

@@ -19,7 +19,7 @@ WebFailure Carry(const char* function, WebFailure* told, const Act& act) {
     WebFailure failure;
     try {
         if (IsGuiThread())
-            throw WebException(WebError::Misuse, "called on the GUI thread");
+            throw WebException(WebError::Internal, "called on the GUI thread");
         act();
     } catch (const WebException& exception) {
         failure = {exception.error, exception.what()};
@@ -239,7 +239,7 @@ NubraUploadResponse RyxWebClient::UploadFile(const std::wstring& path, UploadTyp
     const WebFailure ended = Carry("UploadFile", failure, [&] {
         const WebSettings settings = Settings();
         const UploadSource file(path);
-        WebSession session(settings, control, settings.transferDeadline);
+        WebSession session(settings, control);
         response.data = Upload(session, settings, file).Run(type);
         response.data.fileSize =
             static_cast<std::int32_t>(qMin<qint64>(file.Size(), std::numeric_limits<std::int32_t>::max()));
@@ -254,7 +254,7 @@ FileDto RyxWebClient::NotifyDeviceLogUpload(const std::string& device, const std
     FileDto log;
     Carry("NotifyDeviceLogUpload", failure, [&] {
         const WebSettings settings = Settings();
-        WebSession session(settings, control, settings.callDeadline);
+        WebSession session(settings, control);
         Json::Value notice;
         notice["device"] = device;
         notice["fileKey"] = fileKey;
@@ -273,7 +273,7 @@ std::string RyxWebClient::GetDownloadUrlByFileKey(const std::string& fileKey, co
     std::string address;
     Carry("GetDownloadUrlByFileKey", failure, [&] {
         const WebSettings settings = Settings();
-        WebSession session(settings, control, settings.callDeadline);
+        WebSession session(settings, control);
         WebRequest request;
         request.url = Endpoint(settings, WebEndpoint::DownloadUrl, {{"fileKey", fileKey}});
         const NubraFileInfo file = ReadAnswer<NubraNotifyUploadResultResponse>(session.Send(request)).data;
@@ -288,7 +288,7 @@ bool RyxWebClient::Feedback(const std::string& json, std::string& message, const
                             WebFailure* failure) const {
     const WebFailure ended = Carry("Feedback", failure, [&] {
         const WebSettings settings = Settings();
-        WebSession session(settings, control, settings.callDeadline);
+        WebSession session(settings, control);
         WebRequest request = Post(Endpoint(settings, WebEndpoint::Feedback), json);
         request.isRepeatable = false;
         const std::optional<Json::Value> answer = ReadObject(session.Send(request).body);
@@ -309,7 +309,7 @@ bool RyxWebClient::DownloadFile(const DownloadRequest& request, const TaskContro
                                 WebFailure* failure) const {
     const WebFailure ended = Carry("DownloadFile", failure, [&] {
         const WebSettings settings = Settings();
-        WebSession session(settings, control, settings.transferDeadline);
+        WebSession session(settings, control);
         WebRequest question;
         question.url = QUrl::fromEncoded(QByteArray::fromStdString(request.url));
         DownloadTarget target(request, control);

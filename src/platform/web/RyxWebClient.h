@@ -21,7 +21,7 @@ enum class WebError {
     File,          ///< the file cannot be read or written, or changed while it was read
     TooLarge,      ///< the file is larger than the caller allows
     WrongDigest,   ///< the file is not the one that was promised
-    Misuse,        ///< called on the GUI thread
+    Internal,      ///< the program's own fault, such as a call on the GUI thread
 };
 
 /// How a call failed. The words are English, for the log, and may contain what the service said.

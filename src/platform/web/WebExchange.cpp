@@ -3,6 +3,10 @@
 #include "platform/security/LogText.h"
 #include "platform/web/WebJson.h"
 
+#include <QSslCertificate>
+#include <QSslConfiguration>
+#include <QSslSocket>
+
 namespace {
 
 constexpr int LookMs = 50;
@@ -31,6 +35,7 @@ WebExchange::WebExchange(QNetworkReply* reply, const WebRequest& request, const 
         for (const QSslError& error : errors)
             m_distrust += (m_distrust.empty() ? "" : "; ") + LogText(error.errorString());
     });
+    connect(m_reply, &QNetworkReply::encrypted, this, &WebExchange::CheckAuthority);
     connect(m_reply, &QNetworkReply::metaDataChanged, this,
             [this] { m_silence.setRemainingTime(m_limits.silence); });
     connect(m_reply, &QNetworkReply::uploadProgress, this, [this](qint64 sent, qint64 total) {
@@ -66,6 +71,17 @@ WebAnswer WebExchange::Wait() {
 QUrl WebExchange::Redirect() const {
     const QUrl target = m_reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
     return target.isEmpty() ? QUrl() : m_request.url.resolved(target);
+}
+
+// Of all that Qt builds on, OpenSSL alone leaves the system's authorities out when it is given others. The
+// others tell the chain up to the authority that made it good.
+void WebExchange::CheckAuthority() {
+    if (!m_limits.givenAuthoritiesOnly ||
+        QSslSocket::sslLibraryVersionString().startsWith(QLatin1String("OpenSSL")))
+        return;
+    const QList<QSslCertificate> chain = m_reply->sslConfiguration().peerCertificateChain();
+    if (chain.isEmpty() || !m_reply->request().sslConfiguration().caCertificates().contains(chain.last()))
+        End(WebError::NotTrusted, "the certificate is of none of the configured authorities");
 }
 
 void WebExchange::Look() {

@@ -12,6 +12,7 @@ public:
     struct Limits {
         std::chrono::milliseconds silence;
         QDeadlineTimer deadline;
+        bool givenAuthoritiesOnly; ///< whatever the system trusts
     };
 
     WebExchange(QNetworkReply* reply, const WebRequest& request, const TaskControl& control,
@@ -27,6 +28,7 @@ public:
     bool KeepsMethod() const { return Status() == 307 || Status() == 308; }
 
 private:
+    void CheckAuthority();
     void Look();
     void Read();
     void End(WebError error, const std::string& words, bool mayPass = false);

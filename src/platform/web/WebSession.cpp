@@ -10,6 +10,7 @@
 #include <QHttpMultiPart>
 #include <QNetworkProxyFactory>
 #include <QRandomGenerator>
+#include <QSet>
 #include <QSslCertificate>
 #include <QSslConfiguration>
 #include <algorithm>
@@ -30,7 +31,7 @@ public:
             return IsLoopback(query.peerHostName()) ? QList{QNetworkProxy(QNetworkProxy::NoProxy)}
                                                     : systemProxyForQuery(query);
         const QUrl url(m_configured);
-        if (m_configured == QLatin1String("direct"))
+        if (m_configured == QLatin1String(WebSettings::NoProxy))
             return {QNetworkProxy(QNetworkProxy::NoProxy)};
         const bool isSocks = url.scheme() == QLatin1String("socks5");
         return {QNetworkProxy(isSocks ? QNetworkProxy::Socks5Proxy : QNetworkProxy::HttpProxy, url.host(),
@@ -67,17 +68,24 @@ private:
     int m_read = 0;
 };
 
-/// Qt sends what it is given, line breaks included, and the length of the body is its own to tell.
+/// What belongs to the connection, to its proxy and to the length of the body is the client's own to say.
+bool IsReserved(const QByteArray& header) {
+    static const QSet<QByteArray> names{
+        "host",    "connection", "accept-encoding", "content-length", "transfer-encoding",
+        "upgrade", "te",         "trailer",         "expect"};
+    return names.contains(header) || header.startsWith("proxy-");
+}
+
+/// Qt sends what it is given, line breaks included.
 void SetHeader(QNetworkRequest& head, const std::string& name, const std::string& value) {
     static const std::string separators = "()<>@,;:\\\"/[]?={} ";
     const auto isToken = [](char c) {
         return c > ' ' && c < 0x7f && separators.find(c) == std::string::npos;
     };
     const auto isControl = [](char c) { return (c >= 0 && c < ' ' && c != '\t') || c == 0x7f; };
-    const QByteArray lower = QByteArray::fromStdString(name).toLower();
     if (name.empty() || !std::all_of(name.begin(), name.end(), isToken) ||
-        std::any_of(value.begin(), value.end(), isControl) || lower == "content-length" ||
-        lower == "transfer-encoding" || lower == "connection")
+        std::any_of(value.begin(), value.end(), isControl) ||
+        IsReserved(QByteArray::fromStdString(name).toLower()))
         throw WebException(WebError::BadAnswer,
                            "a header is asked for that must not be sent: " + LogText(name));
     head.setRawHeader(QByteArray::fromStdString(name), QByteArray::fromStdString(value));
@@ -144,13 +152,14 @@ bool UploadSource::HasChanged() const {
     return facts.size() != m_size || facts.lastModified() != m_modified;
 }
 
-WebSession::WebSession(const WebSettings& settings, const TaskControl& control,
-                       std::chrono::milliseconds deadline)
-    : m_settings(settings), m_control(control), m_deadline(deadline) {
+WebSession::WebSession(const WebSettings& settings, const TaskControl& control)
+    : m_settings(settings), m_control(control), m_fileDeadline(settings.transferDeadline) {
     m_manager.setProxyFactory(new Proxies(settings.proxy)); // which the manager owns
 }
 
 WebAnswer WebSession::Send(const WebRequest& request, const Sink& sink) {
+    m_deadline = request.file || sink ? m_fileDeadline
+                                      : std::min(m_fileDeadline, QDeadlineTimer(m_settings.callDeadline));
     try {
         return FollowRedirects(request, sink);
     } catch (const WebException& failure) {
@@ -165,7 +174,8 @@ WebAnswer WebSession::Send(const WebRequest& request, const Sink& sink) {
 WebAnswer WebSession::FollowRedirects(WebRequest request, const Sink& sink) {
     for (int redirects = 0;; ++redirects) {
         ThrowIfOver();
-        WebExchange exchange(Start(request), request, m_control, {m_settings.silence, m_deadline}, sink);
+        WebExchange exchange(Start(request), request, m_control,
+                             {m_settings.silence, m_deadline, !m_settings.caFile.isEmpty()}, sink);
         WebAnswer answer = exchange.Wait();
         const QUrl target = exchange.Redirect();
         if (target.isEmpty())
@@ -201,6 +211,7 @@ QNetworkReply* WebSession::Start(const WebRequest& request) {
         head.setSslConfiguration(TlsConfiguration(m_settings.caFile));
 
     if (request.file && !request.formFields.empty()) {
+        head.setRawHeader("Content-Type", {}); // the form's own names where its parts end
         auto form = MakeForm(request.formFields, *request.file);
         QNetworkReply* reply = m_manager.sendCustomRequest(head, request.method, form.get());
         form.release()->setParent(reply);

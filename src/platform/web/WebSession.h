@@ -59,15 +59,15 @@ struct WebAnswer {
     QList<QNetworkReply::RawHeaderPair> headers;
 };
 
-/// The questions and answers of one call, in a row, under the call's deadline. Made and used on one worker
-/// thread, whose events it runs while it waits.
+/// The questions and answers of one call, in a row. Each question has the configured time, files have theirs
+/// together. Made and used on one worker thread, whose events it runs while it waits.
 class WebSession {
 public:
     /// Takes the bytes of an answer as they come; `offset` 0 begins it, for the second time after a retry.
     /// `total` is -1 when the server does not tell. Returns why the rest is not wanted.
     using Sink = std::function<WebFailure(qint64 offset, const QByteArray& bytes, qint64 total)>;
 
-    WebSession(const WebSettings& settings, const TaskControl& control, std::chrono::milliseconds deadline);
+    WebSession(const WebSettings& settings, const TaskControl& control);
 
     /// Asks, follows redirects, and asks once more when the failure may pass. The answer of status 2xx goes
     /// to `sink`; without one it is returned, and refused above 1 MiB. Throws WebException.
@@ -81,6 +81,7 @@ private:
 
     WebSettings m_settings;
     const TaskControl& m_control;
-    QDeadlineTimer m_deadline;
+    const QDeadlineTimer m_fileDeadline;
+    QDeadlineTimer m_deadline; // of the question that is asked now
     QNetworkAccessManager m_manager;
 };

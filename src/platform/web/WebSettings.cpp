@@ -3,6 +3,7 @@
 #include "platform/context/AppConfigData.h"
 
 #include <QHostAddress>
+#include <glog/logging.h>
 
 namespace {
 
@@ -10,6 +11,13 @@ constexpr int LongestSeconds = 24 * 60 * 60;
 
 QString Text(const std::string& value) {
     return QString::fromStdString(value).trimmed();
+}
+
+/// Without a scheme Qt would take the host for one, and reach nothing.
+bool IsProxy(const QString& text) {
+    const QUrl url(text);
+    return !url.host().isEmpty() &&
+           (url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("socks5"));
 }
 
 std::chrono::seconds Limit(int seconds) {
@@ -27,6 +35,10 @@ WebSettings WebSettings::From(const AppConfigData& config) {
     WebSettings settings;
     settings.server = Text(config.webServer);
     settings.proxy = Text(config.webProxy);
+    LOG_IF(WARNING,
+           !settings.proxy.isEmpty() && settings.proxy != QLatin1String(NoProxy) && !IsProxy(settings.proxy))
+        << "WebSettings::From webProxy must be http://HOST:PORT or socks5://HOST:PORT; nothing will be "
+           "reached";
     settings.caFile = Text(config.webCaFile);
     for (const QString& host : Text(config.webHttpHosts).split(QLatin1Char(','), Qt::SkipEmptyParts))
         settings.httpHosts.append(host.trimmed());

@@ -8,6 +8,8 @@ class AppConfigData;
 
 /// What the web client works by; a copy of the platform configuration that any thread may read.
 struct WebSettings {
+    static constexpr char NoProxy[] = "direct";
+
     QString server; ///< base address of the service, such as "https://device.example.com/api"
     QString proxy;  ///< such as "http://proxy:3128"; "direct": none; empty: the system's
     QString caFile; ///< certificates in PEM form that are trusted instead of the system's; empty: those
