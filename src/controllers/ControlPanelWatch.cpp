@@ -74,11 +74,11 @@ bool ControlPanelWatch::IsRealWindow(WId window) {
         return false;
     if (std::find(ShellClasses.begin(), ShellClasses.end(), m_desktop.ClassOf(window)) != ShellClasses.end())
         return false;
-    const std::optional<QSize> size = m_desktop.SizeOf(window);
-    if (!size)
+    const std::optional<QRect> place = m_desktop.PlaceOf(window);
+    if (!place)
         LogOnce("Get Window Frame Rect Info Call Error, Error Code: {}" +
                 std::to_string(m_desktop.LastError()));
-    if (size.value_or(QSize(0, 0)).isNull())
+    if (place.value_or(QRect()).size().isNull())
         return false;
     return !m_desktop.IsCloaked(window) && m_desktop.IsVisible(window);
 }

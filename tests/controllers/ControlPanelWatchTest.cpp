@@ -39,10 +39,11 @@ struct ScriptedDesktop : SystemDesktop, SystemProcesses {
     std::string ClassOf(WId) const override {
         return Ask("class") && facts.at("class") ? "CabinetWClass" : "WorkerW";
     }
-    std::optional<QSize> SizeOf(WId) const override {
+    std::optional<QRect> PlaceOf(WId) const override {
         Ask("size");
-        return !facts.at("readable") ? std::nullopt
-                                     : std::optional(facts.at("size") ? QSize(0, 5) : QSize(0, 0));
+        return !facts.at("readable")
+                   ? std::nullopt
+                   : std::optional(facts.at("size") ? QRect(9, 9, 0, 5) : QRect(9, 9, 0, 0));
     }
     bool IsCloaked(WId) const override { return Ask("cloaked") && (row == "k" || !facts.at("cloaked")); }
     bool IsVisible(WId) const override { return Ask("visible") && row != "c" && facts.at("visible"); }

@@ -1,16 +1,21 @@
 // What every operating system's back end must do alike.
 #include "platform/application/UsbDetector.h"
+#include "platform/system/SystemDesktop.h"
 #include "platform/system/SystemInput.h"
 #include "platform/system/SystemPipe.h"
+#include "platform/system/SystemProcesses.h"
+#include "platform/system/SystemPrograms.h"
 #include "platform/system/SystemSession.h"
 #include "platform/system/SystemWindows.h"
 
 #include <QDir>
 #include <QLocalServer>
 #include <QLocalSocket>
+#include <QProcess>
 #include <QSharedMemory>
 #include <QWidget>
 #include <QtTest>
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <memory>
 
@@ -98,4 +103,64 @@ TEST(SystemContract, DrivesAreListedByTheirRootsAndWatched) {
         EXPECT_TRUE(UsbDetector::IsOnDrive(QDir(drive).filePath(QStringLiteral("a.json")), drive));
         EXPECT_FALSE(UsbDetector::IsOnDrive(drive.chopped(1) + QStringLiteral("2/a.json"), drive));
     }
+}
+
+TEST(SystemContract, WindowsOfOtherProgramsAreToldOfDescribedAndAskedToClose) {
+    if (QGuiApplication::platformName() == QLatin1String("offscreen"))
+        GTEST_SKIP() << "there is no desktop";
+    const SystemDesktop& desktop = SystemDesktop::Native();
+    const SystemProcesses& processes = SystemProcesses::Native();
+    QWidget own;
+    QProcess program;
+    QByteArray output;
+    const auto says = [&](const QByteArray& line, int times) {
+        return QTest::qWaitFor([&] {
+            output += program.readAll();
+            return output.count(line) >= times;
+        });
+    };
+    std::vector<WId> shown; // of the program
+    auto* const watch = desktop.WatchShown([&](WId window) {
+        EXPECT_NE(window, own.winId());
+        if (desktop.ProcessOf(window) == program.processId())
+            shown.push_back(window);
+    });
+    ASSERT_TRUE(watch);
+    own.show();
+    program.start(QCoreApplication::applicationDirPath() + QStringLiteral("/ryx-popups"), QStringList());
+    for (const char* kind : {"closes", "closes", "refuses"}) {
+        const std::size_t before = shown.size();
+        program.write(QByteArray(kind) + '\n');
+        ASSERT_TRUE(QTest::qWaitFor([&] { return shown.size() > before; })) << kind;
+    }
+    for (const WId window : shown) {
+        EXPECT_TRUE(desktop.TitleOf(window).startsWith(QLatin1String("Pop-up that ")));
+        EXPECT_FALSE(desktop.ClassNameOf(window).isEmpty());
+        EXPECT_TRUE(desktop.IsVisible(window) && desktop.IsEnabled(window) &&
+                    !desktop.StyleOf(window).isChild);
+        EXPECT_FALSE(desktop.StyleOf(window).takesNoActivation);
+        const QSize size = desktop.PlaceOf(window).value_or(QRect()).size(); // Windows counts the frame
+        EXPECT_TRUE(size.width() >= 320 && size.width() < 400 && size.height() >= 160) << size.width();
+    }
+    const QString image = processes.ImageOf(desktop.ProcessOf(shown[0]));
+    EXPECT_EQ(QFileInfo(image).completeBaseName(), QLatin1String("ryx-popups"));
+    EXPECT_EQ(processes.ImageOf(0xfffffff0), QString());
+    EXPECT_EQ(SystemPrograms::Native().SignerOf(image), QString());
+    const std::vector<WId> all = desktop.TopLevelWindows().value();
+    const auto last = std::find(all.begin(), all.end(), shown[2]);
+    EXPECT_NE(std::find(last, all.end(), shown[0]), all.end()) << "below the last one";
+
+    desktop.Close(shown[0]);
+    desktop.RequestClose(shown[1]);
+    desktop.Close(shown[2]);
+    EXPECT_TRUE(says("asked", 3) && says("closed", 2));
+    EXPECT_FALSE(desktop.IsVisible(shown[0]));
+    EXPECT_FALSE(desktop.PlaceOf(shown[1]));
+    EXPECT_TRUE(desktop.IsVisible(shown[2])) << "it has refused";
+    desktop.EndWatch(watch);
+    program.write("closes\n");
+    EXPECT_TRUE(says("shown", 4));
+    EXPECT_EQ(shown.size(), 3u) << "each once, and none when nobody watches";
+    program.write("quit\n");
+    program.waitForFinished();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QRect>
 #include <memory>
 #include <qwindowdefs.h>
 
@@ -15,6 +16,10 @@ using ObjectHandle = std::unique_ptr<void, CloseObject>;
 
 inline HWND Handle(WId window) {
     return reinterpret_cast<HWND>(window);
+}
+
+inline QRect ToRect(const RECT& rect) {
+    return {rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top};
 }
 
 /// Whether the system hides the window although it is shown; one that cannot be asked about is not.

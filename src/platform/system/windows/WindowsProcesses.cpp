@@ -6,6 +6,7 @@
 #include <wbemidl.h>
 
 #include <glog/logging.h>
+#include <vector>
 #include <wrl/client.h>
 
 namespace {
@@ -13,6 +14,7 @@ namespace {
 using Microsoft::WRL::ComPtr;
 
 constexpr LONG NextTimeoutMs = 5000;
+constexpr DWORD LongestPath = 32768;
 
 struct FreeText {
     void operator()(OLECHAR* text) const { SysFreeString(text); }
@@ -108,6 +110,15 @@ public:
                       << std::hex << static_cast<quint32>(failure.result);
             return {};
         }
+    }
+
+    QString ImageOf(quint32 id) const override {
+        const ObjectHandle process(OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, id));
+        std::vector<wchar_t> path(LongestPath);
+        DWORD length = LongestPath;
+        if (!process || !QueryFullProcessImageNameW(process.get(), 0, path.data(), &length))
+            return {};
+        return QString::fromWCharArray(path.data(), static_cast<int>(length));
     }
 
     ProcessIdentity Identify(quint32 id) const override {

@@ -20,10 +20,6 @@ constexpr UINT AnswerMs = 100; // for the foreground's program
 constexpr PROPERTYKEY DisableTouchWhenFullscreen{
     {0x32CE38B2, 0x2C9A, 0x41B1, {0x9B, 0xC5, 0xB3, 0x78, 0x43, 0x94, 0xAA, 0x44}}, 2};
 
-QRect ToRect(const RECT& rect) {
-    return {rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top};
-}
-
 bool IsOwnedByOther(HWND window) {
     DWORD process = GetCurrentProcessId();
     if (const HWND owner = GetWindow(window, GW_OWNER))

@@ -5,14 +5,13 @@
 #include <xcb/xcb.h>
 
 /// The back end's own connection to the X server: asking must not disturb the order of Qt's requests.
-/// GUI thread.
+/// Any thread.
 class X11Connection {
 public:
-    /// The process's connection, opened at the first call. Null when the program does not run on X11, or
-    /// when the server has gone.
+    /// The process's connection, opened at the first call, once the application object is there. Null when
+    /// the program does not run on X11, or when the server has gone.
     static const X11Connection* Get();
 
-    ~X11Connection();
     X11Connection(const X11Connection&) = delete;
     X11Connection& operator=(const X11Connection&) = delete;
 

@@ -1,13 +1,12 @@
 #include "platform/system/SystemWindows.h"
 
-#include "platform/system/x11/X11Connection.h"
+#include "platform/system/x11/X11Facts.h"
 #include "platform/system/x11/X11Guard.h"
 
 #include <QGuiApplication>
 #include <QScreen>
 #include <QWidget>
 #include <array>
-#include <cstring>
 #include <xcb/randr.h>
 #include <xcb/shape.h>
 
@@ -25,30 +24,6 @@ void Configure(xcb_window_t window, std::uint16_t what, const std::uint32_t* val
         return;
     xcb_configure_window(x11->Server(), window, what, values);
     xcb_flush(x11->Server());
-}
-
-xcb_atom_t Atom(const X11Connection& x11, const char* name) {
-    const auto reply = Own(xcb_intern_atom_reply(
-        x11.Server(), xcb_intern_atom(x11.Server(), 0, static_cast<std::uint16_t>(std::strlen(name)), name),
-        nullptr));
-    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
-}
-
-QRect PlaceOf(const X11Connection& x11, xcb_window_t window) {
-    const auto size = xcb_get_geometry(x11.Server(), window);
-    const auto place = xcb_translate_coordinates(x11.Server(), window, x11.Root(), 0, 0);
-    const auto sizeReply = Own(xcb_get_geometry_reply(x11.Server(), size, nullptr));
-    const auto placeReply = Own(xcb_translate_coordinates_reply(x11.Server(), place, nullptr));
-    return sizeReply && placeReply
-               ? QRect(placeReply->dst_x, placeReply->dst_y, sizeReply->width, sizeReply->height)
-               : QRect();
-}
-
-bool IsViewable(const X11Connection& x11, xcb_window_t window) {
-    const auto reply = Own(xcb_get_window_attributes_reply(
-        x11.Server(), xcb_get_window_attributes(x11.Server(), window), nullptr));
-    return reply && reply->map_state == XCB_MAP_STATE_VIEWABLE &&
-           reply->_class == XCB_WINDOW_CLASS_INPUT_OUTPUT;
 }
 
 /// Whether nothing of another program lies above the window at its place.
@@ -79,10 +54,7 @@ bool IsWhole(const X11Connection& x11, xcb_window_t window, const QRect& place) 
             parts[0].height < place.height())
             return false;
     }
-    const auto opacity = Own(xcb_get_property_reply(
-        x11.Server(),
-        xcb_get_property(x11.Server(), 0, window, Atom(x11, OpacityProperty), XCB_ATOM_ANY, 0, 1), nullptr));
-    return !opacity || opacity->type == XCB_ATOM_NONE;
+    return !PropertyOf(x11, window, OpacityProperty).IsThere();
 }
 
 class X11Windows final : public SystemWindows {

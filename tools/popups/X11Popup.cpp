@@ -1,0 +1,7 @@
+#include "NativePopup.h"
+
+void NativePopup::TellShown(WId) {}
+
+bool NativePopup::IsCloseRequest(const QByteArray&, void*) {
+    return false;
+}
