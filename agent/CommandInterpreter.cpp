@@ -2,6 +2,7 @@
 
 #include "EnrolmentCommands.h"
 #include "KeyText.h"
+#include "PopupCommands.h"
 #include "platform/application/EndTime.h"
 
 #include <QFile>
@@ -81,9 +82,15 @@ std::string Body(const std::string& text, const QDir& folder) {
 
 CommandInterpreter::CommandInterpreter(AgentServer& server, AgentService& service, AgentEnrolment& enrolment,
                                        EventLog& log, WebService* web)
-    : m_server(server), m_service(service), m_log(log), m_web(web), m_player(log) {
+    : m_server(server),
+      m_service(service),
+      m_log(log),
+      m_popups(server, service, log),
+      m_web(web),
+      m_player(log) {
     AddSendingCommands();
     AddCommands(EnrolmentCommands(enrolment));
+    AddCommands(PopupCommands(m_popups, m_folder));
     AddExpectations();
     AddCommands(m_web.List());
     AddOtherCommands();

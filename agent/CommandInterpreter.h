@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AgentPopups.h"
 #include "AgentService.h"
 #include "Command.h"
 #include "WebCommands.h"
@@ -62,6 +63,7 @@ private:
     AgentServer& m_server;
     AgentService& m_service;
     EventLog& m_log;
+    AgentPopups m_popups;
     WebCommands m_web;
     StepPlayer m_player;
     Commands m_commands;

@@ -116,6 +116,40 @@ TEST_F(Agent, SendsToEveryClientAndAnswersTheOneThatAsks) {
     }
 }
 
+TEST_F(Agent, KeepsTheRulesForPopUpsAndObeysItsUser) {
+    Client first(pipe);
+    ASSERT_TRUE(first.Receives(10, "") && first.Receives(11, "") && first.Receives(2, ""));
+    std::ofstream(Path("rules")) << R"({"popupsDetails": [{"appName": "a.exe", "popName": "Won"}]})";
+    const struct {
+        const char* command;
+        int question;
+        const char* body;
+        int key;
+        const char* part;
+    } cases[] = {
+        {"popup-rules rules", 0, "", 50, "Won"},
+        {"popup-rule add b.exe | Shop | C | P", 0, "", 50, "\"hasOne\" : true"},
+        {"popups on", 0, "", 50, "\"popProductName\" : \"P\""},
+        {"", 48, R"({"hasOne": true, "popupsDetails": [{"appName": "A.EXE", "popName": "won"}]})", 50,
+         "A.EXE"},
+        {"", 48, R"({"popStatus": false})", 50, "\"popStatus\" : false"},
+        {"", 49, "{}", 49, "\"code\" : \"0\""},
+        {"popup-reports failure", 49, "{}", 49, "\"code\" : \"1\""},
+    };
+    for (const auto& [command, question, body, key, part] : cases) {
+        EXPECT_TRUE(Play(command)) << lines.str();
+        if (question)
+            first.Send(question, body);
+        EXPECT_TRUE(first.Receives(key, part)) << command << part;
+    }
+    ASSERT_TRUE(Play("popup-reports none"));
+    first.Send(49, "{}");
+    first.Send(51, R"({"appName": "b.exe", "popName": "Won\nit"})");
+    EXPECT_TRUE(Tells("pop-up closed: b.exe \"Won it\""));
+    ASSERT_TRUE(Play("popups on"));
+    EXPECT_TRUE(first.Receives(50, "b.exe")) << "and no answer came before it";
+}
+
 TEST_F(Agent, SendsTheLockThatIsInForceToWhoeverConnects) {
     const QDate day = clock.now.date(), next = day.addDays(1);
     std::optional<Client> client;
