@@ -155,6 +155,13 @@ bool RunningProduct::AgentSays(const std::string& text) {
     return said;
 }
 
+// The front end does one after the other, and tells of a message that cannot be read.
+bool RunningProduct::Order(const std::string& command) {
+    Tell(command);
+    Tell("send IotStatusNotify {\"status\": []}");
+    return WaitForLog("key 2 (IotStatusNotify) refused by MainController", ++m_orders);
+}
+
 int RunningProduct::AgentLines(const std::string& text) {
     return CountOf(m_agent.Output(), text);
 }

@@ -25,6 +25,8 @@ constexpr Program FrontEnd{"RYX_E2E_FRONTEND", "velmora-ryx"};
 constexpr Program Agent{"RYX_E2E_AGENT", "ryx-agent"};
 constexpr Program ForeignWindow{"RYX_E2E_FOREIGN", "foreign_window"}; // needed where there is a launcher
 constexpr Program Attack{"RYX_E2E_ATTACK", "ryx-attack"};
+constexpr Program Contract{"RYX_E2E_CONTRACT", "platform_tests"};
+constexpr Program Popups{"RYX_E2E_POPUPS", "ryx-popups"};
 constexpr Program SessionManager{"RYX_E2E_SESSION_MANAGER", "ryx-session-manager"};
 } // namespace Steering
 
@@ -56,6 +58,8 @@ public:
     bool StartAgent(const Words& arguments = {}, const Words& before = {});
     /// Types a command at the agent service's console.
     void Tell(const std::string& command) { m_agent.Write(command + '\n'); }
+    /// The same, and waits until the front end has done what came of it.
+    bool Order(const std::string& command);
     /// Waits for a line of the agent service that contains `text`, behind the one that the last call found.
     bool AgentSays(const std::string& text);
     /// How many lines of the agent service contain `text`.
@@ -118,6 +122,7 @@ private:
     Words m_variables;
     ChildProcess m_agent;
     ChildProcess m_frontEnd;
+    int m_orders = 0;
     std::string m_drive;                 // that is plugged in
     std::list<ChildProcess> m_attackers; // some of them stay
     std::size_t m_agentRead = 0;         // of the agent service's output, what AgentSays has passed

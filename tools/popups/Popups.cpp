@@ -1,15 +1,15 @@
 // Shows pop-ups as programs do that nobody wants: ryx-popups [--rules] [COMMAND...]
 // Each argument is a command; more are read from standard input, one on a line:
 //
-//   closes|asks|refuses|hangs [COUNT]    so many pop-ups, one if no number is given, that when they are asked
-//   to
-//                                        close do so, ask "Save changes?", stay, or hang with the whole
-//                                        program
+//   closes, asks, refuses, hangs    shows a pop-up that, when it is asked to close, does so, asks "Save
+//                                   changes?", stays, or hangs with the whole program
+//   closes COUNT                    shows so many of them; the others can be counted, too
+//   closes: TITLE                   shows one with this title instead of "Pop-up that closes"
 //   quit
 //
-// Prints "shown TITLE", "asked TITLE" when it is asked to close, and "closed TITLE". The title is "Pop-up
-// that closes" and the like. --rules prints a list of rules, one for each kind, that match the pop-ups, and
-// ends.
+// Prints "shown TITLE", "asked TITLE after N ms" when it is asked to close so long after it was first seen,
+// and "closed TITLE". --rules prints a policy (key 50), with a rule for each kind that matches its pop-ups,
+// and ends.
 #include "ConsoleInput.h"
 #include "NativePopup.h"
 #include "entity/AppEntities.h"
@@ -18,11 +18,13 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QLabel>
 #include <QMessageBox>
 #include <QThread>
 #include <QVBoxLayout>
+#include <QWindow>
 #include <iostream>
 
 namespace {
@@ -47,9 +49,17 @@ public:
 
     void Show(int place) {
         setGeometry(100 + place * PlaceStep, 100 + place * PlaceStep, 320, 160);
+        winId();
+        windowHandle()->installEventFilter(this);
         show();
         NativePopup::TellShown(winId());
         Say(QStringLiteral("shown ") + windowTitle());
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Expose && !m_seen.isValid())
+            m_seen.start();
+        return QWidget::eventFilter(watched, event);
     }
 
 protected:
@@ -62,7 +72,9 @@ protected:
     }
 
     void closeEvent(QCloseEvent* event) override {
-        Say(QStringLiteral("asked ") + windowTitle());
+        Say(QStringLiteral("asked %1 after %2 ms")
+                .arg(windowTitle())
+                .arg(m_seen.isValid() ? double(m_seen.nsecsElapsed()) / 1e6 : 0));
         if (m_kind == QLatin1String("hangs"))
             for (;;)
                 QThread::sleep(60);
@@ -80,6 +92,7 @@ private:
     }
 
     QString m_kind;
+    QElapsedTimer m_seen;
 };
 
 void PrintRules() {
@@ -99,13 +112,20 @@ void PrintRules() {
 }
 
 void Follow(const QString& line) {
-    const QStringList words = line.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    if (words.value(0) == QLatin1String("quit"))
+    const QString words = line.section(QLatin1Char(':'), 0, 0);
+    const QString kind = words.section(QLatin1Char(' '), 0, 0);
+    if (kind == QLatin1String("quit"))
         return QCoreApplication::quit();
-    if (!Kinds.contains(words.value(0)))
+    if (!Kinds.contains(kind))
         return Say(QStringLiteral("no such command: ") + line);
-    for (int i = 0; i < words.value(1, QStringLiteral("1")).toInt(); ++i)
-        (new Popup(words[0]))->Show(i % Places);
+    const QString title = line.section(QLatin1Char(':'), 1).trimmed();
+    const int count = words.section(QLatin1Char(' '), 1).toInt();
+    for (int i = 0; i < qMax(1, count); ++i) {
+        auto* popup = new Popup(kind);
+        if (!title.isEmpty())
+            popup->setWindowTitle(title);
+        popup->Show(i % Places);
+    }
 }
 
 } // namespace
