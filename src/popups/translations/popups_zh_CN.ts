@@ -11,5 +11,93 @@
         <source>features_title</source>
         <translation>功能</translation>
     </message>
+    <message>
+        <source>popups_dropped</source>
+        <translation>此规则已失效</translation>
+    </message>
+    <message>
+        <source>popups_fact_state</source>
+        <translation>拦截</translation>
+    </message>
+    <message>
+        <source>popups_fact_today</source>
+        <translation>今天要求关闭</translation>
+    </message>
+    <message>
+        <source>popups_list_empty</source>
+        <translation>目前没有窗口被要求关闭。</translation>
+    </message>
+    <message>
+        <source>popups_list_title</source>
+        <translation>被要求关闭的窗口</translation>
+    </message>
+    <message>
+        <source>popups_no_answer</source>
+        <translation>服务没有答复。未作任何更改。</translation>
+    </message>
+    <message>
+        <source>popups_none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>popups_notice</source>
+        <translation>已要求关闭 %1 的一个弹出窗口。点按此处查看原因。</translation>
+    </message>
+    <message>
+        <source>popups_off</source>
+        <translation>关闭：已被关闭</translation>
+    </message>
+    <message>
+        <source>popups_off_unenrolled</source>
+        <translation>关闭：此设备未注册</translation>
+    </message>
+    <message>
+        <source>popups_older</source>
+        <translation>显示更早的（%1）</translation>
+    </message>
+    <message>
+        <source>popups_on</source>
+        <translation>开启，生效规则：%1</translation>
+    </message>
+    <message>
+        <source>popups_rule</source>
+        <translation>规则：窗口类 %1，产品 %2</translation>
+    </message>
+    <message>
+        <source>popups_still_open</source>
+        <translation>已要求关闭，仍然打开</translation>
+    </message>
+    <message>
+        <source>popups_switch</source>
+        <translation>关闭不需要的弹出窗口</translation>
+    </message>
+    <message>
+        <source>popups_switch_nobody</source>
+        <translation>设备注册且服务可用后才能提出此请求。</translation>
+    </message>
+    <message>
+        <source>popups_switch_tip</source>
+        <translation>由贵组织的服务决定。开关显示其答复。</translation>
+    </message>
+    <message>
+        <source>popups_switch_waiting</source>
+        <translation>已向服务提出请求，尚未收到答复。</translation>
+    </message>
+    <message>
+        <source>popups_times</source>
+        <translation>%1，%2 次</translation>
+    </message>
+    <message>
+        <source>popups_unknown</source>
+        <translation>服务尚未告知</translation>
+    </message>
+    <message>
+        <source>popups_wrong</source>
+        <translation>这是误判</translation>
+    </message>
+    <message>
+        <source>popups_wrong_name</source>
+        <translation>这是误判：%1，%2</translation>
+    </message>
 </context>
 </TS>
