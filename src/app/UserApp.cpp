@@ -20,6 +20,7 @@
 #include "platform/system/SystemWindows.h"
 #include "platform/web/RyxWebClient.h"
 #include "popups/PopupHistory.h"
+#include "popups/PickableWindow.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -155,7 +156,7 @@ int UserApp::Run(int argc, char** argv) {
         controller->SetService(PipeClientService::Instance());
     const PopupHistory popupHistory(QString::fromStdWString(RyxPath::GetUserDataDir()) +
                                         QStringLiteral("/popups.json"),
-                                    {}, Clock::System(), &application);
+                                    &PickableWindow::IsOpen, Clock::System(), &application);
     Watchdog watchdog;
     UDeviceScreenLock screenLock;
     connect(&screenLock, &UDeviceScreenLock::VisibleChanged, &watchdog, &Watchdog::SetLocked);

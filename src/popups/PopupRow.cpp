@@ -65,7 +65,7 @@ void PopupRow::Show(const PopupRecord& record, Rule rule, const QDate& today) {
 
 void PopupRow::ShowIcon() {
     const QString path = QString::fromStdString(m_record.rule.popDirectory + '/' + m_record.rule.appName);
-    m_icon->setPixmap(ProgramIcon(path).pixmap(IconSize, IconSize));
+    m_icon->setPixmap(ProgramIcon::Shown(path).pixmap(IconSize, IconSize));
 }
 
 void PopupRow::SetWaiting(bool waiting) {

@@ -6,9 +6,12 @@
 #include <QFileIconProvider>
 #include <QFileInfo>
 
-QIcon ProgramIcon(const QString& path) {
+QIcon ProgramIcon::Own(const QString& path) {
     const QFileInfo file(QDir::fromNativeSeparators(path));
-    const QIcon icon =
-        file.filePath().startsWith(QLatin1String("//")) ? QIcon() : QFileIconProvider().icon(file);
-    return icon.isNull() ? ThemeIcon::Get(QStringLiteral("features")) : icon;
+    return file.filePath().startsWith(QLatin1String("//")) ? QIcon() : QFileIconProvider().icon(file);
+}
+
+QIcon ProgramIcon::Shown(const QString& path) {
+    const QIcon own = Own(path);
+    return own.isNull() ? ThemeIcon::Get(QStringLiteral("features")) : own;
 }

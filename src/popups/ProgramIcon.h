@@ -3,6 +3,13 @@
 #include <QIcon>
 #include <QString>
 
-/// The icon of the program with this path; the theme's own for one that has none, or whose path leads to
-/// another machine, which may not answer. GUI thread.
-QIcon ProgramIcon(const QString& path);
+/// Icons of programs, by their paths. GUI thread.
+namespace ProgramIcon {
+
+/// The program's own; null when it has none, or when the path leads to another machine, which may not answer.
+QIcon Own(const QString& path);
+
+/// The same, or the theme's for a program that has none.
+QIcon Shown(const QString& path);
+
+} // namespace ProgramIcon

@@ -6,6 +6,7 @@
 #include "platform/link/PipeClientService.h"
 #include "popups/PopupHistory.h"
 #include "popups/PopupRow.h"
+#include "popups/PopupWindowsDialog.h"
 #include "widgets/CommonFacts.h"
 #include "widgets/USwitchRow.h"
 #include "widgets/UTextButton.h"
@@ -61,6 +62,10 @@ UBodyFeaturesPopups::UBodyFeaturesPopups(QWidget* parent, PopupHistory* history)
                  parent),
       m_history(history),
       m_switch(new USwitchRow),
+      m_pickTitle(new UTextLabel("sectionTitle")),
+      m_pickSentence(new UTextLabel("pageSentence")),
+      m_point(new UTextButton(UTextButton::Look::Primary)),
+      m_choose(new UTextButton),
       m_listTitle(new UTextLabel("sectionTitle")),
       m_empty(new UTextLabel("pageNote")),
       m_list(new QVBoxLayout),
@@ -78,6 +83,7 @@ void UBodyFeaturesPopups::Initialization() {
     settingsColumn->setContentsMargins(24, 12, 24, 12);
     settingsColumn->addWidget(m_switch);
     AddWidget(settings);
+    AddWidget(MakePickCard());
 
     auto* history = new QWidget;
     auto* column = new QVBoxLayout(history);
@@ -99,7 +105,32 @@ void UBodyFeaturesPopups::Initialization() {
     m_answerTimer.setInterval(AnswerMs);
 }
 
+QWidget* UBodyFeaturesPopups::MakePickCard() {
+    m_point->setObjectName(QStringLiteral("popupsPoint"));
+    m_choose->setObjectName(QStringLiteral("popupsChoose"));
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(12);
+    buttons->addWidget(m_point);
+    buttons->addWidget(m_choose);
+    buttons->addStretch();
+    auto* card = new QFrame;
+    card->setObjectName(QStringLiteral("card"));
+    auto* column = new QVBoxLayout(card);
+    column->setContentsMargins(24, 16, 24, 16);
+    column->setSpacing(8);
+    column->addWidget(m_pickTitle);
+    column->addWidget(m_pickSentence);
+    column->addSpacing(4);
+    column->addLayout(buttons);
+    return card;
+}
+
 void UBodyFeaturesPopups::InitConnect() {
+    connect(m_point, &QPushButton::clicked, this, [this] {
+        if (!m_picker.Start())
+            TellBusy();
+    });
+    connect(m_choose, &QPushButton::clicked, this, &UBodyFeaturesPopups::PickFromList);
     connect(m_switch, &USwitchRow::Switched, this, &UBodyFeaturesPopups::OnSwitched);
     connect(m_older, &QPushButton::clicked, this, [this] {
         m_mostRows = static_cast<int>(m_history->Records().size());
@@ -173,6 +204,20 @@ PopupRow* UBodyFeaturesPopups::MakeRow() {
     return row;
 }
 
+void UBodyFeaturesPopups::PickFromList() {
+    auto* dialog = new PopupWindowsDialog(m_picker.Windows(), this);
+    connect(dialog, &PopupWindowsDialog::Chosen, this, [this](const PickableWindow& window) {
+        if (!m_picker.Start(window))
+            TellBusy();
+    });
+    dialog->show();
+}
+
+void UBodyFeaturesPopups::TellBusy() {
+    if (RyxWindow* window = RyxWindow::Of(this))
+        window->Notify(NoticeKind::Info, tr("popups_pick_busy"));
+}
+
 void UBodyFeaturesPopups::Ask(const SyncPopupsParams& command) {
     PipeClientService::Instance()->Send(PipeKey::FeaturesPopupsCommand, command);
     m_answerTimer.start();
@@ -223,6 +268,10 @@ void UBodyFeaturesPopups::changeEvent(QEvent* event) {
 }
 
 void UBodyFeaturesPopups::Retranslate() {
+    m_pickTitle->setText(tr("popups_pick_title"));
+    m_pickSentence->setText(tr("popups_pick_sentence"));
+    m_point->setText(tr("popups_pick_point"));
+    m_choose->setText(tr("popups_pick_list"));
     m_listTitle->setText(tr("popups_list_title"));
     m_empty->setText(tr("popups_list_empty"));
     ShowAll();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "entity/AppEntities.h"
+#include "popups/PopupPicker.h"
 #include "widgets/UFactsPage.h"
 
 #include <QHash>
@@ -37,6 +38,10 @@ private:
     void ShowRecords();
     PopupRow* MakeRow();
 
+    QWidget* MakePickCard();
+    void PickFromList();
+    void TellBusy();
+
     void Ask(const SyncPopupsParams& command);
     void OnSwitched(bool on);
     void OnReportedWrong(const PopupsTypeParams& rule);
@@ -44,7 +49,12 @@ private:
     void EndWaiting();
 
     PopupHistory* m_history;
+    PopupPicker m_picker;
     USwitchRow* m_switch;
+    QLabel* m_pickTitle;
+    QLabel* m_pickSentence;
+    UTextButton* m_point;
+    UTextButton* m_choose;
     QLabel* m_listTitle;
     QLabel* m_empty;
     QVBoxLayout* m_list;

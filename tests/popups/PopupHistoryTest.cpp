@@ -141,7 +141,7 @@ struct PopupsPage : testing::Test {
     /// The button by which the user doubts the rule; null when it cannot be doubted.
     QPushButton* Wrong() {
         auto* button = Page().findChild<QPushButton*>(QStringLiteral("popupWrong"));
-        return button && button->isVisible() ? button : nullptr;
+        return button && !button->isHidden() ? button : nullptr;
     }
 
     FakeService service;

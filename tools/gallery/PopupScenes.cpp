@@ -5,9 +5,13 @@
 #include "platform/context/AppContextData.h"
 #include "platform/link/PipeSendEvent.h"
 #include "popups/PopupHistory.h"
+#include "popups/PopupWindowsDialog.h"
+#include "popups/UPopupBlockMask.h"
 #include "widgets/USwitchRow.h"
+#include "widgets/UTextButton.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QScreen>
 
 namespace {
 
@@ -59,6 +63,30 @@ Scene On(const char* name, const std::function<void(Stage&)>& play) {
             }};
 }
 
+PickableWindow Window(const char* title, const char* className) {
+    PickableWindow window;
+    window.path = QStringLiteral("/usr/bin/player");
+    window.title = QString::fromUtf8(title);
+    window.className = QString::fromUtf8(className);
+    window.place = {420, 200, 400, 240};
+    return window;
+}
+
+/// The mask with this window picked; with none, it waits for a click.
+Scene Picker(const char* name, const std::optional<PickableWindow>& picked) {
+    return On(name, [picked](Stage& stage) {
+        auto& mask = stage.Show(std::make_unique<UPopupBlockMask>(
+            *QGuiApplication::primaryScreen(), PopupSystem::Native(), PopupReport::Upload()));
+        mask.show();
+        mask.resize(1280, 720);
+        if (!picked)
+            return;
+        mask.Pick(*picked);
+        const auto* cancel = mask.findChild<UTextButton*>(QStringLiteral("cancelButton"));
+        WaitFor([&] { return !cancel->IsLoading(); });
+    });
+}
+
 } // namespace
 
 QVector<Scene> PopupScenes() {
@@ -102,6 +130,21 @@ QVector<Scene> PopupScenes() {
                AppContextData::Instance()->SetLinked(false);
            }),
         {QStringLiteral("popups-not-enrolled"), false, [](Stage& stage) { OpenPage(stage); }},
-        On("notice", [](Stage& stage) { Close(Player, 1); }),
+        On("windows",
+           [](Stage& stage) {
+               OpenPage(stage);
+               (new PopupWindowsDialog({Window("Offer of the day", "Offer"), Window("", "News")},
+                                       &stage.Window()))
+                   ->show();
+           }),
+        On("windows-none",
+           [](Stage& stage) {
+               OpenPage(stage);
+               (new PopupWindowsDialog({}, &stage.Window()))->show();
+           }),
+        Picker("picker", std::nullopt),
+        Picker("picker-window", Window("Offer of the day", "Offer")),
+        Picker("picker-refused", Window("Tool tip", "tooltips_class32")),
+        On("notice", [](Stage&) { Close(Player, 1); }),
     };
 }

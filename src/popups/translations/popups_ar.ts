@@ -12,6 +12,10 @@
         <translation>الميزات</translation>
     </message>
     <message>
+        <source>file_publish_cancel</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
         <source>popups_dropped</source>
         <translation>هذه القاعدة لم تعد سارية</translation>
     </message>
@@ -60,6 +64,26 @@
         <translation>مفعّل، القواعد السارية: %1</translation>
     </message>
     <message>
+        <source>popups_pick_busy</source>
+        <translation>هناك بلاغ قيد الإرسال. انتظر حتى يصل.</translation>
+    </message>
+    <message>
+        <source>popups_pick_list</source>
+        <translation>الاختيار من قائمة</translation>
+    </message>
+    <message>
+        <source>popups_pick_point</source>
+        <translation>أشِر إليها</translation>
+    </message>
+    <message>
+        <source>popups_pick_sentence</source>
+        <translation>سيرى المسؤول صورة النافذة ويمكنه جعلها تُغلق من الآن فصاعدًا.</translation>
+    </message>
+    <message>
+        <source>popups_pick_title</source>
+        <translation>الإبلاغ عن نافذة منبثقة</translation>
+    </message>
+    <message>
         <source>popups_rule</source>
         <translation>القاعدة: فئة النافذة %1، المنتج %2</translation>
     </message>
@@ -92,12 +116,36 @@
         <translation>لم تُبلغ الخدمة بذلك بعد</translation>
     </message>
     <message>
+        <source>popups_windows_none</source>
+        <translation>لا توجد نافذة مفتوحة يمكن الإبلاغ عنها.</translation>
+    </message>
+    <message>
+        <source>popups_windows_title</source>
+        <translation>أي نافذة؟</translation>
+    </message>
+    <message>
         <source>popups_wrong</source>
         <translation>كان هذا خطأ</translation>
     </message>
     <message>
         <source>popups_wrong_name</source>
         <translation>كان هذا خطأ: %1، %2</translation>
+    </message>
+    <message>
+        <source>report_click_pop_ups_block</source>
+        <translation>انقر على النافذة المنبثقة التي تريد الإبلاغ عنها</translation>
+    </message>
+    <message>
+        <source>str_pop_ups_</source>
+        <translation>نافذة منبثقة من</translation>
+    </message>
+    <message>
+        <source>str_report</source>
+        <translation>إبلاغ</translation>
+    </message>
+    <message>
+        <source>str_this_pop_ups_no_support</source>
+        <translation>لا يمكن الإبلاغ عن هذه النافذة</translation>
     </message>
 </context>
 </TS>

@@ -12,6 +12,10 @@
         <translation>Funktionen</translation>
     </message>
     <message>
+        <source>file_publish_cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
         <source>popups_dropped</source>
         <translation>Diese Regel gilt nicht mehr</translation>
     </message>
@@ -60,6 +64,26 @@
         <translation>Ein, geltende Regeln: %1</translation>
     </message>
     <message>
+        <source>popups_pick_busy</source>
+        <translation>Eine Meldung ist unterwegs. Bitte warten Sie, bis sie angekommen ist.</translation>
+    </message>
+    <message>
+        <source>popups_pick_list</source>
+        <translation>Aus einer Liste wählen</translation>
+    </message>
+    <message>
+        <source>popups_pick_point</source>
+        <translation>Darauf zeigen</translation>
+    </message>
+    <message>
+        <source>popups_pick_sentence</source>
+        <translation>Ihr Administrator sieht das Bild des Fensters und kann es künftig schließen lassen.</translation>
+    </message>
+    <message>
+        <source>popups_pick_title</source>
+        <translation>Ein Pop-up-Fenster melden</translation>
+    </message>
+    <message>
         <source>popups_rule</source>
         <translation>Regel: Fensterklasse %1, Produkt %2</translation>
     </message>
@@ -92,12 +116,36 @@
         <translation>Der Dienst hat noch nichts mitgeteilt</translation>
     </message>
     <message>
+        <source>popups_windows_none</source>
+        <translation>Es ist kein Fenster offen, das gemeldet werden kann.</translation>
+    </message>
+    <message>
+        <source>popups_windows_title</source>
+        <translation>Welches Fenster?</translation>
+    </message>
+    <message>
         <source>popups_wrong</source>
         <translation>Das war falsch</translation>
     </message>
     <message>
         <source>popups_wrong_name</source>
         <translation>Das war falsch: %1, %2</translation>
+    </message>
+    <message>
+        <source>report_click_pop_ups_block</source>
+        <translation>Klicken Sie auf das Pop-up-Fenster, das Sie melden möchten</translation>
+    </message>
+    <message>
+        <source>str_pop_ups_</source>
+        <translation>Pop-up-Fenster von</translation>
+    </message>
+    <message>
+        <source>str_report</source>
+        <translation>Melden</translation>
+    </message>
+    <message>
+        <source>str_this_pop_ups_no_support</source>
+        <translation>Dieses Fenster kann nicht gemeldet werden</translation>
     </message>
 </context>
 </TS>

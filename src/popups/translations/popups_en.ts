@@ -12,6 +12,10 @@
         <translation>Features</translation>
     </message>
     <message>
+        <source>file_publish_cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
         <source>popups_dropped</source>
         <translation>This rule is no longer in force</translation>
     </message>
@@ -60,6 +64,26 @@
         <translation>On, rules in force: %1</translation>
     </message>
     <message>
+        <source>popups_pick_busy</source>
+        <translation>A report is on its way. Please wait until it has arrived.</translation>
+    </message>
+    <message>
+        <source>popups_pick_list</source>
+        <translation>Choose from a list</translation>
+    </message>
+    <message>
+        <source>popups_pick_point</source>
+        <translation>Point at it</translation>
+    </message>
+    <message>
+        <source>popups_pick_sentence</source>
+        <translation>Your administrator sees the window’s picture and can have it closed from then on.</translation>
+    </message>
+    <message>
+        <source>popups_pick_title</source>
+        <translation>Report a pop-up window</translation>
+    </message>
+    <message>
         <source>popups_rule</source>
         <translation>Rule: window class %1, product %2</translation>
     </message>
@@ -92,12 +116,36 @@
         <translation>The service has not said yet</translation>
     </message>
     <message>
+        <source>popups_windows_none</source>
+        <translation>No window is open that can be reported.</translation>
+    </message>
+    <message>
+        <source>popups_windows_title</source>
+        <translation>Which window?</translation>
+    </message>
+    <message>
         <source>popups_wrong</source>
         <translation>This was wrong</translation>
     </message>
     <message>
         <source>popups_wrong_name</source>
         <translation>This was wrong: %1, %2</translation>
+    </message>
+    <message>
+        <source>report_click_pop_ups_block</source>
+        <translation>Click on the pop-up window that you want to report</translation>
+    </message>
+    <message>
+        <source>str_pop_ups_</source>
+        <translation>Pop-up window of</translation>
+    </message>
+    <message>
+        <source>str_report</source>
+        <translation>Report</translation>
+    </message>
+    <message>
+        <source>str_this_pop_ups_no_support</source>
+        <translation>This window cannot be reported</translation>
     </message>
 </context>
 </TS>

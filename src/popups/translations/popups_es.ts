@@ -12,6 +12,10 @@
         <translation>Funciones</translation>
     </message>
     <message>
+        <source>file_publish_cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
         <source>popups_dropped</source>
         <translation>Esta regla ya no está en vigor</translation>
     </message>
@@ -60,6 +64,26 @@
         <translation>Activado, reglas en vigor: %1</translation>
     </message>
     <message>
+        <source>popups_pick_busy</source>
+        <translation>Se está enviando una notificación. Espere a que llegue.</translation>
+    </message>
+    <message>
+        <source>popups_pick_list</source>
+        <translation>Elegir de una lista</translation>
+    </message>
+    <message>
+        <source>popups_pick_point</source>
+        <translation>Señalarla en pantalla</translation>
+    </message>
+    <message>
+        <source>popups_pick_sentence</source>
+        <translation>Su administrador verá la imagen de la ventana y podrá hacer que se cierre en adelante.</translation>
+    </message>
+    <message>
+        <source>popups_pick_title</source>
+        <translation>Notificar una ventana emergente</translation>
+    </message>
+    <message>
         <source>popups_rule</source>
         <translation>Regla: clase de ventana %1, producto %2</translation>
     </message>
@@ -92,12 +116,36 @@
         <translation>El servicio aún no lo ha indicado</translation>
     </message>
     <message>
+        <source>popups_windows_none</source>
+        <translation>No hay ninguna ventana abierta que se pueda notificar.</translation>
+    </message>
+    <message>
+        <source>popups_windows_title</source>
+        <translation>¿Qué ventana?</translation>
+    </message>
+    <message>
         <source>popups_wrong</source>
         <translation>Esto fue un error</translation>
     </message>
     <message>
         <source>popups_wrong_name</source>
         <translation>Esto fue un error: %1, %2</translation>
+    </message>
+    <message>
+        <source>report_click_pop_ups_block</source>
+        <translation>Haga clic en la ventana emergente que desea notificar</translation>
+    </message>
+    <message>
+        <source>str_pop_ups_</source>
+        <translation>Ventana emergente de</translation>
+    </message>
+    <message>
+        <source>str_report</source>
+        <translation>Notificar</translation>
+    </message>
+    <message>
+        <source>str_this_pop_ups_no_support</source>
+        <translation>Esta ventana no se puede notificar</translation>
     </message>
 </context>
 </TS>

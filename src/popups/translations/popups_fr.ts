@@ -12,6 +12,10 @@
         <translation>Fonctions</translation>
     </message>
     <message>
+        <source>file_publish_cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
         <source>popups_dropped</source>
         <translation>Cette règle n’est plus en vigueur</translation>
     </message>
@@ -60,6 +64,26 @@
         <translation>Activé, règles en vigueur : %1</translation>
     </message>
     <message>
+        <source>popups_pick_busy</source>
+        <translation>Un signalement est en cours d’envoi. Attendez qu’il soit arrivé.</translation>
+    </message>
+    <message>
+        <source>popups_pick_list</source>
+        <translation>Choisir dans une liste</translation>
+    </message>
+    <message>
+        <source>popups_pick_point</source>
+        <translation>La désigner à l’écran</translation>
+    </message>
+    <message>
+        <source>popups_pick_sentence</source>
+        <translation>Votre administrateur voit l’image de la fenêtre et pourra ensuite la faire fermer.</translation>
+    </message>
+    <message>
+        <source>popups_pick_title</source>
+        <translation>Signaler une fenêtre contextuelle</translation>
+    </message>
+    <message>
         <source>popups_rule</source>
         <translation>Règle : classe de fenêtre %1, produit %2</translation>
     </message>
@@ -92,12 +116,36 @@
         <translation>Le service n’a encore rien indiqué</translation>
     </message>
     <message>
+        <source>popups_windows_none</source>
+        <translation>Aucune fenêtre ouverte ne peut être signalée.</translation>
+    </message>
+    <message>
+        <source>popups_windows_title</source>
+        <translation>Quelle fenêtre ?</translation>
+    </message>
+    <message>
         <source>popups_wrong</source>
         <translation>C’était une erreur</translation>
     </message>
     <message>
         <source>popups_wrong_name</source>
         <translation>C’était une erreur : %1, %2</translation>
+    </message>
+    <message>
+        <source>report_click_pop_ups_block</source>
+        <translation>Cliquez sur la fenêtre contextuelle à signaler</translation>
+    </message>
+    <message>
+        <source>str_pop_ups_</source>
+        <translation>Fenêtre contextuelle de</translation>
+    </message>
+    <message>
+        <source>str_report</source>
+        <translation>Signaler</translation>
+    </message>
+    <message>
+        <source>str_this_pop_ups_no_support</source>
+        <translation>Cette fenêtre ne peut pas être signalée</translation>
     </message>
 </context>
 </TS>

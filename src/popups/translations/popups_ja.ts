@@ -12,6 +12,10 @@
         <translation>機能</translation>
     </message>
     <message>
+        <source>file_publish_cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
         <source>popups_dropped</source>
         <translation>このルールはもう有効ではありません</translation>
     </message>
@@ -60,6 +64,26 @@
         <translation>オン、有効なルール: %1</translation>
     </message>
     <message>
+        <source>popups_pick_busy</source>
+        <translation>報告を送信中です。届くまでお待ちください。</translation>
+    </message>
+    <message>
+        <source>popups_pick_list</source>
+        <translation>一覧から選択</translation>
+    </message>
+    <message>
+        <source>popups_pick_point</source>
+        <translation>画面で指定</translation>
+    </message>
+    <message>
+        <source>popups_pick_sentence</source>
+        <translation>管理者がウィンドウの画像を確認し、以後閉じるように設定できます。</translation>
+    </message>
+    <message>
+        <source>popups_pick_title</source>
+        <translation>ポップアップを報告</translation>
+    </message>
+    <message>
         <source>popups_rule</source>
         <translation>ルール: ウィンドウクラス %1、製品 %2</translation>
     </message>
@@ -92,12 +116,36 @@
         <translation>サービスからまだ通知がありません</translation>
     </message>
     <message>
+        <source>popups_windows_none</source>
+        <translation>報告できるウィンドウは開いていません。</translation>
+    </message>
+    <message>
+        <source>popups_windows_title</source>
+        <translation>どのウィンドウですか？</translation>
+    </message>
+    <message>
         <source>popups_wrong</source>
         <translation>これは誤りです</translation>
     </message>
     <message>
         <source>popups_wrong_name</source>
         <translation>これは誤りです: %1、%2</translation>
+    </message>
+    <message>
+        <source>report_click_pop_ups_block</source>
+        <translation>報告するポップアップをクリックしてください</translation>
+    </message>
+    <message>
+        <source>str_pop_ups_</source>
+        <translation>ポップアップの表示元</translation>
+    </message>
+    <message>
+        <source>str_report</source>
+        <translation>報告</translation>
+    </message>
+    <message>
+        <source>str_this_pop_ups_no_support</source>
+        <translation>このウィンドウは報告できません</translation>
     </message>
 </context>
 </TS>

@@ -12,6 +12,10 @@
         <translation>功能</translation>
     </message>
     <message>
+        <source>file_publish_cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
         <source>popups_dropped</source>
         <translation>此规则已失效</translation>
     </message>
@@ -60,6 +64,26 @@
         <translation>开启，生效规则：%1</translation>
     </message>
     <message>
+        <source>popups_pick_busy</source>
+        <translation>正在发送举报，请等待其送达。</translation>
+    </message>
+    <message>
+        <source>popups_pick_list</source>
+        <translation>从列表中选择</translation>
+    </message>
+    <message>
+        <source>popups_pick_point</source>
+        <translation>在屏幕上指出</translation>
+    </message>
+    <message>
+        <source>popups_pick_sentence</source>
+        <translation>管理员会看到该窗口的图片，之后可以让它自动关闭。</translation>
+    </message>
+    <message>
+        <source>popups_pick_title</source>
+        <translation>举报弹出窗口</translation>
+    </message>
+    <message>
         <source>popups_rule</source>
         <translation>规则：窗口类 %1，产品 %2</translation>
     </message>
@@ -92,12 +116,36 @@
         <translation>服务尚未告知</translation>
     </message>
     <message>
+        <source>popups_windows_none</source>
+        <translation>没有可举报的已打开窗口。</translation>
+    </message>
+    <message>
+        <source>popups_windows_title</source>
+        <translation>哪个窗口？</translation>
+    </message>
+    <message>
         <source>popups_wrong</source>
         <translation>这是误判</translation>
     </message>
     <message>
         <source>popups_wrong_name</source>
         <translation>这是误判：%1，%2</translation>
+    </message>
+    <message>
+        <source>report_click_pop_ups_block</source>
+        <translation>点击要举报的弹出窗口</translation>
+    </message>
+    <message>
+        <source>str_pop_ups_</source>
+        <translation>弹出窗口来自</translation>
+    </message>
+    <message>
+        <source>str_report</source>
+        <translation>举报</translation>
+    </message>
+    <message>
+        <source>str_this_pop_ups_no_support</source>
+        <translation>无法举报此窗口</translation>
     </message>
 </context>
 </TS>
