@@ -13,7 +13,7 @@ list(TRANSFORM plugins PREPEND "${RYX_WINDOWS_SDK}/plugins/" OUTPUT_VARIABLE plu
 list(TRANSFORM pluginFiles APPEND ".dll")
 install(CODE "
     cmake_policy(SET CMP0057 NEW) # if(IN_LIST)
-    set(unread \"$<TARGET_FILE:velmora-ryx>\" \"$<TARGET_FILE:ryx_user>\" ${pluginFiles})
+    set(unread \"$<TARGET_FILE:velmora-ryx>\" \"$<TARGET_FILE:ryx-capture>\" \"$<TARGET_FILE:ryx_user>\" ${pluginFiles})
     set(libraries)
     while(unread)
         list(POP_FRONT unread file)

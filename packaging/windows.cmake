@@ -35,10 +35,11 @@ endfunction()
 set_target_properties(ryx_user PROPERTIES PREFIX "")
 ryx_windows_resources(velmora-ryx "${RYX_PRODUCT_NAME}")
 ryx_windows_resources(ryx_user "${RYX_PRODUCT_NAME} user session")
+ryx_windows_resources(ryx-capture "${RYX_PRODUCT_NAME} window picture")
 ryx_windows_resources(ryx-agent "${RYX_PRODUCT_NAME} stand-in agent")
 
 # The packages hold the front end and all that it needs; the stand-in agent is no part of the product.
-install(TARGETS velmora-ryx ryx_user RUNTIME DESTINATION .)
+install(TARGETS velmora-ryx ryx-capture ryx_user RUNTIME DESTINATION .)
 install(FILES "${folder}/qt.conf" DESTINATION .)
 
 if(DEFINED RYX_WINDOWS_SDK)

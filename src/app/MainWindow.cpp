@@ -10,6 +10,7 @@
 #include "platform/context/Theme.h"
 #include "platform/link/ControllerRyx.h"
 #include "platform/link/PipeClientService.h"
+#include "popups/PopupHistory.h"
 #include "ui_MainWindow.h"
 #include "widgets/UExitButton.h"
 
@@ -86,6 +87,13 @@ void MainWindow::InitConnect() {
     connect(this, &RyxWindow::BindingBegan, this, [this] { m_ui->header->SetBusy(true); });
     connect(this, &RyxWindow::BindingEnded, this, [this] { m_ui->header->SetBusy(false); });
     connect(Theme::Instance(), &Theme::Changed, this, &MainWindow::ApplyTheme);
+    if (const PopupHistory* history = PopupHistory::OfApplication())
+        connect(history, &PopupHistory::Noticed, this, [this](const QString& text) {
+            m_notifier.Notify(NoticeKind::Info, text, [this] {
+                m_navigator->GoTo(PageIndex(PageId::Features));
+                Open();
+            });
+        });
 }
 
 void MainWindow::ConnectMainController() {

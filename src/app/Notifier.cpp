@@ -19,29 +19,35 @@ Notifier::Notifier(QWidget& window, QSystemTrayIcon& tray)
     : m_window(window), m_tray(tray), m_toast(new UToast(&window)) {
     m_later.setInterval(LookAgainMs);
     connect(&m_later, &QTimer::timeout, this, &Notifier::TellWaiting);
+    connect(&m_tray, &QSystemTrayIcon::messageClicked, this, [this] {
+        if (const auto action = std::exchange(m_trayAction, {}))
+            action();
+    });
 }
 
 void Notifier::TellWaiting() {
     if (WindowStack::Instance()->Highest())
         return;
     m_later.stop();
-    for (const auto& [kind, text] : std::exchange(m_waiting, {}))
-        Notify(kind, text);
+    for (const Notice& notice : std::exchange(m_waiting, {}))
+        Notify(notice.kind, notice.text, notice.action);
 }
 
-void Notifier::Notify(NoticeKind kind, const QString& text) {
+void Notifier::Notify(NoticeKind kind, const QString& text, std::function<void()> action) {
     if (WindowStack::Instance()->Highest()) {
-        m_waiting.append({kind, text});
+        m_waiting.append({kind, text, std::move(action)});
         m_later.start();
         return;
     }
     // A toast in a window that nobody sees would be gone before it is read.
     if (!m_window.isVisible() || m_window.isMinimized()) {
         LOG(INFO) << "Notifier::Notify in the tray: " << LogText(text);
+        m_trayAction = std::move(action);
         m_tray.showMessage(m_window.windowTitle(), text, m_window.windowIcon());
         return;
     }
     m_toast->SetKind(kind);
     m_toast->SetMessage(text);
+    m_toast->SetAction(std::move(action));
     m_toast->show();
 }

@@ -3,10 +3,10 @@
 #include "platform/application/NoticeKind.h"
 
 #include <QObject>
-#include <QPair>
 #include <QString>
 #include <QTimer>
 #include <QVector>
+#include <functional>
 
 class QSystemTrayIcon;
 class QWidget;
@@ -18,15 +18,22 @@ class Notifier : public QObject {
 public:
     Notifier(QWidget& window, QSystemTrayIcon& tray);
 
-    /// `text` is plain text in the language in use.
-    void Notify(NoticeKind kind, const QString& text);
+    /// `text` is plain text in the language in use; a press on the notice runs `action`.
+    void Notify(NoticeKind kind, const QString& text, std::function<void()> action = {});
 
 private:
+    struct Notice {
+        NoticeKind kind;
+        QString text;
+        std::function<void()> action;
+    };
+
     void TellWaiting();
 
     QWidget& m_window;
     QSystemTrayIcon& m_tray;
     UToast* m_toast;
-    QVector<QPair<NoticeKind, QString>> m_waiting;
+    QVector<Notice> m_waiting;
+    std::function<void()> m_trayAction; // of the last notice in the tray
     QTimer m_later{this};
 };

@@ -24,7 +24,7 @@ const std::vector<PageEntry>& Pages() {
     // clang-format off
     static const std::vector<PageEntry> pages{
         {PageId::Enrolment, "enrolment", QT_TRANSLATE_NOOP("UMenu", "menu_enrolment"), PagePlace::Upper, Make<UBodyEnroll>},
-        {"features", "features", QT_TRANSLATE_NOOP("UMenu", "menu_features"), PagePlace::Upper, Make<UBodyFeaturesPopups>},
+        {PageId::Features, "features", QT_TRANSLATE_NOOP("UMenu", "menu_features"), PagePlace::Upper, Make<UBodyFeaturesPopups>},
         {PageId::LiveChannels, "live", QT_TRANSLATE_NOOP("UMenu", "menu_live_channels"), PagePlace::Upper, Make<UBodyLiveChannel>},
         {PageId::Network, "network", QT_TRANSLATE_NOOP("UMenu", "menu_network"), PagePlace::Upper, Make<UBodyNetwork>},
         {PageId::Settings, "settings", QT_TRANSLATE_NOOP("UMenu", "menu_settings"), PagePlace::Upper, Make<UBodySetting>},

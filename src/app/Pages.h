@@ -30,6 +30,7 @@ int PageIndex(const char* id);
 namespace PageId {
 
 inline constexpr char Enrolment[] = "enrolment";
+inline constexpr char Features[] = "features";
 inline constexpr char LiveChannels[] = "live";
 inline constexpr char Network[] = "network";
 inline constexpr char Settings[] = "settings";

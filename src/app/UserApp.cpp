@@ -20,6 +20,8 @@
 #include "platform/system/SystemSession.h"
 #include "platform/system/SystemWindows.h"
 #include "platform/web/RyxWebClient.h"
+#include "popups/PopupHistory.h"
+#include "popups/PickableWindow.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -154,6 +156,9 @@ int UserApp::Run(int argc, char** argv) {
     application.setProperty("controllers", QVariant::fromValue(controllers));
     for (ControllerBase* controller : std::set<ControllerBase*>(controllers.begin(), controllers.end()))
         controller->SetService(PipeClientService::Instance());
+    const PopupHistory popupHistory(QString::fromStdWString(RyxPath::GetUserDataDir()) +
+                                        QStringLiteral("/popups.json"),
+                                    &PickableWindow::IsOpen, Clock::System(), &application);
     Watchdog watchdog;
     UDeviceScreenLock screenLock;
     connect(&screenLock, &UDeviceScreenLock::VisibleChanged, &watchdog, &Watchdog::SetLocked);

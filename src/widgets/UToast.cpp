@@ -1,5 +1,6 @@
 #include "widgets/UToast.h"
 
+#include "platform/application/WindowStack.h"
 #include "platform/context/Theme.h"
 #include "widgets/AccessibleRole.h"
 #include "widgets/NoticeQueue.h"
@@ -10,12 +11,14 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <array>
+#include <utility>
 
 namespace {
 
 constexpr int MaximumTextWidth = 560;
 constexpr int DistanceToEdge = 32;
 constexpr int IconSize = 24;
+constexpr int LevelOnScreen = 1; // what must not be covered is above
 constexpr std::array<const char*, 4> KindNames{"Info", "Success", "Warning", "Error"};
 
 // Slow readers read some fifteen characters a second, and need a moment to notice the toast.
@@ -36,8 +39,6 @@ UToast::UToast(QWidget* parent, WhenBusy whenBusy)
     row->setSpacing(14);
     row->addWidget(m_icon, 0, Qt::AlignTop);
     row->addWidget(m_text, 1);
-    // A toast is in nobody's way: what lies under it can still be pressed.
-    setAttribute(Qt::WA_TransparentForMouseEvents);
     SetAccessibleRole(this, QAccessible::AlertMessage);
     m_gone.setSingleShot(true);
     connect(&m_gone, &QTimer::timeout, this, &QWidget::hide);
@@ -62,11 +63,24 @@ void UToast::setVisible(bool visible) {
         m_queue->Finish(this);
 }
 
-void UToast::Request() {
-    if (!m_owner)
+void UToast::StandOnScreen(const QRect& area) {
+    m_area = area;
+    if (isWindow() && property("TopLevel").isValid())
         return;
-    QWidget* window = m_owner->window();
-    if (parentWidget() != window)
+    setParent(nullptr);
+    setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
+                   Qt::WindowDoesNotAcceptFocus);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setAttribute(Qt::WA_TranslucentBackground);
+    setProperty("TopLevel", LevelOnScreen);
+    WindowStack::Instance()->PushWindow(this);
+}
+
+void UToast::Request() {
+    if (!m_owner && m_area.isNull())
+        return;
+    QWidget* window = m_area.isNull() ? m_owner->window() : this;
+    if (m_area.isNull() && parentWidget() != window)
         setParent(window);
     NoticeQueue* queue = NoticeQueue::Of(window, QStringLiteral("toast"));
     m_queue = queue;
@@ -86,8 +100,14 @@ void UToast::Present(const Notice& notice) {
     m_icon->SetIcon(QString::fromLatin1(kind).toLower(), QStringLiteral("toast") + QLatin1String(kind));
     m_text->setText(notice.message);
     setAccessibleName(notice.message);
-    parentWidget()->removeEventFilter(this);
-    parentWidget()->installEventFilter(this);
+    m_onPress = notice.action;
+    // A toast is in nobody's way: what lies under it can still be pressed.
+    setAttribute(Qt::WA_TransparentForMouseEvents, !m_onPress);
+    setCursor(m_onPress ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    if (parentWidget()) {
+        parentWidget()->removeEventFilter(this);
+        parentWidget()->installEventFilter(this);
+    }
     QFrame::setVisible(true);
     Place();
     raise();
@@ -96,7 +116,7 @@ void UToast::Present(const Notice& notice) {
 }
 
 void UToast::Place() {
-    const QRect area = parentWidget()->rect();
+    const QRect area = parentWidget() ? parentWidget()->rect() : m_area;
     ensurePolished();
     m_text->ensurePolished();
     const QFontMetrics metrics = m_text->fontMetrics();
@@ -107,7 +127,8 @@ void UToast::Place() {
                            ? layout()->totalHeightForWidth(layout()->totalSizeHint().width())
                            : sizeHint().height();
     resize(layout()->totalSizeHint().width(), height);
-    move((area.width() - width()) / 2, area.height() - this->height() - DistanceToEdge);
+    move(area.left() + (area.width() - width()) / 2,
+         area.top() + area.height() - this->height() - DistanceToEdge);
 }
 
 bool UToast::eventFilter(QObject* watched, QEvent* event) {
@@ -118,6 +139,13 @@ bool UToast::eventFilter(QObject* watched, QEvent* event) {
 
 void UToast::changeEvent(QEvent* event) {
     QFrame::changeEvent(event);
-    if (event->type() == QEvent::StyleChange && !isHidden() && parentWidget())
+    if (event->type() == QEvent::StyleChange && !isHidden())
         Place();
+}
+
+void UToast::mouseReleaseEvent(QMouseEvent*) {
+    const std::function<void()> onPress = std::exchange(m_onPress, {});
+    hide();
+    if (onPress)
+        onPress();
 }

@@ -5,6 +5,7 @@
 #include <QFrame>
 #include <QPointer>
 #include <QTimer>
+#include <functional>
 
 class NoticeQueue;
 class QLabel;
@@ -16,7 +17,7 @@ class UIconLabel;
 ///     toast->show();
 ///
 /// The toasts of a window never cover each other: show() shows the message at once when none is on screen,
-/// else when those before it are gone. Screen readers announce it as it appears.
+/// else when those before it are gone. Screen readers announce it as it appears, and it never has the focus.
 class UToast : public QFrame {
     Q_OBJECT
 
@@ -35,6 +36,13 @@ public:
     /// The sign before the message of the next show(); Info at first.
     void SetKind(Kind kind) { m_next.kind = kind; }
 
+    /// What a press on the message of the next show() does, which goes away then; nothing at first.
+    void SetAction(std::function<void()> action) { m_next.action = std::move(action); }
+
+    /// Makes it a window of its own, without the focus and above those of other programs, at the lower edge
+    /// of `area` of the screen, in Qt's pixels: for messages while no window of the program is to be seen.
+    void StandOnScreen(const QRect& area);
+
     /// How long each message stays, in milliseconds; 0, as at first, leaves time to read it.
     void SetDuration(int milliseconds) { m_duration = milliseconds; }
 
@@ -46,11 +54,13 @@ public:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     struct Notice {
         QString message;
         Kind kind = Kind::Info;
+        std::function<void()> action = {};
     };
 
     void Request();
@@ -60,6 +70,8 @@ private:
     WhenBusy m_whenBusy;
     Notice m_next;
     int m_duration = 0;
+    QRect m_area;                    // of the screen; null while it is part of a window
+    std::function<void()> m_onPress; // of the message on screen
     QPointer<QWidget> m_owner;
     QPointer<NoticeQueue> m_queue;
     UIconLabel* m_icon;

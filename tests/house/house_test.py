@@ -13,7 +13,7 @@ PLATFORM = ["platform/" + name for name in
             ("application", "context", "files", "link", "security", "system", "web")] + ["platform", "entity"]
 FEATURE = PLATFORM + ["widgets", "common", "lock"]  # from lock: the password pad
 FEATURES = ["enroll", "feedback", "lock", "messages", "pages", "popups"]
-SOURCES = FEATURES + PLATFORM + ["app", "common", "controllers", "host", "platform", "widgets"]
+SOURCES = FEATURES + PLATFORM + ["app", "capture", "common", "controllers", "host", "platform", "widgets"]
 MAY_INCLUDE = {
     "entity": [],
     "platform": [],  # the product's names, and the precompiled header
@@ -33,6 +33,7 @@ MAY_INCLUDE = {
     "controllers": FEATURE + ["messages", "popups"],  # a controller may own a feature's dialog
     "app": FEATURE + FEATURES + ["controllers"],
     "host": ["app"],
+    "capture": ["platform/system"],
     "agent": ["entity", "platform", "platform/application", "platform/context", "platform/link", "platform/security",
               "platform/system", "platform/web"],
     "tools": SOURCES + ["agent"],

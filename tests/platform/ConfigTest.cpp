@@ -30,15 +30,15 @@ TEST(Config, EveryValueIsRead) {
         "agentAccount": "a", "logFolder": "l", "organisation": "Schule Süd", "deviceName": "n", "enrolled": true,
         "webServer": "s", "webProxy": "y", "webCaFile": "c", "webHttpHosts": "h", "webCallSeconds": 5,
         "schoolCode": "c", "adminAccount": "@", "deviceTags": ["t", "u"], "permissionList": ["v"],
-        "userAgreementUrl": "w", "privacyPolicyUrl": "x"})");
+        "userAgreementUrl": "w", "privacyPolicyUrl": "x", "publisherSuffix": "z", "publisherSigners": ["!"]})");
     EXPECT_TRUE(loaded.notes.empty());
     const AppConfigData& data = loaded.data;
     EXPECT_EQ(data.sentryDsn + data.language + data.theme + data.pipeName + data.agentAccount +
                   data.logFolder + data.organisation + data.deviceName + data.webServer + data.webProxy +
                   data.webCaFile + data.webHttpHosts + data.schoolCode + data.adminAccount +
                   data.deviceTags.at(1) + data.permissionList.at(0) + data.userAgreementUrl +
-                  data.privacyPolicyUrl,
-              "ddedarkpalSchule Südnsychc@uvwx");
+                  data.privacyPolicyUrl + data.publisherSuffix + data.publisherSigners.at(0),
+              "ddedarkpalSchule Südnsychc@uvwxz!");
     EXPECT_EQ(data.webCallSeconds, 5);
     EXPECT_TRUE(data.enrolled);
 }

@@ -13,6 +13,7 @@
 #include "platform/context/AppContextData.h"
 #include "platform/link/PipeClientService.h"
 #include "platform/system/SystemPipe.h"
+#include "popups/PopupHistory.h"
 #include "widgets/UAlert.h"
 #include "widgets/UToast.h"
 
@@ -253,6 +254,7 @@ Stage::Stage(bool enrolled) : m_controller(std::make_unique<MainController>()) {
     m_controller->SetService(PipeClientService::Instance());
     const QMap<QString, ControllerBase*> controllers{{QStringLiteral("ryx"), m_controller.get()}};
     qApp->setProperty("controllers", QVariant::fromValue(controllers));
+    m_popups = std::make_unique<PopupHistory>(QString(), nullptr, Clock::System(), qApp);
     m_window = std::make_unique<MainWindow>();
     m_window->resize(1280, 720); // also where the screen is smaller
     m_window->show();
@@ -293,7 +295,7 @@ QWidget& Stage::Subject() {
 
 QVector<Scene> AllScenes() {
     return PageScenes() + ShellScenes() + NoticeScenes() + EnrollPageScenes() + EnrollScenes() +
-           FeedbackScenes() + OtherScenes();
+           FeedbackScenes() + PopupScenes() + OtherScenes();
 }
 
 bool WaitFor(const std::function<bool()>& condition) {

@@ -8,6 +8,7 @@
 
 class MainController;
 class MainWindow;
+class PopupHistory;
 class QLocalServer;
 class QWidget;
 
@@ -40,6 +41,7 @@ public:
 private:
     std::unique_ptr<QLocalServer> m_service;
     std::unique_ptr<MainController> m_controller;
+    std::unique_ptr<PopupHistory> m_popups;
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<QWidget> m_other;
 };
@@ -54,6 +56,9 @@ struct Scene {
 QVector<Scene> AllScenes();
 /// Those of the log report.
 QVector<Scene> FeedbackScenes();
+
+/// Those of the pop-ups.
+QVector<Scene> PopupScenes();
 
 /// Those of the enrolment's page.
 QVector<Scene> EnrollPageScenes();

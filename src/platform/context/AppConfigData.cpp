@@ -95,5 +95,7 @@ std::vector<std::string> AppConfigData::Load(const std::string& path) {
     read("permissionList", permissionList);
     read("userAgreementUrl", userAgreementUrl);
     read("privacyPolicyUrl", privacyPolicyUrl);
+    read("publisherSuffix", publisherSuffix);
+    read("publisherSigners", publisherSigners);
     return notes;
 }

@@ -43,6 +43,8 @@ public:
     std::vector<std::string> permissionList; ///< what the organisation was granted
     std::string userAgreementUrl;            ///< web pages; empty: there is no link
     std::string privacyPolicyUrl;
+    std::string publisherSuffix; ///< with which the paths of the system's own programs end; empty: of none
+    std::vector<std::string> publisherSigners; ///< whose signatures its own programs bear
 
     std::vector<std::string> loadNotes; ///< what Instance's Load returned
 };

@@ -79,7 +79,15 @@ WebRequest Post(const QUrl& url, const std::string& json) {
 }
 
 const char* Name(UploadType type) {
-    return type == UploadType::DeviceLog ? "deviceLog" : "attachment";
+    switch (type) {
+    case UploadType::DeviceLog:
+        return "deviceLog";
+    case UploadType::Picture:
+        return "png";
+    case UploadType::Attachment:
+        break;
+    }
+    return "attachment";
 }
 
 WebFields Fields(const std::vector<NubraFieldInfo>& infos) {

@@ -31,7 +31,7 @@ struct WebFailure {
 };
 
 /// What a file is to the file store.
-enum class UploadType { DeviceLog, Attachment };
+enum class UploadType { DeviceLog, Attachment, Picture };
 
 /// A file to fetch.
 struct DownloadRequest {

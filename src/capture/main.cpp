@@ -1,0 +1,42 @@
+// ryx-capture WINDOW FILE: writes a picture of a window, given by its number in decimal or as 0x..., as PNG.
+// It is a program of its own because a window that hangs may keep it waiting for ever.
+#include "platform/system/SystemCapture.h"
+
+#include <QFile>
+#include <QGuiApplication>
+
+namespace {
+
+enum ExitCode { Done, Usage, NoWindow, NotPossible, FileFailed };
+
+int Write(const QImage& picture, const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::NewOnly | QIODevice::WriteOnly)) // never over a file that is there
+        return FileFailed;
+    if (picture.save(&file, "PNG") && file.flush())
+        return Done;
+    file.remove();
+    return FileFailed;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QGuiApplication::setAttribute(Qt::AA_DisableHighDpiScaling);
+    const QGuiApplication application(argc, argv);
+    const QStringList arguments = QGuiApplication::arguments();
+    bool isNumber = false;
+    const WId window = arguments.value(1).toULongLong(&isNumber, 0);
+    if (arguments.size() != 3 || !isNumber)
+        return Usage;
+    const SystemCapture::Picture picture = SystemCapture::Native().Take(window);
+    switch (picture.result) {
+    case SystemCapture::Result::Done:
+        return Write(picture.image, arguments[2]);
+    case SystemCapture::Result::NoWindow:
+        return NoWindow;
+    case SystemCapture::Result::NotPossible:
+        break;
+    }
+    return NotPossible;
+}

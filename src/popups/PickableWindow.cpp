@@ -1,0 +1,165 @@
+#include "popups/PickableWindow.h"
+
+#include "platform/context/AppConfigData.h"
+#include "platform/system/SystemDesktop.h"
+#include "platform/system/SystemProcesses.h"
+#include "platform/system/SystemPrograms.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSet>
+#include <algorithm>
+
+namespace {
+
+bool IsPartClass(const QString& className) {
+    static const QSet<QString> classes = [] {
+        QSet<QString> all;
+        for (const char* name : {"OleMainThreadWndClass",
+                                 "MDIClient",
+                                 "DDEMLEvent",
+                                 "Message",
+                                 "#32768",
+                                 "#32769",
+                                 "#32771",
+                                 "#32772",
+                                 "Progman",
+                                 "Shell_TrayWnd",
+                                 "CabinetWClass",
+                                 "TaskManagerWindow",
+                                 "PerryShadowWnd",
+                                 "tooltips_class32",
+                                 "msctls_trackbar32",
+                                 "msctls_updown32",
+                                 "msctls_progress32",
+                                 "msctls_hotkey32",
+                                 "SysAnimate32",
+                                 "SysMonthCal32",
+                                 "SysDateTimePick32",
+                                 "SysHeader32",
+                                 "SysListView32",
+                                 "SysTreeView32",
+                                 "ComboBoxEx32",
+                                 "SysTabControl32",
+                                 "SysIPAddress32",
+                                 "SysPager",
+                                 "NativeFontCtl",
+                                 "Button",
+                                 "Static",
+                                 "Edit",
+                                 "ListBox",
+                                 "ComboBox",
+                                 "ScrollBar",
+                                 "ToolbarWindow32",
+                                 "msctls_statusbar32",
+                                 "ReBarWindow32",
+                                 "SysLink",
+                                 "ComboLBox",
+                                 "RichEdit",
+                                 "RichEdit20A",
+                                 "GDI+ Hook Window Class",
+                                 "DWM_THUMBNAIL_CAPTURE",
+                                 "CLIPBRDWNDCLASS",
+                                 "ConsoleWindowClass",
+                                 "WorkerW",
+                                 "SysShadow",
+                                 "DirectUIHWND",
+                                 "CtrlNotifySink",
+                                 "ShellTabWindowClass",
+                                 "Sogou_TSF_UI",
+                                 "Internet Explorer_Hidden"})
+            all.insert(QString::fromLatin1(name));
+        return all;
+    }();
+    return classes.contains(className);
+}
+
+bool IsTool(const QString& fileName) {
+    static const QSet<QString> tools{QStringLiteral("ScriptedSandbox64.exe"), QStringLiteral("devenv.exe"),
+                                     QStringLiteral("spyxx.exe"), QStringLiteral("spyxx_amd64.exe")};
+    return tools.contains(fileName);
+}
+
+} // namespace
+
+PopupSystem PopupSystem::Native() {
+    return {SystemDesktop::Native(), SystemProcesses::Native(), SystemPrograms::Native()};
+}
+
+OwnPublisher OwnPublisher::Configured() {
+    const AppConfigData& config = *AppConfigData::Instance();
+    OwnPublisher own{QString::fromStdString(config.publisherSuffix), {}};
+    for (const std::string& signer : config.publisherSigners)
+        own.signers.push_back(QString::fromStdString(signer));
+    return own;
+}
+
+std::vector<WId> PickableWindow::Candidates(const PopupSystem& system, WId mask) {
+    std::vector<WId> windows = system.desktop.TopLevelWindows().value_or(std::vector<WId>());
+    windows.erase(std::remove_if(windows.begin(), windows.end(),
+                                 [&](WId id) {
+                                     return id == mask || !system.desktop.IsVisible(id) ||
+                                            !system.desktop.IsEnabled(id) ||
+                                            system.desktop.StyleOf(id).takesNoActivation;
+                                 }),
+                  windows.end());
+    return windows;
+}
+
+std::optional<PickableWindow> PickableWindow::Read(const PopupSystem& system, WId id) {
+    PickableWindow window;
+    window.id = id;
+    window.process = system.desktop.ProcessOf(id);
+    window.path = system.processes.ImageOf(window.process);
+    if (window.path.isEmpty())
+        return std::nullopt;
+    window.title = system.desktop.TitleOf(id);
+    window.className = system.desktop.ClassNameOf(id);
+    const std::optional<QRect> place = system.desktop.PlaceOf(id);
+    if (!place)
+        return std::nullopt;
+    window.place = *place;
+    return window;
+}
+
+bool PickableWindow::IsOpen(const PopupsTypeParams& rule) {
+    const auto equal = [](const QString& text, const std::string& utf8) {
+        return text.compare(QString::fromStdString(utf8), Qt::CaseInsensitive) == 0;
+    };
+    const PopupSystem system = PopupSystem::Native();
+    const std::vector<WId> windows = Candidates(system, 0);
+    return std::any_of(windows.begin(), windows.end(), [&](WId id) {
+        if (!equal(system.desktop.ClassNameOf(id), rule.popClassName) ||
+            !equal(system.desktop.TitleOf(id), rule.popName))
+            return false;
+        const std::optional<PickableWindow> window = Read(system, id);
+        return window && equal(window->FileName(), rule.appName);
+    });
+}
+
+QString PickableWindow::FileName() const {
+    return QFileInfo(QDir::fromNativeSeparators(path)).fileName();
+}
+
+QString PickableWindow::Directory() const {
+    return QFileInfo(QDir::fromNativeSeparators(path)).absolutePath();
+}
+
+bool PickableWindow::IsPart() const {
+    const bool isFrameOfShell = className == QLatin1String("ApplicationFrameWindow") &&
+                                FileName().compare(QLatin1String("explorer.exe"), Qt::CaseInsensitive) == 0;
+    return isFrameOfShell || IsPartClass(className) ||
+           className.startsWith(QLatin1String("SoPY"), Qt::CaseInsensitive);
+}
+
+bool PickableWindow::IsRefused(const ProgramFacts& facts, const OwnPublisher& own, quint32 self) const {
+    const bool isOfSystem = path.startsWith(QLatin1String("C:\\WINDOWS"), Qt::CaseInsensitive) ||
+                            facts.product.compare(QStringLiteral("Microsoft® Windows® Operating System"),
+                                                  Qt::CaseInsensitive) == 0;
+    const bool isOwn = (!own.fileSuffix.isEmpty() && path.endsWith(own.fileSuffix, Qt::CaseInsensitive)) ||
+                       (!facts.signer.isEmpty() &&
+                        std::find(own.signers.begin(), own.signers.end(), facts.signer) != own.signers.end());
+    return IsPart() ||
+           path.startsWith(QLatin1String("C:\\PROGRAM FILES\\WINDOWSAPPS"), Qt::CaseInsensitive) ||
+           isOfSystem || IsTool(FileName()) || isOwn || process == self;
+}

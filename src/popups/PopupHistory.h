@@ -1,0 +1,86 @@
+#pragma once
+
+#include "entity/AppEntities.h"
+#include "platform/application/Clock.h"
+#include "platform/link/PipeKey.h"
+
+#include <QDateTime>
+#include <QObject>
+#include <QSet>
+#include <QTimer>
+#include <deque>
+#include <functional>
+
+/// The windows that one rule has asked to close on one day.
+struct PopupRecord {
+    PopupsTypeParams rule; ///< with the folder in which the program was found
+    QDateTime last;
+    int times = 0;
+    bool stillOpen = false; ///< the last one was asked to close, and is still there
+    QDateTime lookAgain;    ///< when to look whether it has gone; not valid: it has
+};
+
+/// Keeps which pop-up windows were asked to close, beyond the program's end, and what the service says of the
+/// rules. Lives from start-up, for pages are made later. GUI thread.
+class PopupHistory : public QObject {
+    Q_OBJECT
+
+public:
+    enum class Blocking { Unknown, Off, On };
+    /// Whether a window that the rule means is on the screen.
+    using IsOpen = std::function<bool(const PopupsTypeParams& rule)>;
+
+    /// Reads what an earlier start has kept in `file`, and keeps the last 200 records there; without a name
+    /// nothing is kept.
+    PopupHistory(const QString& file, IsOpen isOpen, const Clock& clock = Clock::System(),
+                 QObject* parent = nullptr);
+    /// Writes what is not written yet.
+    ~PopupHistory() override;
+
+    /// The application object's history; null when it has none.
+    static PopupHistory* OfApplication();
+
+    /// The latest first.
+    const std::deque<PopupRecord>& Records() const { return m_records; }
+    /// Windows that were asked to close today.
+    int CountOfToday() const;
+    QDate Today() const { return m_clock.Now().date(); }
+
+    /// What the service has said last.
+    Blocking State() const { return m_state; }
+    int RuleCount() const { return m_rules.size(); }
+    bool IsInForce(const PopupsTypeParams& rule) const { return m_rules.contains(Identity(rule)); }
+
+    /// The same text for the same rule: four fields, in upper or lower case.
+    static QString Identity(const PopupsTypeParams& rule);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+signals:
+    void RecordsChanged();
+    /// The service has said which rules are in force.
+    void PolicyReceived();
+    /// A rule has asked its first window of the day to close; plain text for the user.
+    void Noticed(const QString& text);
+
+private:
+    void OnPipeReceive(PipeKey key, const std::string& body);
+    void SetPolicy(const SyncPopupsParams& policy);
+    void Add(const UploadPopupsParams& report);
+    void LookAgain();
+    void Read();
+    void SetAside() const;
+    void Write();
+    void Touch();
+
+    const QString m_file;
+    const IsOpen m_isOpen;
+    const Clock& m_clock;
+    std::deque<PopupRecord> m_records;
+    QDate m_day; // that m_count counts
+    int m_count = 0;
+    Blocking m_state = Blocking::Unknown;
+    QSet<QString> m_rules; // identities
+    QTimer m_writeTimer{this};
+    QTimer m_lookTimer{this};
+};

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "popups/UPopupBlockMask.h"
+
+#include <QObject>
+#include <QPointer>
+#include <memory>
+#include <vector>
+
+/// Lets the user pick a window to report: covers every screen with a mask until one is reported or the user
+/// gives up. A lock takes the masks away. GUI thread.
+class PopupPicker : public QObject {
+    Q_OBJECT
+
+public:
+    explicit PopupPicker(PopupSystem system = PopupSystem::Native(),
+                         PopupReport::Upload upload = PopupReport::UploadToStore, QObject* parent = nullptr);
+    ~PopupPicker() override;
+
+    /// Lets the user point at a window; false while a report is on its way.
+    bool Start();
+    /// The same with a window that is picked already.
+    bool Start(const PickableWindow& picked);
+    void Close();
+
+    /// What the user may choose from, the topmost first. Some of them may still be refused.
+    std::vector<PickableWindow> Windows() const;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void ShowMasks();
+    bool IsOpen() const;
+
+    const PopupSystem m_system;
+    const PopupReport::Upload m_upload;
+    QPointer<QWidget> m_before; // had the focus
+    std::vector<std::unique_ptr<UPopupBlockMask>> m_masks;
+};

@@ -1,0 +1,90 @@
+#pragma once
+
+#include "platform/link/PipeKey.h"
+#include "popups/PopupReport.h"
+
+#include <QFutureWatcher>
+#include <QPixmap>
+#include <QTimer>
+#include <QWidget>
+
+class PopupPanel;
+class QLabel;
+class QScreen;
+class UToast;
+
+/// Lies over one screen, lets the user point at another program's window, shows what it takes for it, and
+/// reports that to the administrator. GUI thread.
+class UPopupBlockMask : public QWidget {
+    Q_OBJECT
+
+public:
+    /// The dynamic property "TopLevel".
+    static constexpr int Level = 1;
+
+    UPopupBlockMask(const QScreen& screen, const PopupSystem& system, PopupReport::Upload upload);
+    ~UPopupBlockMask() override;
+
+    /// Its screen, in physical pixels of the whole desktop.
+    const QRect& Place() const { return m_place; }
+
+    /// Looks at one of the windows of the desktop, in their order; false when it is the one that lies under
+    /// the last click.
+    static bool EnumWindowsCallback(WId window, UPopupBlockMask& mask);
+
+    /// Shows this window, as if it had been pointed at.
+    void Pick(const PickableWindow& window);
+
+    /// Drops what is picked, with its files.
+    void Reset();
+
+    /// Whether a report is on its way, or its answer is awaited.
+    bool IsReporting() const { return m_isReporting; }
+
+signals:
+    /// The user gives up.
+    void Cancelled();
+    /// A window is picked: what other masks show is of no use any more.
+    void Picked();
+    /// The report goes out: nothing is to be picked any more.
+    void Reporting();
+
+protected:
+    void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void Retranslate();
+    void OnLooked();
+    void ShowPicked(const ProgramFacts& facts);
+    QPixmap Preview() const;
+    void SaveIcon();
+    void Report();
+    void Send();
+    void TellResult(bool ok);
+    void PlacePanel();
+    QRect FromPhysical(const QRect& place) const;
+
+    const PopupSystem m_system;
+    const PopupReport::Upload m_uploadPicture;
+    QRect m_place;
+    QPixmap m_desktop; // as it was before, where nothing shines through; otherwise null
+    bool m_busy = false;
+    bool m_isReporting = false;
+    QPointF m_click; // in physical pixels of the whole desktop
+    PickableWindow m_picked;
+    PopupReport m_report;
+    PopupCapture m_capture;
+    QFutureWatcher<ProgramFacts> m_facts;
+    QFutureWatcher<UploadPopupsParams> m_upload;
+    Cancellation m_cancellation;
+    QTimer m_replyTimer{this};
+    std::unique_ptr<UToast> m_toast;
+    QLabel* m_preview;
+    PopupPanel* m_panel;
+};

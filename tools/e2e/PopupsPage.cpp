@@ -1,0 +1,47 @@
+#include "PopupsPage.h"
+
+#include "ColorArea.h"
+#include "MainPage.h"
+
+namespace {
+
+const QColor Accent("#2456D6");
+const QColor Warning("#8A5A00");
+constexpr int FilledPixels = 5500; // of the button and the frame around a small window
+constexpr int SignPixels = 30;
+
+} // namespace
+
+// The masks and the main window have one title, but not one size.
+bool PopupsPage::IsPicking() const {
+    const auto top = m_desktop.Find(MainPage::Title);
+    return top && top->place == QRect(QPoint(), m_desktop.Size());
+}
+
+int PopupsPage::Pixels(const QColor& color) const {
+    return FindColor(m_desktop.Screenshot(), color).pixels;
+}
+
+bool PopupsPage::OpenPicker() {
+    m_desktop.Press("Tab");
+    m_desktop.Press("space");
+    for (int stop = 0; stop < 6; ++stop) // past the menu's other entries and the switch
+        m_desktop.Press("Tab");
+    m_desktop.Press("space");
+    return WaitUntil([this] { return IsPicking(); });
+}
+
+bool PopupsPage::OffersReport() const {
+    return IsPicking() && Pixels(Accent) > FilledPixels;
+}
+
+bool PopupsPage::Refuses() const {
+    return IsPicking() && Pixels(Warning) > SignPixels && !OffersReport();
+}
+
+bool PopupsPage::Report() {
+    if (!WaitUntil([this] { return OffersReport(); }))
+        return false;
+    m_desktop.Press("space"); // the button has the focus
+    return WaitUntil([this] { return !IsPicking(); });
+}
