@@ -22,7 +22,7 @@ Notifier::Notifier(QWidget& window, QSystemTrayIcon& tray)
 }
 
 void Notifier::TellWaiting() {
-    if (WindowStack::Instance()->Highest())
+    if (WindowStack::Instance()->IsLocked())
         return;
     m_later.stop();
     for (const auto& [kind, text] : std::exchange(m_waiting, {}))
@@ -30,7 +30,7 @@ void Notifier::TellWaiting() {
 }
 
 void Notifier::Notify(NoticeKind kind, const QString& text) {
-    if (WindowStack::Instance()->Highest()) {
+    if (WindowStack::Instance()->IsLocked()) {
         m_waiting.append({kind, text});
         m_later.start();
         return;

@@ -162,11 +162,13 @@ int UserApp::Run(int argc, char** argv) {
     const PipeLinkGuard link;
 
     MainWindow window;
+    connect(&window, &MainWindow::MessagesRequested, &message, &MessageController::OpenMessages);
     application.setActivationWindow(&window, true);
     if (application.arguments().contains(QStringLiteral("-hide")))
         SystemWindows::Native().CreateHidden(window);
     else
         window.show();
+    message.ShowUnread();
     return Execute(application, screenLock);
 }
 

@@ -2,6 +2,6 @@ target_sources(ryx_user_objects PRIVATE
     ${CMAKE_CURRENT_LIST_DIR}/ControlPanelThread.cpp
     ${CMAKE_CURRENT_LIST_DIR}/ControlPanelWatch.cpp
     ${CMAKE_CURRENT_LIST_DIR}/MainController.cpp
-    ${CMAKE_CURRENT_LIST_DIR}/MessageController.h
+    ${CMAKE_CURRENT_LIST_DIR}/MessageController.cpp
     ${CMAKE_CURRENT_LIST_DIR}/PopupsController.cpp
     ${CMAKE_CURRENT_LIST_DIR}/SettingsLockController.cpp)
