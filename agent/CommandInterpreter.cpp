@@ -119,10 +119,10 @@ std::string Body(const std::string& text, const QDir& folder) {
 
 WebFault Fault(const std::string& text) {
     static const std::map<std::string, WebFault::Kind> kinds = {
-        {"ok", WebFault::None},    {"slow", WebFault::Slow},   {"drip", WebFault::Drip},
-        {"half", WebFault::Half},  {"wrong", WebFault::Wrong}, {"empty", WebFault::Empty},
-        {"gone", WebFault::Gone},  {"large", WebFault::Large}, {"redirect", WebFault::Redirect},
-        {"answer", WebFault::Text}};
+        {"ok", WebFault::None},     {"slow", WebFault::Slow},   {"drip", WebFault::Drip},
+        {"half", WebFault::Half},   {"wrong", WebFault::Wrong}, {"empty", WebFault::Empty},
+        {"gone", WebFault::Gone},   {"large", WebFault::Large}, {"redirect", WebFault::Redirect},
+        {"answer", WebFault::Text}, {"huge", WebFault::Huge}};
     static const std::regex status("[45][0-9]{2}");
     const auto [name, value] = SplitFirst(text);
     WebFault fault;
@@ -133,6 +133,8 @@ WebFault Fault(const std::string& text) {
     else
         Refuse("wants a fault instead of \"" + name + '"');
     if (fault.kind == WebFault::Redirect || fault.kind == WebFault::Text)
+        fault.text = value;
+    else if (fault.kind == WebFault::Half && (value == "once" || value == "anew"))
         fault.text = value;
     else if (fault.kind == WebFault::Slow || fault.kind == WebFault::Drip)
         fault.seconds = Seconds(value, 1);
@@ -184,9 +186,19 @@ Step Expect(double seconds, std::function<bool()> isMet) {
 
 CommandInterpreter::CommandInterpreter(AgentServer& server, AgentService& service, AgentEnrolment& enrolment,
                                        EventLog& log, WebService* web)
-    : m_server(server), m_service(service), m_enrolment(enrolment), m_log(log), m_web(web), m_player(log) {
+    : m_server(server),
+      m_service(service),
+      m_enrolment(enrolment),
+      m_log(log),
+      m_web(web),
+      m_messageCommands(server, log, web),
+      m_player(log) {
     AddSendingCommands();
     AddEnrolmentCommands();
+    for (const MessageCommands::Command& command : m_messageCommands.All())
+        m_commands.push_back(
+            {command.name, command.arguments, command.help,
+             [this, command](const std::string& text) { return Act(command.parse(text, m_folder)); }});
     AddExpectations();
     AddWebCommands();
     AddOtherCommands();
@@ -371,8 +383,8 @@ void CommandInterpreter::AddWebCommands() {
     m_commands.insert(
         m_commands.end(),
         {{"web", "ENDPOINT FAULT [VALUE]",
-          "what the web service does wrong: ok, slow S, drip S, 400 to 599, half, wrong, empty, large, "
-          "redirect [URL], gone, answer TEXT",
+          "what the web service does wrong: ok, slow S, drip S, 400 to 599, half [once|anew], wrong, empty, "
+          "large, huge, redirect [URL], gone, answer TEXT",
           [this](const std::string& arguments) {
               const auto [endpoint, fault] = SplitFirst(arguments);
               return Act(

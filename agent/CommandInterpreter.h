@@ -2,6 +2,7 @@
 
 #include "AgentEnrolment.h"
 #include "AgentService.h"
+#include "MessageCommands.h"
 #include "StepPlayer.h"
 #include "WebService.h"
 
@@ -75,6 +76,7 @@ private:
     AgentEnrolment& m_enrolment;
     EventLog& m_log;
     WebService* m_web;
+    MessageCommands m_messageCommands;
     StepPlayer m_player;
     std::vector<Command> m_commands;
     QDir m_folder{QStringLiteral(".")};       // in which the line that is read looks for files
