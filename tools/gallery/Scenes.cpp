@@ -260,6 +260,7 @@ Stage::Stage(bool enrolled) : m_controller(std::make_unique<MainController>()) {
 }
 
 Stage::~Stage() {
+    m_owner.reset();
     m_other.reset();
     m_window.reset();
     if (m_service) {
@@ -284,6 +285,8 @@ void Stage::Receive(int key, const std::string& body) {
 }
 
 QWidget& Stage::Subject() {
+    if (m_shown)
+        return *m_shown;
     if (m_other)
         return *m_other;
     if (QWidget* popup = QApplication::activePopupWidget())
@@ -293,7 +296,7 @@ QWidget& Stage::Subject() {
 
 QVector<Scene> AllScenes() {
     return PageScenes() + ShellScenes() + NoticeScenes() + EnrollPageScenes() + EnrollScenes() +
-           FeedbackScenes() + OtherScenes();
+           FeedbackScenes() + MessageScenes() + OtherScenes();
 }
 
 bool WaitFor(const std::function<bool()>& condition) {

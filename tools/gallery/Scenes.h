@@ -34,6 +34,12 @@ public:
         return shown;
     }
 
+    /// Takes a picture of this window instead, which lives as long as `owner`.
+    void ShowWindow(QWidget& window, std::shared_ptr<void> owner) {
+        m_shown = &window;
+        m_owner = std::move(owner);
+    }
+
     /// The widget that the picture is of.
     QWidget& Subject();
 
@@ -42,6 +48,8 @@ private:
     std::unique_ptr<MainController> m_controller;
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<QWidget> m_other;
+    std::shared_ptr<void> m_owner;
+    QWidget* m_shown = nullptr; // which it owns
 };
 
 /// Everything a person may see: each page, dialog, notice and state.
@@ -60,6 +68,9 @@ QVector<Scene> EnrollPageScenes();
 
 /// Those of the enrolment's parts.
 QVector<Scene> EnrollScenes();
+
+/// Those of the administrator's messages.
+QVector<Scene> MessageScenes();
 
 /// Lets layouts, deferred updates and queued events come to rest.
 void Settle();
