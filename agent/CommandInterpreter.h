@@ -1,20 +1,17 @@
 #pragma once
 
-#include "AgentEnrolment.h"
 #include "AgentService.h"
-#include "MessageCommands.h"
-#include "StepPlayer.h"
-#include "WebService.h"
+#include "Command.h"
+#include "WebCommands.h"
 
 #include <QDir>
 #include <QObject>
-#include <functional>
 #include <istream>
 #include <list>
-#include <set>
 #include <string>
 #include <utility>
-#include <vector>
+
+class AgentEnrolment;
 
 /// Understands and carries out the commands of the console and of scenario files, in the order given:
 /// most at once, those that wait when what they wait for has come or their time is over.
@@ -48,38 +45,26 @@ signals:
     void Quit();
 
 private:
-    /// `parse` makes a step of the text behind the name, or throws std::invalid_argument.
-    struct Command {
-        std::string name;
-        std::string arguments;
-        std::string help;
-        std::function<Step(const std::string& arguments)> parse;
-    };
     using Message = std::pair<PipeKey, std::string>;
 
+    void AddCommands(const Commands& commands);
     void AddSendingCommands();
-    void AddEnrolmentCommands();
     void AddExpectations();
-    void AddWebCommands();
     void AddOtherCommands();
     Step Parse(const std::string& line) const;
     Step ParseWait(const std::string& arguments);
     Message ParseMessage(const std::string& arguments) const;
     void Keep(PipeKey key, const std::string& body);
     bool TakeMessage(PipeKey key, const std::string& part);
-    std::string WebEndpoint(const std::string& name) const;
     void TellClients() const;
     void TellHelp() const;
 
     AgentServer& m_server;
     AgentService& m_service;
-    AgentEnrolment& m_enrolment;
     EventLog& m_log;
-    WebService* m_web;
-    MessageCommands m_messageCommands;
+    WebCommands m_web;
     StepPlayer m_player;
-    std::vector<Command> m_commands;
-    QDir m_folder{QStringLiteral(".")};       // in which the line that is read looks for files
-    std::list<Message> m_messages;            // arrived, and used by no expectation yet
-    std::multiset<std::string> m_webRequests; // endpoints asked, and used by no expectation yet
+    Commands m_commands;
+    QDir m_folder{QStringLiteral(".")}; // in which the line that is read looks for files
+    std::list<Message> m_messages;      // arrived, and used by no expectation yet
 };

@@ -1,128 +1,144 @@
 #include "MessageCommands.h"
 
-#include "EventLog.h"
+#include "AgentServer.h"
 #include "WebService.h"
 #include "entity/FileEntities.h"
 #include "entity/SettingsEntities.h"
 
+#include <QDir>
 #include <QFileInfo>
+#include <memory>
 #include <regex>
-#include <stdexcept>
 #include <tuple>
 
 namespace {
 
-/// A number of at most six digits.
-int Number(const std::string& text, const char* wanted) {
-    static const std::regex digits("[0-9]{1,6}");
-    if (!std::regex_match(text, digits))
-        throw std::invalid_argument(wanted);
-    return std::stoi(text);
+/// Sends messages as operations, each with a number of its own by which it can be withdrawn.
+class Sender {
+public:
+    Sender(AgentServer& server, EventLog& log, WebService* web) : m_server(server), m_log(log), m_web(web) {}
+
+    template <class Request>
+    void Send(Request request) {
+        request.operationId = ++m_lastOperation;
+        m_log.Line("message " + std::to_string(request.operationId));
+        m_server.Send(PipeKey::MessageFile, request.WriteToString());
+    }
+
+    /// Without a number the last one.
+    void Withdraw(int number) {
+        TextDataRequest request;
+        request.operationId = number ? number : m_lastOperation;
+        m_server.Send(PipeKey::MessageFile, request.WriteToString());
+    }
+
+    template <class Request>
+    void SendFile(Request request, const QString& path, const std::string& name) {
+        request.fileInfoParams.name = name;
+        const auto offered = m_web->Offer(path, name);
+        if (!offered) {
+            m_log.Line("error: cannot offer " + path.toStdString());
+            return;
+        }
+        std::tie(request.fileInfoParams.url, request.fileInfoParams.md5) = *offered;
+        Send(request);
+    }
+
+    bool HasWeb() const { return m_web != nullptr; }
+
+private:
+    AgentServer& m_server;
+    EventLog& m_log;
+    WebService* m_web;
+    int m_lastOperation = 0;
+};
+
+template <class Request>
+Request Active() {
+    Request request;
+    request.jobStatus = request.operationRight = true;
+    return request;
 }
 
 std::string Text(const std::string& text) {
     if (text.empty())
-        throw std::invalid_argument("wants a text");
+        Refuse("wants a text");
     return text;
+}
+
+int MessageNumber(const std::string& text) {
+    static const std::regex digits("[0-9]{0,6}");
+    if (!std::regex_match(text, digits))
+        Refuse("wants a message's number");
+    return text.empty() ? 0 : std::stoi(text);
+}
+
+template <class Request>
+Step File(const std::shared_ptr<Sender>& sender, const Request& request, const std::string& arguments,
+          const QDir& folder) {
+    const auto [file, wanted] = SplitFirst(arguments);
+    const QString path = folder.filePath(QString::fromStdString(file));
+    if (!sender->HasWeb())
+        Refuse("wants ryx-agent --web");
+    if (!QFileInfo(path).isFile())
+        Refuse("wants a file instead of \"" + file + '"');
+    const std::string name = wanted.empty() ? QFileInfo(path).fileName().toStdString() : wanted;
+    return Act([=] { sender->SendFile(request, path, name); });
+}
+
+BootLogoDataRequest Wallpaper(const std::string& arguments) {
+    const auto [placement, path] = SplitFirst(arguments);
+    if (!placement.empty() && placement != "fit" && placement != "center" && placement != "fill")
+        Refuse("wants fit, center or fill, and a path");
+    BootLogoDataRequest request;
+    request.displayMode = placement == "fit" ? 1 : placement == "center" ? 2 : 0;
+    request.fileInfoParams.path = path;
+    return request;
 }
 
 } // namespace
 
-template <class Request>
-void MessageCommands::Send(Request& request) {
-    request.operationId = ++m_lastOperation;
-    m_log.Line("message " + std::to_string(request.operationId));
-    m_server.Send(PipeKey::MessageFile, request.WriteToString());
-}
-
-FileInfoParams MessageCommands::Offer(const QString& path, const std::string& name) {
-    FileInfoParams file;
-    file.name = name;
-    if (const auto offered = m_web->Offer(path, name))
-        std::tie(file.url, file.md5) = *offered;
-    else
-        m_log.Line("error: cannot offer " + path.toStdString());
-    return file;
-}
-
-std::function<void()> MessageCommands::ParseFile(const std::string& text, const QDir& folder,
-                                                 bool isPicture) {
-    const auto blank = text.find_first_of(" \t");
-    const QString path = folder.filePath(QString::fromStdString(text.substr(0, blank)));
-    const auto behind = blank == std::string::npos ? blank : text.find_first_not_of(" \t", blank);
-    const std::string name =
-        behind == std::string::npos ? QFileInfo(path).fileName().toStdString() : text.substr(behind);
-    if (!m_web)
-        throw std::invalid_argument("wants ryx-agent --web");
-    if (!QFileInfo(path).isFile())
-        throw std::invalid_argument("wants a file instead of \"" + path.toStdString() + '"');
-    return [this, path, name, isPicture] {
-        if (isPicture) {
-            MultimediaDataRequest request;
-            request.jobStatus = request.operationRight = true;
-            request.fileInfoParams = Offer(path, name);
-            Send(request);
-        } else {
-            FileDataRequest request;
-            request.fileInfoParams = Offer(path, name);
-            Send(request);
-        }
-    };
-}
-
-std::vector<MessageCommands::Command> MessageCommands::All() {
+Commands MessageCommands(AgentServer& server, EventLog& log, WebService* web, const QDir& folder) {
+    const auto sender = std::make_shared<Sender>(server, log, web);
     return {{"message", "TEXT", "show a text (44 MessageFile)",
-             [this](const std::string& text, const QDir&) {
-                 return [this, words = Text(text)] {
-                     TextDataRequest request;
-                     request.jobStatus = request.operationRight = true;
-                     request.text = words;
-                     Send(request);
-                 };
+             [sender](const std::string& arguments) {
+                 auto request = Active<TextDataRequest>();
+                 request.text = Text(arguments);
+                 return Act([sender, request] { sender->Send(request); });
              }},
             {"emergency", "TEXT", "show an emergency (44 MessageFile)",
-             [this](const std::string& text, const QDir&) {
-                 return [this, words = Text(text)] {
-                     EmergencyDataRequest request;
-                     request.text = words;
-                     Send(request);
-                 };
+             [sender](const std::string& arguments) {
+                 EmergencyDataRequest request;
+                 request.text = Text(arguments);
+                 return Act([sender, request] { sender->Send(request); });
              }},
             {"file", "FILE [NAME]", "send a file by the web service (44 MessageFile)",
-             [this](const std::string& text, const QDir& folder) { return ParseFile(text, folder, false); }},
+             [sender, &folder](const std::string& arguments) {
+                 return File(sender, FileDataRequest(), arguments, folder);
+             }},
             {"picture", "FILE [NAME]", "show a picture by the web service (44 MessageFile)",
-             [this](const std::string& text, const QDir& folder) { return ParseFile(text, folder, true); }},
+             [sender, &folder](const std::string& arguments) {
+                 return File(sender, Active<MultimediaDataRequest>(), arguments, folder);
+             }},
             {"withdraw", "[NUMBER]", "take the message with this number back, or the last one",
-             [this](const std::string& text, const QDir&) {
-                 const int number = text.empty() ? 0 : Number(text, "wants a message's number");
-                 return [this, number] {
-                     TextDataRequest request;
-                     request.operationId = number ? number : m_lastOperation;
-                     m_server.Send(PipeKey::MessageFile, request.WriteToString());
-                 };
+             [sender](const std::string& arguments) {
+                 return Act([sender, number = MessageNumber(arguments)] { sender->Withdraw(number); });
              }},
             {"clock", "12|24", "set the clock's hour format (69 TimeFormatSetting)",
-             [this](const std::string& text, const QDir&) {
-                 if (text != "12" && text != "24")
-                     throw std::invalid_argument("wants 12 or 24");
-                 return [this, format = text == "12" ? 0 : 1] {
-                     HourFormatSettingProperty property;
-                     property.hourFormatSetting = format;
-                     m_server.Send(PipeKey::TimeFormatSetting, property.WriteToString());
-                 };
+             [&server](const std::string& arguments) {
+                 if (arguments != "12" && arguments != "24")
+                     Refuse("wants 12 or 24");
+                 HourFormatSettingProperty property;
+                 property.hourFormatSetting = arguments == "12" ? 0 : 1;
+                 return Act([&server, body = property.WriteToString()] {
+                     server.Send(PipeKey::TimeFormatSetting, body);
+                 });
              }},
             {"wallpaper", "[fit|center|fill [PATH]]",
-             "show this picture of the device as wallpaper, or the default one (82 WallpaperSetting)",
-             [this](const std::string& text, const QDir&) {
-                 static const std::regex words("((fit|center|fill)([ \t]+(.*))?)?");
-                 std::smatch match;
-                 if (!std::regex_match(text, match, words))
-                     throw std::invalid_argument("wants fit, center or fill, and a path");
-                 BootLogoDataRequest request;
-                 request.displayMode = match[2] == "fit" ? 1 : match[2] == "center" ? 2 : 0;
-                 request.fileInfoParams.path = match[4];
-                 return [this, body = request.WriteToString()] {
-                     m_server.Send(PipeKey::WallpaperSetting, body);
-                 };
+             "set this picture of the device, or its default one, as wallpaper (82 WallpaperSetting)",
+             [&server](const std::string& arguments) {
+                 return Act([&server, body = Wallpaper(arguments).WriteToString()] {
+                     server.Send(PipeKey::WallpaperSetting, body);
+                 });
              }}};
 }

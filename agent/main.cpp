@@ -1,4 +1,5 @@
 // ryx-agent: stands in for the agent service, for people who try the front end and for its tests.
+#include "AgentEnrolment.h"
 #include "CommandInterpreter.h"
 #include "ConsoleInput.h"
 #include "Supervisor.h"

@@ -140,7 +140,6 @@ int UserApp::Run(int argc, char** argv) {
     AppHelper::InitLanguage();
     AppHelper::LoadConfig();
     RyxWebClient::Instance()->Configure(WebSettings::From(*AppConfigData::Instance()));
-    RyxPath::RemoveOldTempFiles();
 
     PopupsController popups;
     MainController main;
@@ -168,6 +167,7 @@ int UserApp::Run(int argc, char** argv) {
         SystemWindows::Native().CreateHidden(window);
     else
         window.show();
+    RyxPath::RemoveOldTempFiles();
     message.ShowUnread();
     return Execute(application, screenLock);
 }

@@ -1,6 +1,8 @@
 // The stand-in agent service as its users meet it: commands in, lines out, frames on a real pipe.
+#include "AgentEnrolment.h"
 #include "CommandInterpreter.h"
 #include "Supervisor.h"
+#include "WebService.h"
 #include "platform/context/AppConfigData.h"
 #include "platform/link/RyxPackage.h"
 #include "platform/security/PasswordHelper.h"

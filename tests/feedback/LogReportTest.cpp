@@ -1,6 +1,8 @@
 // The steps of a log report with the real web client, against the stand-in web service.
 #include "feedback/LogReport.h"
+#include "AgentEnrolment.h"
 #include "CommandInterpreter.h"
+#include "WebService.h"
 #include "feedback/ReportArchive.h"
 
 #include <QDir>

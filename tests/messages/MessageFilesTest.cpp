@@ -1,6 +1,8 @@
 // Files of messages: their names, and how they come from the web service with all its faults.
 #include "messages/MessageFiles.h"
+#include "AgentEnrolment.h"
 #include "CommandInterpreter.h"
+#include "WebService.h"
 #include "messages/FileNames.h"
 
 #include <QDir>

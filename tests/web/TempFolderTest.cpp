@@ -13,6 +13,7 @@ TEST(TempFolder, WhatIsADayOldGoesAndTheRestStays) {
                          QFileDevice::FileModificationTime);
     }
     RyxPath::RemoveOldTempFiles();
+    QThreadPool::globalInstance()->waitForDone();
     EXPECT_EQ(temp.entryList(QDir::Files, QDir::Name),
               (QStringList{QStringLiteral("0"), QStringLiteral("23")}));
     const auto others = QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;

@@ -1,5 +1,7 @@
 // The web client against the stand-in web service, whatever that does wrong.
+#include "AgentEnrolment.h"
 #include "CommandInterpreter.h"
+#include "WebService.h"
 #include "platform/web/RyxWebClient.h"
 
 #include <QCryptographicHash>

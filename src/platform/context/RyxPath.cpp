@@ -1,16 +1,33 @@
 #include "platform/context/RyxPath.h"
 
 #include "platform/context/AppConfigData.h"
+#include "platform/security/LogText.h"
 #include "platform/system/SystemSession.h"
 
 #include <QDateTime>
 #include <QDir>
+#include <QThreadPool>
 #include <glog/logging.h>
 
 namespace {
 
 QString TempFolder() {
     return QString::fromStdWString(RyxPath::GetUserDataDir()) + QStringLiteral("/temp");
+}
+
+/// Removes what has lain in a folder, which need not be there, for more than a day.
+void RemoveOldFiles(const QString& folder) {
+    const QDateTime dayAgo = QDateTime::currentDateTime().addDays(-1);
+    for (const QFileInfo& entry :
+         QDir(folder).entryInfoList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot)) {
+        if (entry.lastModified() >= dayAgo)
+            continue;
+        const bool isFolder = entry.isDir() && !entry.isSymLink();
+        const bool removed =
+            isFolder ? QDir(entry.filePath()).removeRecursively() : QFile::remove(entry.filePath());
+        LOG(INFO) << "RyxPath::RemoveOldTempFiles " << (removed ? "removed " : "could not remove ")
+                  << LogText(entry.fileName());
+    }
 }
 
 } // namespace
@@ -37,16 +54,5 @@ std::wstring RyxPath::GetRyxTempDir() {
 }
 
 void RyxPath::RemoveOldTempFiles() {
-    const QDateTime dayAgo = QDateTime::currentDateTime().addDays(-1);
-    const QDir folder(TempFolder()); // which need not be there yet
-    for (const QFileInfo& entry :
-         folder.entryInfoList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot)) {
-        if (entry.lastModified() >= dayAgo)
-            continue;
-        const bool isFolder = entry.isDir() && !entry.isSymLink();
-        const bool removed =
-            isFolder ? QDir(entry.filePath()).removeRecursively() : QFile::remove(entry.filePath());
-        LOG(INFO) << "RyxPath::RemoveOldTempFiles " << (removed ? "removed " : "could not remove ")
-                  << entry.fileName().toStdString();
-    }
+    QThreadPool::globalInstance()->start([folder = TempFolder()] { RemoveOldFiles(folder); });
 }

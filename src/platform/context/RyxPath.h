@@ -15,6 +15,6 @@ public:
     /// in it is removed at a later start.
     static std::wstring GetRyxTempDir();
 
-    /// Removes what lies in the folder of temporary files for more than a day.
+    /// Removes what lies in the folder of temporary files for more than a day, on a thread of the pool.
     static void RemoveOldTempFiles();
 };
