@@ -285,11 +285,6 @@ void WebService::Reply(const std::string& endpoint, const httplib::Request& requ
         if (fault.kind == WebFault::Half && !fault.text.empty())
             m_faults[endpoint].kind = fault.text == "anew" ? WebFault::Anew : WebFault::None;
     }
-    m_log.Line(
-        "web " + request.method + ' ' + LogText(request.path) + ' ' + std::to_string(size) +
-        " bytes: " + (fault.kind == WebFault::None ? std::to_string(answer.status) : names[fault.kind]));
-    emit Requested(QString::fromStdString(endpoint));
-
     // The server itself sends the part that is asked for, unless it is told that none is.
     const std::string condition = request.get_header_value("If-Range");
     const bool sendsAll = fault.kind == WebFault::Anew || answer.status != 200 ||
@@ -298,6 +293,11 @@ void WebService::Reply(const std::string& endpoint, const httplib::Request& requ
     if (sendsAll)
         const_cast<httplib::Request&>(request).ranges.clear();
     response.status = request.ranges.empty() ? answer.status : 206;
+    m_log.Line(
+        "web " + request.method + ' ' + LogText(request.path) + ' ' + std::to_string(size) +
+        " bytes: " + (fault.kind == WebFault::None ? std::to_string(response.status) : names[fault.kind]));
+    emit Requested(QString::fromStdString(endpoint));
+
     for (const auto& [name, value] : answer.headers)
         response.set_header(name, value);
     const auto type =

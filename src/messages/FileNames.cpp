@@ -63,7 +63,7 @@ QString FirstFree(const QDir& folder, const QString& name, Act act) {
             number == 1
                 ? name
                 : QStringLiteral("%1 (%2)%3").arg(name.left(suffix)).arg(number).arg(name.mid(suffix));
-        const QString path = folder.filePath(wanted);
+        QString path = folder.filePath(wanted);
         const QFileInfo there(path);
         if (there.exists() || there.isSymLink())
             continue;

@@ -46,6 +46,18 @@ const char* FailureKey(const FileFetchOutcome& outcome) {
     }
 }
 
+/// The path with places where a line may be broken: a long name must not make the window wide.
+QString Breakable(const QString& path) {
+    constexpr int piece = 24;
+    QString text;
+    for (int i = 0; i < path.size(); ++i) {
+        text += path[i];
+        if (!path[i].isHighSurrogate() && (i % piece == piece - 1 || path[i] == QDir::separator()))
+            text += QChar(0x200B);
+    }
+    return text;
+}
+
 } // namespace
 
 MessageFilePanel::MessageFilePanel(MessageFiles& files, QWidget* parent)
@@ -123,7 +135,7 @@ QString MessageFilePanel::StatusText(const MessageFile& file) const {
         break;
     }
     const QString& latest = file.copy.isEmpty() ? file.outcome.path : file.copy;
-    const QString saved = tr("message_file_saved").arg(QDir::toNativeSeparators(latest));
+    const QString saved = tr("message_file_saved").arg(Breakable(QDir::toNativeSeparators(latest)));
     return m_hasDigest ? saved : saved + QLatin1Char(' ') + tr("message_file_unverified");
 }
 

@@ -121,8 +121,8 @@ void MessageHistory::Write() const {
         messages.append(ToJson(message));
     QDir().mkpath(QFileInfo(m_file).path());
     QSaveFile file(m_file);
-    const bool written =
-        file.open(QIODevice::WriteOnly) && SystemSession::Native().KeepPrivate(file.fileName()) &&
-        file.write(QJsonDocument(messages).toJson(QJsonDocument::Compact)) >= 0 && file.commit();
+    const bool written = file.open(QIODevice::WriteOnly) &&
+                         file.write(QJsonDocument(messages).toJson(QJsonDocument::Compact)) >= 0 &&
+                         file.commit() && SystemSession::Native().KeepPrivate(m_file);
     LOG_IF(WARNING, !written) << "MessageHistory::Write " << LogText(file.errorString());
 }

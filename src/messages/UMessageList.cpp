@@ -73,7 +73,7 @@ void UMessageList::Fill() {
         item->setData(Qt::UserRole, message.id);
         m_list->insertItem(0, item);
     }
-    m_list->setCurrentRow(qMin(row, m_list->count() - 1));
+    m_list->setCurrentRow(qMin(qMax(row, 0), m_list->count() - 1));
 }
 
 void UMessageList::changeEvent(QEvent* event) {

@@ -1,7 +1,7 @@
 // Clock and wallpaper, from the message to what is asked of the system.
 #include "controllers/MessageController.h"
-#include "LogCapture.h"
 #include "platform/context/AppConfigData.h"
+#include "support/LogCapture.h"
 
 namespace {
 

@@ -109,6 +109,7 @@ TEST_F(MessageFilesTest, EveryFaultIsToldAndLeavesNothingBehind) {
         }
     }
     EXPECT_EQ(lines.str().find("error"), std::string::npos) << lines.str();
+    EXPECT_EQ(QString::fromStdString(lines.str()).count(QStringLiteral(": 206")), 1) << lines.str();
     EXPECT_EQ(Arrived(), (QStringList{QStringLiteral("a (2).pdf"), QStringLiteral("a (3).pdf"),
                                       QStringLiteral("a.pdf")}));
     interpreter.Add("web file ok");
