@@ -23,9 +23,8 @@ WebFault Fault(const std::string& text) {
         fault = {WebFault::Status, 0, std::stoi(name), {}};
     else
         Refuse("wants a fault instead of \"" + name + '"');
-    if (fault.kind == WebFault::Redirect || fault.kind == WebFault::Text)
-        fault.text = value;
-    else if (fault.kind == WebFault::Half && (value == "once" || value == "anew"))
+    const bool isOnce = fault.kind == WebFault::Half && (value == "once" || value == "anew");
+    if (fault.kind == WebFault::Redirect || fault.kind == WebFault::Text || isOnce)
         fault.text = value;
     else if (fault.kind == WebFault::Slow || fault.kind == WebFault::Drip)
         fault.seconds = Seconds(value, 1);

@@ -96,7 +96,7 @@ std::string WebStore::Offer(const QString& path, const std::string& name) {
     if (!file.open(QIODevice::ReadOnly) || !hash.addData(&file))
         return {};
     const std::lock_guard<std::mutex> lock(m_mutex);
-    const std::string key = std::to_string(++m_lastFile) + '-' + SafeName(name);
+    std::string key = std::to_string(++m_lastFile) + '-' + SafeName(name);
     QFile::remove(PathOf(key));
     if (!file.copy(PathOf(key)))
         return {};
