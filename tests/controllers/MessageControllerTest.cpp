@@ -75,6 +75,7 @@ TEST_F(Messages, TheWallpaperIsALocalFileOrTheDefaultOne) {
     MessageController controller(preferences);
     for (const auto& row : cases) {
         preferences.calls.clear();
+        preferences.usual = row.usual;
         controller.OnPipeDataReceived(PipeKey::WallpaperSetting, row.body);
         EXPECT_EQ(preferences.calls, row.calls) << row.body;
         EXPECT_NE(log.Text().find(row.line), std::string::npos) << row.body;
