@@ -20,7 +20,7 @@ struct MessageFile {
 };
 
 /// Fetches the files of messages on threads of its own, and keeps in the history where they are. What still
-/// runs at the end is given up after two seconds. GUI thread.
+/// runs at the end of the program is cancelled, and left behind if it does not end soon. GUI thread.
 class MessageFiles : public QObject {
     Q_OBJECT
 
