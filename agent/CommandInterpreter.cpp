@@ -2,6 +2,7 @@
 
 #include "EnrolmentCommands.h"
 #include "KeyText.h"
+#include "MessageCommands.h"
 #include "PopupCommands.h"
 #include "platform/application/EndTime.h"
 
@@ -90,6 +91,7 @@ CommandInterpreter::CommandInterpreter(AgentServer& server, AgentService& servic
       m_player(log) {
     AddSendingCommands();
     AddCommands(EnrolmentCommands(enrolment));
+    AddCommands(MessageCommands(server, log, web, m_folder));
     AddCommands(PopupCommands(m_popups, m_folder));
     AddExpectations();
     AddCommands(m_web.List());

@@ -17,6 +17,7 @@ namespace {
 constexpr char Host[] = "127.0.0.1";
 constexpr char StorePath[] = "/store";
 constexpr char FilesPath[] = "/files/";
+constexpr std::size_t HugeAnswer = std::size_t(2) * 1024 * 1024 * 1024;
 constexpr std::size_t LargeAnswer = 2 * 1024 * 1024;
 
 std::string BaseOf(const httplib::Request& request) {
@@ -113,6 +114,16 @@ QString WebService::Listen(int port) {
 
 std::string WebService::Address() const {
     return std::string("http://") + Host + ':' + std::to_string(m_port);
+}
+
+std::optional<std::pair<std::string, std::string>> WebService::Offer(const QString& path,
+                                                                     const std::string& name) {
+    const std::string key = m_store.Offer(path, name);
+    if (key.empty())
+        return std::nullopt;
+    return std::pair(Address() + FilesPath +
+                         QUrl::toPercentEncoding(QString::fromStdString(key)).toStdString(),
+                     m_store.DigestOf(key));
 }
 
 void WebService::SetFault(const std::string& endpoint, const WebFault& fault) {
@@ -252,7 +263,9 @@ WebService::Answer WebService::SendFile(const httplib::Request& request) {
     QFile file(m_store.PathOf(fileKey));
     if (!m_store.Has(fileKey) || !file.open(QIODevice::ReadOnly))
         return Refusal(404, "there is no such file");
-    return {200, file.readAll().toStdString(), {{"Content-Type", "application/octet-stream"}}};
+    return {200,
+            file.readAll().toStdString(),
+            {{"Content-Type", "application/octet-stream"}, {"ETag", '"' + m_store.DigestOf(fileKey) + '"'}}};
 }
 
 bool WebService::Wait(double seconds) {
@@ -263,19 +276,28 @@ bool WebService::Wait(double seconds) {
 
 void WebService::Reply(const std::string& endpoint, const httplib::Request& request, std::size_t size,
                        const Answer& answer, httplib::Response& response) {
-    static const char* const names[] = {"",      "slow",  "drip",     "status", "half",  "wrong",
-                                        "empty", "large", "redirect", "gone",   "answer"};
+    static const char* const names[] = {"",      "slow",     "drip", "status", "half", "wrong", "empty",
+                                        "large", "redirect", "gone", "answer", "anew", "huge"};
     WebFault fault;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         fault = m_faults[endpoint];
+        if (fault.kind == WebFault::Half && !fault.text.empty())
+            m_faults[endpoint].kind = fault.text == "anew" ? WebFault::Anew : WebFault::None;
     }
+    // The server itself sends the part that is asked for, unless it is told that none is.
+    const std::string condition = request.get_header_value("If-Range");
+    const bool sendsAll = fault.kind == WebFault::Anew || answer.status != 200 ||
+                          !answer.headers.count("ETag") ||
+                          (!condition.empty() && condition != answer.headers.at("ETag"));
+    if (sendsAll)
+        const_cast<httplib::Request&>(request).ranges.clear();
+    response.status = request.ranges.empty() ? answer.status : 206;
     m_log.Line(
         "web " + request.method + ' ' + LogText(request.path) + ' ' + std::to_string(size) +
-        " bytes: " + (fault.kind == WebFault::None ? std::to_string(answer.status) : names[fault.kind]));
+        " bytes: " + (fault.kind == WebFault::None ? std::to_string(response.status) : names[fault.kind]));
     emit Requested(QString::fromStdString(endpoint));
 
-    response.status = answer.status;
     for (const auto& [name, value] : answer.headers)
         response.set_header(name, value);
     const auto type =
@@ -294,8 +316,15 @@ void WebService::Reply(const std::string& endpoint, const httplib::Request& requ
     case WebFault::Slow:
         Wait(fault.seconds);
         [[fallthrough]];
+    case WebFault::Anew:
     case WebFault::None:
         return response.set_content(body, type);
+    case WebFault::Huge:
+        return response.set_content_provider(HugeAnswer, type,
+                                             [](std::size_t, std::size_t, httplib::DataSink& sink) {
+                                                 const std::string zeros(64 * 1024, '\0');
+                                                 return sink.write(zeros.data(), zeros.size());
+                                             });
     case WebFault::Drip:
         return provide(body.size(), 1, fault.seconds);
     case WebFault::Half:

@@ -7,8 +7,10 @@
 #include <condition_variable>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace httplib {
@@ -19,12 +21,13 @@ struct Response;
 
 /// What an endpoint does wrong.
 struct WebFault {
-    enum Kind { None, Slow, Drip, Status, Half, Wrong, Empty, Large, Redirect, Gone, Text };
+    enum Kind { None, Slow, Drip, Status, Half, Wrong, Empty, Large, Redirect, Gone, Text, Anew, Huge };
 
     Kind kind = None;
     double seconds = 0;    ///< Slow: before the answer; Drip: between its bytes
     int status = 0;        ///< Status: the answer's
-    std::string text = {}; ///< Redirect: the address, or empty for the one that was asked; Text: the answer
+    std::string text = {}; ///< Redirect: the address, or empty for the one that was asked; Text: the
+                           ///< answer; Half: "once", or "anew" to leave no rest for the next request
 };
 
 /// The organisation's web service, without TLS and on the own machine only, as docs/web-service.md describes
@@ -46,6 +49,8 @@ public:
     std::string Address() const;
 
     WebStore& Store() { return m_store; }
+    /// Takes a file of this machine in; returns its address and digest, or nothing when it cannot be read.
+    std::optional<std::pair<std::string, std::string>> Offer(const QString& path, const std::string& name);
     void SetFault(const std::string& endpoint, const WebFault& fault);
 
 signals:

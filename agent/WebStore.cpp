@@ -1,5 +1,6 @@
 #include "WebStore.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -88,6 +89,26 @@ bool WebStore::TakeNotice(const std::string& fileKey, const std::string& digest)
         return false;
     file->second.counts = true;
     return true;
+}
+
+std::string WebStore::Offer(const QString& path, const std::string& name) {
+    QFile file(path);
+    QCryptographicHash hash(QCryptographicHash::Md5);
+    if (!file.open(QIODevice::ReadOnly) || !hash.addData(&file))
+        return {};
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    std::string key = std::to_string(++m_lastFile) + '-' + SafeName(name);
+    QFile::remove(PathOf(key));
+    if (!file.copy(PathOf(key)))
+        return {};
+    m_files[key] = {{}, hash.result().toHex().toStdString(), false, true};
+    return key;
+}
+
+std::string WebStore::DigestOf(const std::string& fileKey) const {
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    const auto file = m_files.find(fileKey);
+    return file == m_files.end() ? std::string() : file->second.digest;
 }
 
 bool WebStore::Has(const std::string& fileKey) const {

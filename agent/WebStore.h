@@ -35,8 +35,12 @@ public:
     bool Take(const std::string& fileKey, const std::string& digest);
     /// The notice of it has come; false when it names another digest or there is no such file.
     bool TakeNotice(const std::string& fileKey, const std::string& digest);
+    /// Takes a file of this machine in, under a key that ends with `name`; empty when it cannot be read.
+    std::string Offer(const QString& path, const std::string& name);
     /// Whether the upload of the file is through.
     bool Has(const std::string& fileKey) const;
+    /// Of the file's bytes, as hexadecimal digits.
+    std::string DigestOf(const std::string& fileKey) const;
 
     /// Keeps a feedback document; returns the name of its file.
     std::string KeepFeedback(const std::string& document);

@@ -37,9 +37,9 @@ need_packages() {
 # Debian's CMake package of libzip wants the library's three tools beside it.
 BUILD_PACKAGES=(g++ cmake ninja-build ccache pkg-config qtbase5-dev libqt5svg5-dev qttools5-dev-tools
     libjsoncpp-dev libgoogle-glog-dev libzip-dev zipcmp zipmerge ziptool libcpp-httplib-dev
-    libxcb1-dev libxcb-composite0-dev libxcb-screensaver0-dev libxcb-shape0-dev libxcb-randr0-dev libxcb-res0-dev)
+    libglib2.0-dev libxcb1-dev libxcb-composite0-dev libxcb-screensaver0-dev libxcb-shape0-dev libxcb-randr0-dev libxcb-res0-dev)
 TEST_PACKAGES=(git python3 libgtest-dev libgmock-dev libbenchmark-dev libx11-dev libxext-dev libxtst-dev libice-dev libsm-dev)
-DESKTOP_PACKAGES=(xvfb openbox fonts-noto-core fonts-noto-cjk)
+DESKTOP_PACKAGES=(xvfb openbox gsettings-desktop-schemas fonts-noto-core fonts-noto-cjk)
 
 # build PRESET [TARGET...]: configures and builds a preset, both cores busy.
 build() {

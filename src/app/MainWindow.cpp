@@ -81,6 +81,7 @@ void MainWindow::InitConnect() {
         OpenFeedbackPage();
         Open();
     });
+    connect(m_tray, &UTrayIcon::MessagesRequested, this, &MainWindow::MessagesRequested);
     connect(m_exit, &UExitButton::Exited, this, &QWidget::close);
     connect(m_ui->launcher, &ULauncher::EnrolRequested, this, &MainWindow::OpenEnrolmentPage);
     connect(m_ui->feedbackPage, &UFeedback::Left, m_navigator, &Navigator::GoBack);
@@ -147,7 +148,7 @@ void MainWindow::OpenNetworkPage() {
 
 void MainWindow::OpenEnrolmentPage() {
     m_navigator->GoTo(PageIndex(PageId::Enrolment));
-    if (!WindowStack::Instance()->Highest())
+    if (!WindowStack::Instance()->IsLocked())
         Open();
 }
 

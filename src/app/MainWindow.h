@@ -35,6 +35,10 @@ public:
     /// Brings the window to the front, also out of the tray or the task bar.
     void Open();
 
+signals:
+    /// The user wants to read the administrator's messages again.
+    void MessagesRequested();
+
 protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;

@@ -26,7 +26,7 @@ Notifier::Notifier(QWidget& window, QSystemTrayIcon& tray)
 }
 
 void Notifier::TellWaiting() {
-    if (WindowStack::Instance()->Highest())
+    if (WindowStack::Instance()->IsLocked())
         return;
     m_later.stop();
     for (const Notice& notice : std::exchange(m_waiting, {}))
@@ -34,7 +34,7 @@ void Notifier::TellWaiting() {
 }
 
 void Notifier::Notify(NoticeKind kind, const QString& text, std::function<void()> action) {
-    if (WindowStack::Instance()->Highest()) {
+    if (WindowStack::Instance()->IsLocked()) {
         m_waiting.append({kind, text, std::move(action)});
         m_later.start();
         return;

@@ -9,6 +9,7 @@ UTrayIcon::UTrayIcon(QObject* parent)
     : QSystemTrayIcon(parent),
       m_state(m_menu.addAction(QString())),
       m_open(nullptr),
+      m_messages(nullptr),
       m_report(nullptr),
       m_tone(new TrayTone(this)) {
     m_menu.setObjectName(QStringLiteral("trayMenu"));
@@ -16,6 +17,8 @@ UTrayIcon::UTrayIcon(QObject* parent)
     m_menu.addSeparator();
     m_open =
         m_menu.addAction(ThemeIcon::Get(QStringLiteral("open")), QString(), this, &UTrayIcon::OpenRequested);
+    m_messages = m_menu.addAction(ThemeIcon::Get(QStringLiteral("message")), QString(), this,
+                                  &UTrayIcon::MessagesRequested);
     m_report = m_menu.addAction(ThemeIcon::Get(QStringLiteral("feedback")), QString(), this,
                                 &UTrayIcon::ReportRequested);
     m_menu.setDefaultAction(m_open);
@@ -50,6 +53,7 @@ void UTrayIcon::ShowLook() {
 void UTrayIcon::Retranslate() {
     ShowLook();
     m_open->setText(tr("Open"));
+    m_messages->setText(tr("messages_title"));
     m_report->setText(tr("Report a problem"));
 }
 

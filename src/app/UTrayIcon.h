@@ -26,6 +26,7 @@ public:
 
 signals:
     void OpenRequested();
+    void MessagesRequested();
     void ReportRequested();
 
 private:
@@ -36,6 +37,7 @@ private:
     QMenu m_menu;
     QAction* m_state;
     QAction* m_open;
+    QAction* m_messages;
     QAction* m_report;
     TrayTone* m_tone;
 };

@@ -168,12 +168,14 @@ int UserApp::Run(int argc, char** argv) {
     const PipeLinkGuard link;
 
     MainWindow window;
+    connect(&window, &MainWindow::MessagesRequested, &message, &MessageController::OpenMessages);
     application.setActivationWindow(&window, true);
     if (application.arguments().contains(QStringLiteral("-hide")))
         SystemWindows::Native().CreateHidden(window);
     else
         window.show();
     RyxPath::RemoveOldTempFiles();
+    message.ShowUnread();
     const int exitCode = Execute(application, screenLock);
     quitDeadline.Begin(exitCode);
     return exitCode;

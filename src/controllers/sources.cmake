@@ -2,7 +2,7 @@ target_sources(ryx_user_objects PRIVATE
     ${CMAKE_CURRENT_LIST_DIR}/ControlPanelThread.cpp
     ${CMAKE_CURRENT_LIST_DIR}/ControlPanelWatch.cpp
     ${CMAKE_CURRENT_LIST_DIR}/MainController.cpp
-    ${CMAKE_CURRENT_LIST_DIR}/MessageController.h
+    ${CMAKE_CURRENT_LIST_DIR}/MessageController.cpp
     ${CMAKE_CURRENT_LIST_DIR}/PopupBlocker.cpp
     ${CMAKE_CURRENT_LIST_DIR}/PopupRules.cpp
     ${CMAKE_CURRENT_LIST_DIR}/PopupsController.cpp

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <cstring>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -59,6 +60,14 @@ void ReadValue(const Json::Value& value, std::vector<Item>& field) {
     field = std::move(items);
 }
 
+/// For keys of which it counts whether they are there.
+template <class Value>
+void ReadValue(const Json::Value& value, std::optional<Value>& field) {
+    field.reset();
+    if (!value.isNull())
+        ReadValue(value, field.emplace());
+}
+
 Json::Value WriteValue(const std::string& field);
 Json::Value WriteValue(std::int32_t field);
 Json::Value WriteValue(std::int64_t field);
@@ -74,6 +83,11 @@ Json::Value WriteValue(const std::vector<Item>& field) {
     for (const Item& item : field)
         list.append(WriteValue(item));
     return list;
+}
+
+template <class Value>
+Json::Value WriteValue(const std::optional<Value>& field) {
+    return field ? WriteValue(*field) : Json::Value();
 }
 
 /// Fills a text from a value that must be there as a JSON string; anything else throws Json::LogicError.

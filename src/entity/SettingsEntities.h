@@ -51,18 +51,30 @@ struct VolumeProperty final : LevelProperty {};
 /// Screen brightness.
 struct BrightnessProperty final : LevelProperty {};
 
-/// One mode, -1 until the service tells another.
-struct ModeProperty : JsonEntity<ModeProperty, OperationCommandRequest> {
+/// The clock's hour format: 0 for 12 hours, anything else for 24.
+struct HourFormatSettingProperty final : JsonEntity<HourFormatSettingProperty, OperationCommandRequest> {
+    std::int32_t hourFormatSetting = -1;
+
+    static constexpr auto Keys = [](auto& self, const auto& key) {
+        // Two names are in use; where both are there, the second counts. Naming neither must not read as 0.
+        key.Read("mode", self.hourFormatSetting, [](const Json::Value& value, std::int32_t& field) {
+            field = value.isNull() ? -1 : value.asInt();
+        });
+        key.Read("hourFormatSetting", self.hourFormatSetting,
+                 [](const Json::Value& value, std::int32_t& field) {
+                     if (!value.isNull())
+                         field = value.asInt();
+                 });
+        key.Write("hourFormatSetting", self.hourFormatSetting);
+    };
+};
+
+/// The date and time setting, -1 until the service tells another.
+struct DateAndTimeSettingProperty final : JsonEntity<DateAndTimeSettingProperty, OperationCommandRequest> {
     std::int32_t mode = -1;
 
     RYX_KEYS(mode);
 };
-
-/// The clock's hour format.
-struct HourFormatSettingProperty final : ModeProperty {};
-
-/// The date and time setting.
-struct DateAndTimeSettingProperty final : ModeProperty {};
 
 /// The power button's lock.
 struct LockByButtonProperty final : JsonEntity<LockByButtonProperty, OperationCommandRequest> {

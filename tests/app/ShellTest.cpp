@@ -298,16 +298,19 @@ TEST_F(Shell, TrayOpensOnSingleClickAloneAndItsMenuOpensWhatIsAskedFor) {
     EXPECT_FALSE(Window().isMinimized());
 
     const QList<QAction*> actions = Find<QSystemTrayIcon>().contextMenu()->actions();
-    ASSERT_EQ(actions.size(), 4); // state, line, open, report
+    ASSERT_EQ(actions.size(), 5); // state, line, open, messages, report
     EXPECT_FALSE(actions[0]->isEnabled());
     ReceiveStatus(4);
     EXPECT_EQ(actions[0]->text(), QStringLiteral("Link: Not connected"));
-    for (const auto& [action, place] : {std::pair{actions[2], "enrolment"}, {actions[3], "feedbackPage"}}) {
+    for (const auto& [action, place] : {std::pair{actions[2], "enrolment"}, {actions[4], "feedbackPage"}}) {
         Window().hide();
         action->trigger();
         EXPECT_TRUE(Window().isVisible());
         EXPECT_EQ(Place(), place);
     }
+    QSignalSpy messages(&Window(), &MainWindow::MessagesRequested);
+    actions[3]->trigger();
+    EXPECT_EQ(messages.count(), 1);
 }
 
 TEST_F(Shell, NoticesTellWhatHappenedAsPlainText) {

@@ -262,6 +262,7 @@ Stage::Stage(bool enrolled) : m_controller(std::make_unique<MainController>()) {
 }
 
 Stage::~Stage() {
+    m_owner.reset();
     m_other.reset();
     m_window.reset();
     if (m_service) {
@@ -286,6 +287,8 @@ void Stage::Receive(int key, const std::string& body) {
 }
 
 QWidget& Stage::Subject() {
+    if (m_shown)
+        return *m_shown;
     if (m_other)
         return *m_other;
     if (QWidget* popup = QApplication::activePopupWidget())
@@ -295,7 +298,7 @@ QWidget& Stage::Subject() {
 
 QVector<Scene> AllScenes() {
     return PageScenes() + ShellScenes() + NoticeScenes() + EnrollPageScenes() + EnrollScenes() +
-           FeedbackScenes() + PopupScenes() + OtherScenes();
+           FeedbackScenes() + MessageScenes() + PopupScenes() + OtherScenes();
 }
 
 bool WaitFor(const std::function<bool()>& condition) {

@@ -35,6 +35,12 @@ public:
         return shown;
     }
 
+    /// Takes a picture of this window instead, which lives as long as `owner`.
+    void ShowWindow(QWidget& window, std::shared_ptr<void> owner) {
+        m_shown = &window;
+        m_owner = std::move(owner);
+    }
+
     /// The widget that the picture is of.
     QWidget& Subject();
 
@@ -44,6 +50,8 @@ private:
     std::unique_ptr<PopupHistory> m_popups;
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<QWidget> m_other;
+    std::shared_ptr<void> m_owner;
+    QWidget* m_shown = nullptr; // which it owns
 };
 
 /// Everything a person may see: each page, dialog, notice and state.
@@ -65,6 +73,9 @@ QVector<Scene> EnrollPageScenes();
 
 /// Those of the enrolment's parts.
 QVector<Scene> EnrollScenes();
+
+/// Those of the administrator's messages.
+QVector<Scene> MessageScenes();
 
 /// Lets layouts, deferred updates and queued events come to rest.
 void Settle();

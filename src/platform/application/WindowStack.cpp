@@ -10,6 +10,8 @@
 
 namespace {
 
+constexpr int MessageLevel = 2; // what lies above it are locks
+
 int Level(const QPointer<QWidget>& window) {
     return window ? window->property("TopLevel").toInt() : 0;
 }
@@ -39,6 +41,10 @@ QWidget* WindowStack::Highest() const {
     return shown == m_windows.end() ? nullptr : shown->data();
 }
 
+bool WindowStack::IsLocked() const {
+    return Level(Highest()) > MessageLevel;
+}
+
 QWidget* WindowStack::NextAbove(const QWidget* window) const {
     QWidget* above = nullptr;
     for (const QPointer<QWidget>& other : m_windows) {
@@ -63,10 +69,11 @@ void WindowStack::Restack() {
     }
 }
 
-// When a lock goes, the next one below it has the keyboard at once.
+// When a lock goes, the next one below it has the keyboard at once; but a message never takes it.
 void WindowStack::PassFocusOn() {
     QWidget* highest = std::exchange(m_focusIsFree, false) ? Highest() : nullptr;
-    if (highest && !highest->windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus))
+    if (highest && Level(highest) != MessageLevel &&
+        !highest->windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus))
         m_system.Activate(*highest);
 }
 

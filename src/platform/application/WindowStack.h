@@ -24,6 +24,9 @@ public:
     /// The registered window on screen with the highest level; null when none is there.
     QWidget* Highest() const;
 
+    /// Whether a lock is on screen, under which nothing else shows up.
+    bool IsLocked() const;
+
     /// The registered window on screen that is next above `window`; null when none is.
     QWidget* NextAbove(const QWidget* window) const;
 

@@ -85,6 +85,8 @@ std::vector<std::string> AppConfigData::Load(const std::string& path) {
     read("webProxy", webProxy);
     read("webCaFile", webCaFile);
     read("webHttpHosts", webHttpHosts);
+    read("messageFileFolder", messageFileFolder);
+    read("messageFileMegabytes", messageFileMegabytes);
     read("webSilenceSeconds", webSilenceSeconds);
     read("webCallSeconds", webCallSeconds);
     read("webTransferSeconds", webTransferSeconds);

@@ -21,24 +21,26 @@ public:
     const std::string& GetSentryDSN() const { return sentryDsn; }
 
     std::string sentryDsn;
-    std::string language;          ///< such as "en" or "zh_CN"; empty: the system's
-    std::string theme;             ///< "light" or "dark"; empty: light
-    std::string pipeName;          ///< empty: the product's own
-    std::string agentAccount;      ///< account that may serve the pipe beside the local system account
-    std::string logFolder;         ///< empty: the system-wide place
-    std::string dataFolder;        ///< of the user's own data; empty: the system's place for it
-    std::string organisation;      ///< display name of the managing organisation
-    std::string deviceName;        ///< empty: the host name
-    std::string webServer;         ///< base address of the organisation's web service; empty: none
-    std::string webProxy;          ///< "direct": none; empty: the system's
-    std::string webCaFile;         ///< trusted certificates in PEM form; empty: the system's
-    std::string webHttpHosts;      ///< hosts that may be talked to without TLS, separated by commas
-    int webSilenceSeconds = 30;    ///< of a transfer in which nothing moves
-    int webCallSeconds = 60;       ///< of a question and its answer
-    int webTransferSeconds = 3600; ///< of a file on its way
-    bool enrolled = false;         ///< the device was enrolled when the service last wrote the file
-    std::string schoolCode;        ///< of the organisation that the device is enrolled with
-    std::string adminAccount;      ///< the administrator's e-mail address
+    std::string language;            ///< such as "en" or "zh_CN"; empty: the system's
+    std::string theme;               ///< "light" or "dark"; empty: light
+    std::string pipeName;            ///< empty: the product's own
+    std::string agentAccount;        ///< account that may serve the pipe beside the local system account
+    std::string logFolder;           ///< empty: the system-wide place
+    std::string dataFolder;          ///< of the user's own data; empty: the system's place for it
+    std::string organisation;        ///< display name of the managing organisation
+    std::string deviceName;          ///< empty: the host name
+    std::string webServer;           ///< base address of the organisation's web service; empty: none
+    std::string webProxy;            ///< "direct": none; empty: the system's
+    std::string webCaFile;           ///< trusted certificates in PEM form; empty: the system's
+    std::string webHttpHosts;        ///< hosts that may be talked to without TLS, separated by commas
+    std::string messageFileFolder;   ///< of the administrator's files; empty: the user's downloads
+    int messageFileMegabytes = 1024; ///< the largest of them
+    int webSilenceSeconds = 30;      ///< of a transfer in which nothing moves
+    int webCallSeconds = 60;         ///< of a question and its answer
+    int webTransferSeconds = 3600;   ///< of a file on its way
+    bool enrolled = false;           ///< the device was enrolled when the service last wrote the file
+    std::string schoolCode;          ///< of the organisation that the device is enrolled with
+    std::string adminAccount;        ///< the administrator's e-mail address
     std::vector<std::string> deviceTags;
     std::vector<std::string> permissionList; ///< what the organisation was granted
     std::string userAgreementUrl;            ///< web pages; empty: there is no link

@@ -33,6 +33,10 @@ public:
     /// Lets nobody but this user and the administrators open the file; false when that fails.
     virtual bool KeepPrivate(const QString& file) const = 0;
 
+    /// Marks the file as one from the internet, so that the system warns of it before it runs; true where the
+    /// system knows no such mark.
+    virtual bool MarkFromInternet(const QString& file) const = 0;
+
     /// The native key of a shared-memory segment with the product's `name`.
     virtual QString SharedMemoryKey(const QString& name) const = 0;
 

@@ -3,6 +3,7 @@
 #include "platform/security/LogText.h"
 #include "platform/web/WebJson.h"
 
+#include <QRegularExpression>
 #include <QSslCertificate>
 #include <QSslConfiguration>
 #include <QSslSocket>
@@ -56,7 +57,7 @@ WebAnswer WebExchange::Wait() {
     if (!m_reply->isFinished())
         m_loop.exec();
     Read(); // what came with the end
-    if (!m_end && m_sink && IsSuccess() && m_received == 0)
+    if (!m_end && m_sink && IsSuccess() && !m_hasBegun && BeginPart())
         m_sink(0, {}, 0); // an empty answer takes back what an earlier attempt has brought
     if (m_end)
         throw WebException(*m_end);
@@ -106,11 +107,35 @@ void WebExchange::Read() {
             End(WebError::BadAnswer, "the answer is larger than 1 MiB");
         return;
     }
+    if (!m_hasBegun && !BeginPart())
+        return;
     const QVariant length = m_reply->header(QNetworkRequest::ContentLengthHeader);
-    const WebFailure failure = m_sink(m_received, bytes, length.isValid() ? length.toLongLong() : -1);
+    const WebFailure failure =
+        m_sink(m_received, bytes, length.isValid() ? m_begin + length.toLongLong() : -1);
     m_received += bytes.size();
     if (failure.error != WebError::None)
         End(failure.error, failure.words);
+}
+
+// The first bytes are those of a whole file, or of the part that was asked for.
+bool WebExchange::BeginPart() {
+    m_hasBegun = true;
+    if (Status() != 206)
+        return true;
+    static const QRegularExpression part(QStringLiteral("^bytes (\\d+)-(\\d+)/(\\d+)$"));
+    const auto range = part.match(QString::fromLatin1(m_reply->rawHeader("Content-Range")));
+    m_begin = m_received = m_request.resumeAt;
+    const bool isTheRest = m_begin > 0 && range.captured(1).toLongLong() == m_begin &&
+                           range.captured(2).toLongLong() + 1 == range.captured(3).toLongLong();
+    if (!isTheRest)
+        End(WebError::BadAnswer, "the server sends another part of the file than was asked for");
+    return isTheRest;
+}
+
+WebProgress WebExchange::Progress() const {
+    const QByteArray tag = m_reply->rawHeader("ETag");
+    // A weak one says that the file means the same, not that it is the same.
+    return {m_received, tag.startsWith('"') ? tag : m_reply->rawHeader("Last-Modified")};
 }
 
 void WebExchange::End(WebError error, const std::string& words, bool mayPass) {

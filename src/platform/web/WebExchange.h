@@ -22,6 +22,9 @@ public:
     /// Waits until it is over. The answer is one of status 2xx, or a redirect. Throws WebException.
     WebAnswer Wait();
 
+    /// How far the answer has come.
+    WebProgress Progress() const;
+
     /// Where the answer redirects to; empty when it does not.
     QUrl Redirect() const;
     /// Whether the redirect takes method and body along.
@@ -31,6 +34,7 @@ private:
     void CheckAuthority();
     void Look();
     void Read();
+    bool BeginPart();
     void End(WebError error, const std::string& words, bool mayPass = false);
     int Status() const;
     bool IsSuccess() const { return Status() >= 200 && Status() < 300; }
@@ -44,8 +48,10 @@ private:
     QDeadlineTimer m_silence;
     QEventLoop m_loop;
     QTimer m_look;
-    qint64 m_received = 0;
-    std::string m_distrust; // what is wrong with the server's certificate
+    qint64 m_received = 0;   // of the file, up to here
+    qint64 m_begin = 0;      // where in the file the answer begins
+    bool m_hasBegun = false; // the first bytes for the sink have come
+    std::string m_distrust;  // what is wrong with the server's certificate
     WebAnswer m_answer;
     std::unique_ptr<WebException> m_end; // why the program itself has ended it
 };

@@ -136,6 +136,16 @@ QSslConfiguration TlsConfiguration(const QString& caFile) {
     return tls;
 }
 
+/// The request for what is missing behind a break, provided that the file is still the same one.
+WebRequest Resumed(WebRequest request, const WebProgress& progress) {
+    if (progress.received > 0 && !progress.validator.isEmpty()) {
+        request.resumeAt = progress.received;
+        request.headers.emplace_back("Range", "bytes=" + std::to_string(progress.received) + '-');
+        request.headers.emplace_back("If-Range", progress.validator.toStdString());
+    }
+    return request;
+}
+
 } // namespace
 
 UploadSource::UploadSource(const std::wstring& path) : m_path(QString::fromStdWString(path)) {
@@ -160,23 +170,29 @@ WebSession::WebSession(const WebSettings& settings, const TaskControl& control)
 WebAnswer WebSession::Send(const WebRequest& request, const Sink& sink) {
     m_deadline = request.file || sink ? m_fileDeadline
                                       : std::min(m_fileDeadline, QDeadlineTimer(m_settings.callDeadline));
+    WebProgress progress;
     try {
-        return FollowRedirects(request, sink);
+        return FollowRedirects(request, sink, progress);
     } catch (const WebException& failure) {
         if (!failure.mayPass || !request.isRepeatable)
             throw;
     }
     // Not all at the same moment after a fault that has met many.
     Pause(m_settings.retryPause + m_settings.retryPause * QRandomGenerator::global()->bounded(1000) / 1000);
-    return FollowRedirects(request, sink);
+    return FollowRedirects(Resumed(request, progress), sink, progress);
 }
 
-WebAnswer WebSession::FollowRedirects(WebRequest request, const Sink& sink) {
+WebAnswer WebSession::FollowRedirects(WebRequest request, const Sink& sink, WebProgress& progress) {
     for (int redirects = 0;; ++redirects) {
         ThrowIfOver();
-        WebExchange exchange(Start(request), request, m_control,
-                             {m_settings.silence, m_deadline, !m_settings.caFile.isEmpty()}, sink);
-        WebAnswer answer = exchange.Wait();
+        WebExchange exchange(Start(request), request, m_control, {m_settings.silence, m_deadline, !m_settings.caFile.isEmpty()}, sink);
+        WebAnswer answer;
+        try {
+            answer = exchange.Wait();
+        } catch (const WebException&) {
+            progress = exchange.Progress();
+            throw;
+        }
         const QUrl target = exchange.Redirect();
         if (target.isEmpty())
             return answer;

@@ -51,6 +51,13 @@ struct WebRequest {
     const UploadSource* file = nullptr; ///< sent as the body instead, read from the disk
     WebFields formFields;               ///< when there are any, the body is a form with `file` behind them
     bool isRepeatable = true;           ///< a second one does no harm
+    qint64 resumeAt = 0;                ///< how many bytes of the answer are there already
+};
+
+/// How far an attempt has come that broke.
+struct WebProgress {
+    qint64 received = 0;
+    QByteArray validator; ///< by which the server knows its file again; empty: it gave none
 };
 
 /// A server's answer of status 2xx.
@@ -70,11 +77,12 @@ public:
     WebSession(const WebSettings& settings, const TaskControl& control);
 
     /// Asks, follows redirects, and asks once more when the failure may pass. The answer of status 2xx goes
-    /// to `sink`; without one it is returned, and refused above 1 MiB. Throws WebException.
+    /// to `sink`, which a second attempt goes on with where the first one broke, if the server can; without
+    /// one it is returned, and refused above 1 MiB. Throws WebException.
     WebAnswer Send(const WebRequest& request, const Sink& sink = {});
 
 private:
-    WebAnswer FollowRedirects(WebRequest request, const Sink& sink);
+    WebAnswer FollowRedirects(WebRequest request, const Sink& sink, WebProgress& progress);
     QNetworkReply* Start(const WebRequest& request);
     void Pause(std::chrono::milliseconds time);
     void ThrowIfOver() const;

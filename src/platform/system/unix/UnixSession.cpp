@@ -25,6 +25,8 @@ public:
         return ::chmod(file.toLocal8Bit().constData(), S_IRUSR | S_IWUSR) == 0;
     }
 
+    bool MarkFromInternet(const QString&) const override { return true; }
+
     /// Shared memory is keyed by a file here; the user's number keeps users apart.
     QString SharedMemoryKey(const QString& name) const override {
         return QDir::temp().filePath(QStringLiteral("%1-%2").arg(name).arg(::getuid()));

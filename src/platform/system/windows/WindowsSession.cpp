@@ -72,6 +72,19 @@ public:
                                 DACL_SECURITY_INFORMATION | PROTECTED_DACL_SECURITY_INFORMATION, list.get());
     }
 
+    bool MarkFromInternet(const QString& file) const override {
+        static const char mark[] = "[ZoneTransfer]\r\nZoneId=3\r\n";
+        const std::wstring stream = QDir::toNativeSeparators(file).toStdWString() + L":Zone.Identifier";
+        const HANDLE handle = CreateFileW(stream.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+                                          FILE_ATTRIBUTE_NORMAL, nullptr);
+        if (handle == INVALID_HANDLE_VALUE)
+            return false;
+        DWORD written = 0;
+        const bool marked = WriteFile(handle, mark, sizeof mark - 1, &written, nullptr) != 0;
+        CloseHandle(handle);
+        return marked;
+    }
+
     QString SharedMemoryKey(const QString& name) const override { return name; }
 
     /// The system frees a segment with the last handle to it, however its process ended.

@@ -1,0 +1,66 @@
+#include "messages/FileFetch.h"
+
+#include "messages/FileNames.h"
+#include "platform/system/SystemSession.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QSet>
+#include <QStorageInfo>
+#include <QUuid>
+#include <glog/logging.h>
+
+namespace {
+
+constexpr qint64 LargestPicture = 64 * 1024 * 1024; // in bytes
+constexpr qint64 MostPixels = 50 * 1000 * 1000;
+constexpr QSize ShownSize(1920, 1080);
+
+} // namespace
+
+FileFetchOutcome FetchFile(const FileFetchRequest& request, const TaskControl& control) {
+    const QDir folder(request.folder);
+    QDir().mkpath(request.folder);
+    const QString part =
+        folder.filePath(QStringLiteral(".%1.part").arg(QUuid::createUuid().toString(QUuid::WithoutBraces)));
+    std::int64_t size = -1;
+    const TaskControl watched{control.cancellation, [&](std::int64_t done, std::int64_t total) {
+                                  size = total;
+                                  control.Tell(done, total);
+                              }};
+    FileFetchOutcome outcome;
+    WebFailure failure;
+    if (!RyxWebClient::Instance()->DownloadFile(
+            {request.file.url, part.toStdWString(), request.maxBytes, request.file.md5}, watched, &failure)) {
+        outcome.error = failure.error;
+        const qint64 room = QStorageInfo(folder).bytesAvailable();
+        outcome.diskFull = failure.error == WebError::File && room >= 0 && room < qMax<qint64>(size, 4096);
+        return outcome;
+    }
+    LOG_IF(WARNING, !SystemSession::Native().MarkFromInternet(part))
+        << "FetchFile could not mark a file as one from the internet";
+    outcome.path = FileNames::Place(part, FileNames::Safe(QString::fromStdString(request.file.name)));
+    if (outcome.path.isEmpty()) {
+        QFile::remove(part);
+        outcome.error = WebError::File;
+    } else {
+        outcome.picture = ReadPicture(outcome.path);
+    }
+    return outcome;
+}
+
+QImage ReadPicture(const QString& path) {
+    static const QSet<QByteArray> formats{"png", "jpeg", "gif", "bmp", "webp"};
+    QImageReader reader(path);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    if (QFileInfo(path).size() > LargestPicture || !reader.canRead() || !formats.contains(reader.format()))
+        return {};
+    const QSize size = reader.size();
+    if (size.isEmpty() || qint64(size.width()) * size.height() > MostPixels)
+        return {};
+    if (size.width() > ShownSize.width() || size.height() > ShownSize.height())
+        reader.setScaledSize(size.scaled(ShownSize, Qt::KeepAspectRatio));
+    return reader.read();
+}

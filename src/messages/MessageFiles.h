@@ -1,0 +1,63 @@
+#pragma once
+
+#include "messages/FileFetch.h"
+#include "messages/MessageHistory.h"
+
+#include <QHash>
+#include <QThreadPool>
+#include <QTimer>
+#include <atomic>
+#include <memory>
+
+/// A message's file on its way to this device.
+struct MessageFile {
+    enum class Stage { Absent, Loading, Saved, Failed };
+
+    Stage stage = Stage::Absent;
+    int percent = 0; ///< while loading
+    FileFetchOutcome outcome;
+    QString copy; ///< path of the copy that was made last
+};
+
+/// Fetches the files of messages on threads of its own, and keeps in the history where they are. What still
+/// runs at the end of the program is cancelled, and left behind if it does not end soon. GUI thread.
+class MessageFiles : public QObject {
+    Q_OBJECT
+
+public:
+    /// Files go to `folder`; none may be larger than `maxBytes`.
+    MessageFiles(MessageHistory& history, const QString& folder, std::int64_t maxBytes);
+    ~MessageFiles() override;
+
+    /// Brings the message's file, unless it is there or on its way.
+    void Fetch(int id);
+    void Cancel(int id);
+    /// The message is no more; its file stays if it is there.
+    void Forget(int id);
+    MessageFile Of(int id) const;
+
+    /// Copies the saved file to `target` without overwriting anything.
+    void CopyTo(int id, const QString& target);
+
+signals:
+    void Changed(int id);
+
+private:
+    struct Job {
+        MessageFile file;
+        Cancellation cancellation;
+        std::shared_ptr<std::atomic_int> percent = std::make_shared<std::atomic_int>(0);
+    };
+
+    template <class Work, class Then>
+    void Run(Work work, Then then);
+    void Start(int id, const Message& message);
+    void LookAtProgress();
+
+    MessageHistory& m_history;
+    QString m_folder;
+    std::int64_t m_maxBytes;
+    std::unique_ptr<QThreadPool> m_pool;
+    QHash<int, Job> m_jobs;
+    QTimer m_progress{this};
+};

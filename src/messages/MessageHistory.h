@@ -1,0 +1,41 @@
+#pragma once
+
+#include "messages/Message.h"
+
+#include <QObject>
+#include <vector>
+
+/// The last messages, also those of earlier starts: kept in one file that is the user's own. GUI thread.
+class MessageHistory : public QObject {
+    Q_OBJECT
+
+public:
+    static constexpr int Most = 50;
+
+    /// Reads `file`, if it is there. What it holds that cannot be read is left out.
+    explicit MessageHistory(const QString& file);
+
+    /// The oldest first.
+    const std::vector<Message>& Messages() const { return m_messages; }
+    /// Null when it is not there any more; valid until the next change.
+    const Message* Find(int id) const;
+
+    /// Takes a message, which may cost the oldest its place; returns its id.
+    int Add(Message message);
+    void Remove(int id);
+    void SetState(int id, MessageState state);
+    void SetSavedAs(int id, const QString& path);
+
+signals:
+    void Changed();
+
+private:
+    template <class Change>
+    void Update(int id, Change change);
+    void Read();
+    void Write() const;
+
+    QString m_file;
+    std::vector<Message> m_messages;
+    int m_lastId = 0;
+};

@@ -1,0 +1,20 @@
+#include "MessageWindow.h"
+
+#include "ColorArea.h"
+
+#include <QColor>
+
+void MessageWindow::PressOk() const {
+    WaitUntil([this] {
+        const auto window = m_desktop.Find(Title);
+        if (!window)
+            return false;
+        QRect foot = window->place;
+        foot.setTop(foot.bottom() - 90);
+        const ColorArea button = FindColor(m_desktop.Screenshot(foot), QColor("#2456D6"));
+        if (button.pixels < 1000)
+            return false;
+        m_desktop.Click(foot.topLeft() + button.bounds.center());
+        return true;
+    });
+}
