@@ -126,7 +126,7 @@ TEST_F(MessageEndToEndTest, FilesArriveWholeUnderHarmlessNames) {
     product.Tell("web file huge");
     product.Tell("file " + File("plan") + " huge.pdf");
     EXPECT_TRUE(product.WaitForLog("the file is larger than 1073741824 bytes"));
-    EXPECT_EQ(Arrived().size(), 2);
+    EXPECT_TRUE(Arrived().filter(QStringLiteral("huge")).isEmpty());
 }
 
 TEST_F(MessageEndToEndTest, ClockAndWallpaperFollowTheService) {
