@@ -69,14 +69,13 @@ TEST_F(MessageEndToEndTest, WhatIsTypedGoesWhereItWentBefore) {
     screen->Type("2c3");
     screen->Press("Tab");
     screen->Type("admin@lakeside.example");
-    message.PressOk();
-    ASSERT_TRUE(message.WaitUntilGone());
-    screen->Activate(screen->Find(MainPage::Title).value());
     screen->Press("Tab");
     screen->Type("hall 3");
     for (int stop = 0; stop < 4; ++stop)
         screen->Press("Tab");
     screen->Press("space");
+    message.PressOk();
+    ASSERT_TRUE(message.WaitUntilGone());
     enrolPage.PressButton();
     EXPECT_TRUE(product.AgentSays("\"code\" : \"a1b2c3\""));
 }
@@ -126,7 +125,7 @@ TEST_F(MessageEndToEndTest, FilesArriveWholeUnderHarmlessNames) {
     product.Tell("web file huge");
     product.Tell("file " + File("plan") + " huge.pdf");
     EXPECT_TRUE(product.WaitForLog("the file is larger than 1073741824 bytes"));
-    EXPECT_EQ(Arrived().size(), 2);
+    EXPECT_TRUE(Arrived().filter(QStringLiteral("huge")).isEmpty());
 }
 
 TEST_F(MessageEndToEndTest, ClockAndWallpaperFollowTheService) {

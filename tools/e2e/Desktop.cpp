@@ -59,15 +59,7 @@ void Desktop::StartScreen() {
 void Desktop::StartWindowManager() {
     m_windowManager.Start({"openbox", "--sm-disable"}, {"DISPLAY=" + m_name});
     const auto manages = [this] {
-        unsigned char* value = nullptr;
-        ::Atom type = 0;
-        int format = 0;
-        unsigned long count = 0, left = 0;
-        XGetWindowProperty(m_display, DefaultRootWindow(m_display), AtomOf("_NET_SUPPORTING_WM_CHECK"), 0, 1,
-                           False, XA_WINDOW, &type, &format, &count, &left, &value);
-        if (value)
-            XFree(value);
-        return count == 1;
+        return Property(DefaultRootWindow(m_display), "_NET_SUPPORTING_WM_CHECK", XA_WINDOW).has_value();
     };
     if (!WaitUntil([&] { return manages() || !m_windowManager.IsRunning(); }) || !manages())
         throw std::runtime_error("openbox did not start");
@@ -90,6 +82,22 @@ QSize Desktop::Size() const {
 
 unsigned long Desktop::AtomOf(const char* name) const {
     return XInternAtom(m_display, name, False);
+}
+
+std::optional<unsigned long> Desktop::Property(unsigned long window, const char* name,
+                                               unsigned long type) const {
+    unsigned char* value = nullptr;
+    ::Atom found = 0;
+    int format = 0;
+    unsigned long count = 0, left = 0;
+    XGetWindowProperty(m_display, window, AtomOf(name), 0, 1, False, type, &found, &format, &count, &left,
+                       &value);
+    std::optional<unsigned long> number;
+    if (value && count == 1)
+        number = *reinterpret_cast<unsigned long*>(value);
+    if (value)
+        XFree(value);
+    return number;
 }
 
 std::string Desktop::Title(unsigned long window) const {
@@ -166,10 +174,8 @@ std::string Desktop::TopmostTitle() const {
 
 bool Desktop::WaitForFocus(const std::string& title) const {
     const auto hasFocus = [&] {
-        ::Window focused = 0;
-        int ignored = 0;
-        XGetInputFocus(m_display, &focused, &ignored);
-        return focused > PointerRoot && Title(focused) == title;
+        const auto active = Property(DefaultRootWindow(m_display), "_NET_ACTIVE_WINDOW", XA_WINDOW);
+        return active && Title(*active) == title;
     };
     return WaitUntil([&] {
         return hasFocus() && !WaitUntil([&] { return !hasFocus(); }, std::chrono::milliseconds(300));

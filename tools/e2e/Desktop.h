@@ -82,6 +82,8 @@ private:
     void StartWindowManager();
     void AddWindows(unsigned long parent, std::vector<DesktopWindow>& windows) const;
     std::string Title(unsigned long window) const;
+    /// A window's property of one number.
+    std::optional<unsigned long> Property(unsigned long window, const char* name, unsigned long type) const;
     unsigned long AtomOf(const char* name) const;
     void SendToRoot(unsigned long window, const char* message, long first, long second, long third);
     void Key(const std::string& name, bool down);

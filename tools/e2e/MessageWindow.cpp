@@ -10,7 +10,7 @@ void MessageWindow::PressOk() const {
         if (!window)
             return false;
         QRect foot = window->place;
-        foot.setTop(foot.bottom() - 90);
+        foot.setTop(foot.bottom() - 80); // the text above it may have a frame of that colour
         const ColorArea button = FindColor(m_desktop.Screenshot(foot), QColor("#2456D6"));
         if (button.pixels < 1000)
             return false;
