@@ -197,14 +197,14 @@ void PopupHistory::Read() {
     }
     const QJsonObject json = QJsonDocument::fromJson(file.readAll()).object();
     file.close();
-    const QJsonValue records = json[QStringLiteral("records")];
-    if (!records.isArray()) {
+    if (!json[QStringLiteral("records")].isArray()) {
         SetAside();
         return;
     }
     m_day = QDate::fromString(json[QStringLiteral("day")].toString(), Qt::ISODate);
     m_count = json[QStringLiteral("count")].toInt();
-    for (const QJsonValue& value : records.toArray()) {
+    const QJsonArray records = json[QStringLiteral("records")].toArray();
+    for (const QJsonValue& value : records) {
         const PopupRecord record = FromJson(value.toObject());
         if (record.last.isValid() && record.times > 0 && m_records.size() < MostRecords)
             m_records.push_back(record);

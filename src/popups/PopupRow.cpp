@@ -35,7 +35,7 @@ PopupRow::PopupRow(QWidget* parent)
     m_time->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
 
     auto* grid = new QGridLayout(this);
-    grid->setContentsMargins(16, 12, 8, 12);
+    grid->setContentsMargins(16, 12, 16, 12);
     grid->setHorizontalSpacing(14);
     grid->setVerticalSpacing(2);
     grid->setColumnStretch(1, 1);
@@ -70,6 +70,10 @@ void PopupRow::ShowIcon() {
 
 void PopupRow::SetWaiting(bool waiting) {
     m_wrong->SetLoading(waiting);
+}
+
+QWidget* PopupRow::TabStop() const {
+    return m_wrong;
 }
 
 void PopupRow::ShowRecord() {

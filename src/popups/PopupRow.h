@@ -25,6 +25,9 @@ public:
     /// Shows that the service was asked to drop the rule.
     void SetWaiting(bool waiting);
 
+    /// What of it gets the keyboard.
+    QWidget* TabStop() const;
+
 signals:
     /// The user says that the window should not have been closed.
     void ReportedWrong(const PopupsTypeParams& rule);

@@ -171,6 +171,7 @@ void UBodyFeaturesPopups::ShowRecords() {
     const auto count = static_cast<int>(records.size());
     const bool isKnown = CanAsk() && m_history->State() == PopupHistory::Blocking::On;
     QHash<QString, PopupRow*> gone = std::exchange(m_rows, {});
+    QWidget* before = m_choose;
     // Each record keeps its row: a press that was meant for one must not hit another that has moved there.
     for (int i = 0; i < qMin(count, m_mostRows); ++i) {
         const PopupRecord& record = records[static_cast<std::size_t>(i)];
@@ -190,7 +191,9 @@ void UBodyFeaturesPopups::ShowRecords() {
                   m_history->Today());
         row->SetWaiting(m_answerTimer.isActive() && identity == m_doubted);
         m_rows.insert(key, row);
+        setTabOrder(std::exchange(before, row->TabStop()), row->TabStop());
     }
+    setTabOrder(before, m_older);
     qDeleteAll(gone);
     m_empty->setVisible(records.empty());
     m_older->setVisible(count > m_mostRows);

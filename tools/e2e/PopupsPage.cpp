@@ -7,6 +7,7 @@ namespace {
 
 const QColor Accent("#2456D6");
 const QColor Warning("#8A5A00");
+constexpr QPoint MenuEntry(120, 178);
 constexpr int FilledPixels = 5500; // of the button and the frame around a small window
 constexpr int SignPixels = 30;
 
@@ -23,8 +24,10 @@ int PopupsPage::Pixels(const QColor& color) const {
 }
 
 bool PopupsPage::OpenPicker() {
-    m_desktop.Press("Tab");
-    m_desktop.Press("space");
+    const auto window = m_desktop.Find(MainPage::Title);
+    if (!window)
+        return false;
+    m_desktop.Click(window->place.topLeft() + MenuEntry); // another window may have the focus
     for (int stop = 0; stop < 6; ++stop) // past the menu's other entries and the switch
         m_desktop.Press("Tab");
     m_desktop.Press("space");

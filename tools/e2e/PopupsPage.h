@@ -9,7 +9,7 @@ class PopupsPage {
 public:
     explicit PopupsPage(const RunningProduct& product) : m_desktop(product.Screen()) {}
 
-    /// Opens the page from the menu, which has the focus, and from it the picker.
+    /// Opens the page from the menu, and from it the picker.
     bool OpenPicker();
     bool IsPicking() const;
     /// Waits for the button that reports what was picked, and presses it.
