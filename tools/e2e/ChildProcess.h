@@ -10,6 +10,11 @@
 template <class Condition>
 bool WaitUntil(Condition condition, std::chrono::milliseconds timeout = std::chrono::seconds(20));
 
+/// Polls until `condition` holds and goes on holding for a while. What has just come may not have the
+/// keyboard and the mouse yet: a window manager gives the focus elsewhere first.
+template <class Condition>
+bool WaitUntilSettled(Condition condition);
+
 /// A program that was started here, with pipes to its standard input and output. It leads a process
 /// group of its own that ends with this object and, if this process dies, with it.
 class ChildProcess {
@@ -58,4 +63,11 @@ bool WaitUntil(Condition condition, std::chrono::milliseconds timeout) {
         SleepBetweenPolls();
     }
     return true;
+}
+
+template <class Condition>
+bool WaitUntilSettled(Condition condition) {
+    return WaitUntil([&] {
+        return condition() && !WaitUntil([&] { return !condition(); }, std::chrono::milliseconds(300));
+    });
 }

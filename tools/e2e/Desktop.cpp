@@ -172,16 +172,6 @@ std::string Desktop::TopmostTitle() const {
     return title;
 }
 
-bool Desktop::WaitForFocus(const std::string& title) const {
-    const auto hasFocus = [&] {
-        const auto active = Property(DefaultRootWindow(m_display), "_NET_ACTIVE_WINDOW", XA_WINDOW);
-        return active && Title(*active) == title;
-    };
-    return WaitUntil([&] {
-        return hasFocus() && !WaitUntil([&] { return !hasFocus(); }, std::chrono::milliseconds(300));
-    });
-}
-
 bool Desktop::WaitForWindow(const std::string& title) const {
     return WaitUntil([&] { return Find(title).has_value(); });
 }

@@ -40,9 +40,6 @@ public:
     std::optional<DesktopWindow> Find(const std::string& title) const;
     /// Title of the topmost window that is viewable and lies on the screen; empty when there is none.
     std::string TopmostTitle() const;
-    /// Waits until the window with this title has the focus and keeps it: a window manager may give it
-    /// elsewhere first when a window has come or gone.
-    bool WaitForFocus(const std::string& title) const;
     bool WaitForWindow(const std::string& title) const;
     bool WaitForNoWindow(const std::string& title) const;
 

@@ -21,15 +21,17 @@ QImage LockScreen::Picture() const {
     return picture;
 }
 
+bool LockScreen::ShowsMessage() const {
+    const QImage picture = Picture();
+    return FindColor(picture, Accent).pixels > 3000 && FindColor(picture, Surface).pixels < 100;
+}
+
 bool LockScreen::Wait() const {
-    return WaitUntil([this] {
-        const QImage picture = Picture();
-        return FindColor(picture, Accent).pixels > 3000 && FindColor(picture, Surface).pixels < 100;
-    });
+    return WaitUntil([this] { return ShowsMessage(); });
 }
 
 bool LockScreen::OpenPasswordBoxes() {
-    if (!Wait() || !m_product.WaitForInput(Title))
+    if (!WaitUntilSettled([this] { return ShowsMessage(); }))
         return false;
     m_desktop.Click(FindColor(Picture(), Accent).bounds.center());
     return WaitUntil([this] { return FocusedBox().has_value(); });

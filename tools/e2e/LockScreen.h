@@ -13,7 +13,7 @@ public:
     /// The look is the same in every theme.
     static const QColor Background, Accent, Surface;
 
-    explicit LockScreen(const RunningProduct& product) : m_product(product), m_desktop(product.Screen()) {}
+    explicit LockScreen(const RunningProduct& product) : m_desktop(product.Screen()) {}
 
     /// Waits until the lock covers the whole screen, above everything else, and shows its message.
     bool Wait() const;
@@ -28,7 +28,7 @@ public:
 
 private:
     QImage Picture() const;
+    bool ShowsMessage() const;
 
-    const RunningProduct& m_product;
     Desktop& m_desktop;
 };

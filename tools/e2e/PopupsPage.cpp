@@ -28,7 +28,7 @@ bool PopupsPage::OpenPicker() {
     if (!window)
         return false;
     m_desktop.Click(window->place.topLeft() + MenuEntry); // another window may have the focus
-    for (int stop = 0; stop < 6; ++stop) // past the menu's other entries and the switch
+    for (int stop = 0; stop < 6; ++stop)                  // past the menu's other entries and the switch
         m_desktop.Press("Tab");
     m_desktop.Press("space");
     return WaitUntil([this] { return IsPicking(); });

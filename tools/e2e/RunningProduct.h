@@ -90,10 +90,6 @@ public:
     bool PlugIn(const std::string& folder);
     void PlugOut();
     bool HasLauncher() const { return !m_launcher.empty(); }
-    /// Waits until keys and presses go to this cover. On X11 a cover that is there holds both.
-    bool WaitForInput(const std::string& cover) const {
-        return !HasLauncher() || m_desktop.WaitForFocus(cover);
-    }
 
     ChildProcess& Agent() { return m_agent; }
     ChildProcess& FrontEnd() { return m_frontEnd; }

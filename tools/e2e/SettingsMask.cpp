@@ -22,21 +22,18 @@ QImage SettingsMask::Picture() const {
 }
 
 bool SettingsMask::Wait() {
-    return IsThere() && m_product.WaitForInput(Title) && IsThere();
+    return WaitUntilSettled([this] { return TakesDigits(); });
 }
 
-bool SettingsMask::IsThere() {
-    return WaitUntil([this] {
-        const QImage picture = Picture();
-        const ColorArea usable = FindColor(picture, LockScreen::Surface);
-        const QRect boxes = FindColor(picture, Border).bounds;
-        if (usable.pixels < UsablePixels || boxes.isEmpty())
-            return false;
-        m_boxes =
-            boxes.adjusted(-KeyDistanceX, 0, KeyDistanceX, 0); // the one with the focus has another border
-        m_one = usable.bounds.topRight() + QPoint(-KeyDistanceX * 5 / 2, KeyDistanceY / 2);
-        return HasFocusInBoxes(picture);
-    });
+bool SettingsMask::TakesDigits() {
+    const QImage picture = Picture();
+    const ColorArea usable = FindColor(picture, LockScreen::Surface);
+    const QRect boxes = FindColor(picture, Border).bounds;
+    if (usable.pixels < UsablePixels || boxes.isEmpty())
+        return false;
+    m_boxes = boxes.adjusted(-KeyDistanceX, 0, KeyDistanceX, 0); // the one with the focus has another border
+    m_one = usable.bounds.topRight() + QPoint(-KeyDistanceX * 5 / 2, KeyDistanceY / 2);
+    return HasFocusInBoxes(picture);
 }
 
 bool SettingsMask::HasFocusInBoxes(const QImage& picture) const {

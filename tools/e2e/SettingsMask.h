@@ -9,7 +9,7 @@ class SettingsMask {
 public:
     static constexpr char Title[] = "Settings are locked";
 
-    explicit SettingsMask(const RunningProduct& product) : m_product(product), m_desktop(product.Screen()) {}
+    explicit SettingsMask(const RunningProduct& product) : m_desktop(product.Screen()) {}
 
     /// Waits until the mask covers the whole screen, above everything else, and takes digits.
     bool Wait();
@@ -25,11 +25,10 @@ public:
     void Touch(int digit);
 
 private:
-    bool IsThere();
+    bool TakesDigits();
     QImage Picture() const;
     bool HasFocusInBoxes(const QImage& picture) const;
 
-    const RunningProduct& m_product;
     Desktop& m_desktop;
     QRect m_boxes;
     QPoint m_one; // the key of the digit 1
