@@ -185,7 +185,8 @@ WebAnswer WebSession::Send(const WebRequest& request, const Sink& sink) {
 WebAnswer WebSession::FollowRedirects(WebRequest request, const Sink& sink, WebProgress& progress) {
     for (int redirects = 0;; ++redirects) {
         ThrowIfOver();
-        WebExchange exchange(Start(request), request, m_control, {m_settings.silence, m_deadline, !m_settings.caFile.isEmpty()}, sink);
+        WebExchange exchange(Start(request), request, m_control,
+                             {m_settings.silence, m_deadline, !m_settings.caFile.isEmpty()}, sink);
         WebAnswer answer;
         try {
             answer = exchange.Wait();
