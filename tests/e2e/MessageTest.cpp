@@ -60,6 +60,8 @@ TEST_F(MessageEndToEndTest, MessagesComeOneAfterTheOtherAndAreWithdrawn) {
 }
 
 TEST_F(MessageEndToEndTest, WhatIsTypedGoesWhereItWentBefore) {
+    if (product.HasLauncher())
+        GTEST_SKIP() << "the window manager gives each new window of Wine's the focus";
     product.ConfigureUnenrolled();
     ASSERT_TRUE(product.StartBoth() && enrolPage.Open());
     product.Tell("bodies on");

@@ -5,7 +5,7 @@
 
 namespace {
 
-const QRect Place(300, 300, 300, 200);
+const QRect Place(800, 250, 300, 200); // above the main window, beside its menu
 
 class PopupPickerEndToEndTest : public EndToEndTest {
 protected:
@@ -58,8 +58,9 @@ TEST_F(PopupPickerEndToEndTest, LooksThroughFullScreensRefusesItsOwnWindowsAndSu
     ASSERT_TRUE(StartBoth());
     foreign.emplace_back(product, "Offer of the day", Place);
     ASSERT_TRUE(screen->WaitForWindow("Offer of the day"));
+    const QRect window = screen->Find(MainPage::Title)->place;
     ASSERT_TRUE(page.OpenPicker());
-    screen->Click(QPoint(200, 600));
+    screen->Click(window.topLeft() + QPoint(100, 450));
     EXPECT_TRUE(Comes(&PopupsPage::Refuses));
     screen->Click(Place.center());
     EXPECT_TRUE(Comes(&PopupsPage::OffersReport));

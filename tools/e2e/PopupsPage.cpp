@@ -8,9 +8,7 @@ namespace {
 const QColor Accent("#2456D6");
 const QColor Warning("#8A5A00");
 constexpr QPoint MenuEntry(120, 178);
-constexpr QSize Panel(470, 170); // what its sentence and its buttons take
-constexpr int PanelMargin = 30;
-constexpr int FilledPixels = 2000; // of the button
+constexpr int FilledPixels = 5500; // of the button and the frame around a small window
 constexpr int SignPixels = 30;
 
 } // namespace
@@ -22,10 +20,7 @@ bool PopupsPage::IsPicking() const {
 }
 
 int PopupsPage::Pixels(const QColor& color) const {
-    QRect panel(QPoint(), Panel);
-    panel.moveCenter(QRect(QPoint(), m_desktop.Size()).center());
-    panel.moveBottom(m_desktop.Size().height() - PanelMargin);
-    return FindColor(m_desktop.Screenshot(panel), color).pixels;
+    return FindColor(m_desktop.Screenshot(), color).pixels;
 }
 
 bool PopupsPage::OpenPicker() {
@@ -40,11 +35,11 @@ bool PopupsPage::OpenPicker() {
 }
 
 bool PopupsPage::OffersReport() const {
-    return IsPicking() && Pixels(Accent) > FilledPixels;
+    return IsPicking() && Pixels(Accent) > FilledPixels && !Refuses();
 }
 
 bool PopupsPage::Refuses() const {
-    return IsPicking() && Pixels(Warning) > SignPixels && !OffersReport();
+    return IsPicking() && Pixels(Warning) > SignPixels;
 }
 
 bool PopupsPage::Report() {
