@@ -43,8 +43,8 @@ private:
     QString m_configured;
 };
 
-/// A body that can be sent once only. Qt would send any other again by itself when the server hangs up
-/// without an answer.
+/// A body that can be sent once only. Qt would send any other request, one without a body too, again by itself
+/// when the connection breaks, even behind half an answer, and append the second answer to it.
 class SinglePassBody : public QIODevice {
 public:
     explicit SinglePassBody(const QByteArray& bytes) : m_bytes(bytes) { open(QIODevice::ReadOnly); }
@@ -66,6 +66,13 @@ protected:
 private:
     QByteArray m_bytes;
     int m_read = 0;
+};
+
+/// The same for a body on the disk.
+class SinglePassFile : public QFile {
+public:
+    using QFile::QFile;
+    bool reset() override { return false; }
 };
 
 /// What belongs to the connection, to its proxy and to the length of the body is the client's own to say.
@@ -97,7 +104,7 @@ QByteArray Quoted(const QByteArray& name) {
 }
 
 std::unique_ptr<QFile> Open(const UploadSource& source) {
-    auto file = std::make_unique<QFile>(source.Path());
+    auto file = std::make_unique<SinglePassFile>(source.Path());
     if (!file->open(QIODevice::ReadOnly))
         throw WebException(WebError::File, LogText(file->errorString()));
     return file;
@@ -233,9 +240,6 @@ QNetworkReply* WebSession::Start(const WebRequest& request) {
         form.release()->setParent(reply);
         return reply;
     }
-    if (!request.file && request.isRepeatable)
-        return m_manager.sendCustomRequest(head, request.method, request.body);
-
     std::unique_ptr<QIODevice> body;
     if (request.file) {
         if (!head.header(QNetworkRequest::ContentTypeHeader).isValid())
