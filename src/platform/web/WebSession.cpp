@@ -21,18 +21,17 @@ namespace {
 constexpr int MostRedirects = 5;
 constexpr unsigned long PauseSliceMs = 20;
 
-/// The configured proxy, or else the system's choice; none for the own machine in the latter case.
+/// The configured proxy, or else the system's choice; none for the own machine, which plain http must not leave.
 class Proxies : public QNetworkProxyFactory {
 public:
     explicit Proxies(const QString& configured) : m_configured(configured) {}
 
     QList<QNetworkProxy> queryProxy(const QNetworkProxyQuery& query) override {
-        if (m_configured.isEmpty())
-            return IsLoopback(query.peerHostName()) ? QList{QNetworkProxy(QNetworkProxy::NoProxy)}
-                                                    : systemProxyForQuery(query);
-        const QUrl url(m_configured);
-        if (m_configured == QLatin1String(WebSettings::NoProxy))
+        if (m_configured == QLatin1String(WebSettings::NoProxy) || IsLoopback(query.peerHostName()))
             return {QNetworkProxy(QNetworkProxy::NoProxy)};
+        if (m_configured.isEmpty())
+            return systemProxyForQuery(query);
+        const QUrl url(m_configured);
         const bool isSocks = url.scheme() == QLatin1String("socks5");
         return {QNetworkProxy(isSocks ? QNetworkProxy::Socks5Proxy : QNetworkProxy::HttpProxy, url.host(),
                               static_cast<quint16>(url.port(isSocks ? 1080 : 8080)), url.userName(),
