@@ -262,7 +262,7 @@
     </message>
     <message>
         <source>web_error_not_configured</source>
-        <translation>لا يعرف هذا الجهاز عنوان الخدمة.</translation>
+        <translation>لم يُضبط الاتصال بالخدمة على هذا الجهاز ضبطًا صحيحًا.</translation>
     </message>
     <message>
         <source>web_error_not_trusted</source>

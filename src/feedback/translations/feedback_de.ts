@@ -262,7 +262,7 @@
     </message>
     <message>
         <source>web_error_not_configured</source>
-        <translation>Auf diesem Gerät ist keine Adresse des Dienstes hinterlegt.</translation>
+        <translation>Die Verbindung zum Dienst ist auf diesem Gerät nicht richtig eingerichtet.</translation>
     </message>
     <message>
         <source>web_error_not_trusted</source>

@@ -262,7 +262,7 @@
     </message>
     <message>
         <source>web_error_not_configured</source>
-        <translation>This device has no address of the service.</translation>
+        <translation>The connection to the service is not set up correctly on this device.</translation>
     </message>
     <message>
         <source>web_error_not_trusted</source>

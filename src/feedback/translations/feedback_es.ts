@@ -262,7 +262,7 @@
     </message>
     <message>
         <source>web_error_not_configured</source>
-        <translation>Este dispositivo no tiene la dirección del servicio.</translation>
+        <translation>La conexión con el servicio no está bien configurada en este dispositivo.</translation>
     </message>
     <message>
         <source>web_error_not_trusted</source>

@@ -262,7 +262,7 @@
     </message>
     <message>
         <source>web_error_not_configured</source>
-        <translation>Cet appareil ne connaît pas l’adresse du service.</translation>
+        <translation>La connexion au service n’est pas configurée correctement sur cet appareil.</translation>
     </message>
     <message>
         <source>web_error_not_trusted</source>

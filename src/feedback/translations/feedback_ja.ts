@@ -262,7 +262,7 @@
     </message>
     <message>
         <source>web_error_not_configured</source>
-        <translation>このデバイスにはサービスのアドレスが設定されていません。</translation>
+        <translation>このデバイスでは、サービスへの接続が正しく設定されていません。</translation>
     </message>
     <message>
         <source>web_error_not_trusted</source>

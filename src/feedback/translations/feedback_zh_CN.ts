@@ -262,7 +262,7 @@
     </message>
     <message>
         <source>web_error_not_configured</source>
-        <translation>此设备未配置服务地址。</translation>
+        <translation>此设备未正确配置与服务的连接。</translation>
     </message>
     <message>
         <source>web_error_not_trusted</source>

@@ -65,6 +65,9 @@ QUrl Endpoint(const WebSettings& settings, const char* path, const WebFields& qu
     while (base.endsWith(QLatin1Char('/')))
         base.chop(1);
     url.setPath(base + QLatin1String(path));
+    if (!settings.Allow(url))
+        throw WebException(WebError::NotConfigured, "the configured address of the service is not allowed: " +
+                                                        LogText(url.toString(QUrl::RemoveUserInfo)));
     AddQuery(url, query);
     return url;
 }

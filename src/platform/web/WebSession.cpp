@@ -136,7 +136,7 @@ QSslConfiguration TlsConfiguration(const QString& caFile) {
     if (!caFile.isEmpty()) {
         const QList<QSslCertificate> trusted = QSslCertificate::fromPath(caFile);
         if (trusted.isEmpty())
-            throw WebException(WebError::NotTrusted, "there is no certificate in " + LogText(caFile));
+            throw WebException(WebError::NotConfigured, "there is no certificate in " + LogText(caFile));
         tls.setCaCertificates(trusted);
     }
     return tls;
