@@ -43,6 +43,7 @@ LogReportOutcome LogReport::Run(const Cancellation& cancellation, const Progress
     }
     if (!m_outcome.ok) {
         m_outcome.error = cancellation.IsCancelled() ? WebError::Cancelled : m_failure.error;
+        m_outcome.said = QString::fromStdString(m_failure.said);
         m_outcome.logLine =
             FailureLines[static_cast<size_t>(m_outcome.step)] + LogText(m_outcome.message) + exception;
     }

@@ -31,6 +31,7 @@
 namespace {
 
 constexpr int ProgressMs = 100;
+constexpr int MostSaid = 300; // characters of the service's
 constexpr int EndMs = 1500; // of the two seconds that the program has for its end
 
 // Whatever was proposed: after a move the source would delete its file.
@@ -240,8 +241,8 @@ void UFeedback::ShowOutcome() {
 QString UFeedback::FailureText() const {
     QString text =
         m_outcome.step == ReportStep::Pack ? tr("feedback_failed_pack") : WebErrorText(m_outcome.error);
-    if (m_outcome.error == WebError::Refused && !m_outcome.message.isEmpty())
-        text += QLatin1Char('\n') + tr("feedback_service_says").arg(m_outcome.message);
+    if (!m_outcome.said.isEmpty())
+        text += QLatin1Char('\n') + tr("feedback_service_says").arg(m_outcome.said.left(MostSaid));
     return text + QLatin1Char('\n') + tr("feedback_failed_advice");
 }
 

@@ -129,7 +129,8 @@ protected:
     void EndReport(bool ok, ReportStep step = ReportStep::Send, WebError error = WebError::Unreachable) {
         const int before = told.size();
         const QString message = step == ReportStep::Send ? QStringLiteral("words") : QString();
-        script.next = {ok, message, step, ok ? WebError::None : error, {}};
+        const QString said = error == WebError::Refused ? QString(301, QLatin1Char('w')) : QString();
+        script.next = {ok, message, step, ok ? WebError::None : error, said, {}};
         script.reportsGoOn.release();
         EXPECT_TRUE(Comes([&] { return told.size() > before; }));
     }
@@ -262,9 +263,10 @@ TEST_F(Feedback, AFailedReportIsRetriedAsItIsAndASentOneIsGone) {
     EndReport(false, ReportStep::Upload, WebError::TimedOut);
     EXPECT_EQ(script.last.description, QStringLiteral("It freezes"));
     EXPECT_NE(AlertSays().find("did not answer in time"), std::string::npos) << AlertSays();
+    const std::string refused = "The service says: " + std::string(300, 'w') + '\n';
     for (const auto& [step, error, words] :
          {std::tuple{ReportStep::Pack, WebError::None, "could not be packed"},
-          {ReportStep::Send, WebError::Refused, "The service says: words"},
+          {ReportStep::Send, WebError::Refused, refused.c_str()},
           {ReportStep::Address, WebError::None, "Something went wrong"}}) {
         Answer("Try again");
         EndReport(false, step, error);

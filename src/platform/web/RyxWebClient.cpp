@@ -22,7 +22,7 @@ WebFailure Carry(const char* function, WebFailure* told, const Act& act) {
             throw WebException(WebError::Internal, "called on the GUI thread");
         act();
     } catch (const WebException& exception) {
-        failure = {exception.error, exception.what()};
+        failure = {exception.error, exception.what(), exception.said};
     } catch (const Json::Exception& exception) { // a value of the wrong type
         failure = {WebError::BadAnswer, exception.what()};
     }
@@ -146,9 +146,10 @@ private:
             RefuseAnswer("the file store tells no code");
         const auto response = ReadAnswer<NubraUploadResponse>(answer);
         if (response.code != 0)
-            throw WebException(WebError::Refused, "the file store answered with code " +
-                                                      std::to_string(response.code) + ": " +
-                                                      LogText(response.message));
+            throw WebException(WebError::Refused,
+                               "the file store answered with code " + std::to_string(response.code) + ": " +
+                                   LogText(response.message),
+                               false, response.message);
         if (response.data.fileSize != 0 && response.data.fileSize != m_file.Size())
             RefuseAnswer("the file store has another number of bytes");
         return response.data;
@@ -309,7 +310,8 @@ bool RyxWebClient::Feedback(const std::string& json, std::string& message, const
         message = answer->get("message", "").asString();
         if (code.asInt() != 0)
             throw WebException(WebError::Refused,
-                               message.empty() ? "code " + std::to_string(code.asInt()) : message);
+                               message.empty() ? "code " + std::to_string(code.asInt()) : message, false,
+                               message);
     });
     if (ended.error != WebError::None)
         message = ended.words;

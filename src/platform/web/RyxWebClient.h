@@ -23,10 +23,11 @@ enum class WebError {
     Internal,      ///< the program's own fault, such as a call on the GUI thread
 };
 
-/// How a call failed. The words are English, for the log, and may contain what the service said.
+/// How a call failed.
 struct WebFailure {
     WebError error = WebError::None;
-    std::string words;
+    std::string words;     ///< English, for the log; may contain what the service said
+    std::string said = {}; ///< by the service itself, for the user; empty when it said nothing
 };
 
 /// What a file is to the file store.

@@ -15,7 +15,7 @@ constexpr qint64 LargestAnswer = 1024 * 1024;
 constexpr qint64 ReadBuffer = 256 * 1024;
 
 std::string SecondsText(std::chrono::milliseconds time) {
-    return std::to_string(static_cast<double>(time.count()) / 1000) + " s";
+    return QString::number(static_cast<double>(time.count()) / 1000).toStdString() + " s";
 }
 
 } // namespace
@@ -154,9 +154,11 @@ void WebExchange::ThrowFailure() {
     if (const int status = Status(); status != 0 && !IsSuccess()) {
         const std::optional<Json::Value> answer = ReadObject(m_answer.body);
         const Json::Value message = answer ? answer->get("message", Json::Value()) : Json::Value();
-        const std::string said = message.isString() ? ": " + LogText(message.asString()) : std::string();
-        throw WebException(WebError::Refused, "the server answered " + std::to_string(status) + said,
-                           status >= 500);
+        const std::string said = message.isString() ? message.asString() : std::string();
+        throw WebException(WebError::Refused,
+                           "the server answered " + std::to_string(status) + (said.empty() ? "" : ": ") +
+                               LogText(said),
+                           status >= 500, said);
     }
     if (m_reply->error() == QNetworkReply::SslHandshakeFailedError)
         throw WebException(WebError::NotTrusted,
