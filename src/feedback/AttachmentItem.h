@@ -56,6 +56,7 @@ private:
     void OnUploaded();
     void SetState(State state);
     void Retranslate();
+    void ShowStatus();
 
     const AttachmentFile m_file;
     const FeedbackBackend& m_backend;
