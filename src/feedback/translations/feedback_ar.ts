@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>feedback_failed_notice</source>
-        <translation>لم يُرسل تقريرك. تجد السبب في صفحة «تقرير السجل».</translation>
+        <translation>لم يُرسل تقريرك. تجد السبب في صفحة «الملاحظات».</translation>
     </message>
     <message>
         <source>feedback_failed_pack</source>
@@ -210,7 +210,7 @@
     </message>
     <message>
         <source>log_files_content</source>
-        <translation>إلى جانب ما تكتبه وترفقه، يحمل التقرير اسم هذا الجهاز (%1) وملفات سجلاته: العدد %2، والحجم الإجمالي %3.</translation>
+        <translation>إلى جانب ما تكتبه وترفقه، يحمل التقرير اسم هذا الجهاز (%1) وهويته لدى الخدمة وملفات سجلاته: العدد %2، والحجم الإجمالي %3.</translation>
     </message>
     <message>
         <source>log_files_end_only</source>

@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>feedback_failed_notice</source>
-        <translation>Ihr Bericht wurde nicht gesendet. Den Grund nennt die Seite „Protokollbericht“.</translation>
+        <translation>Ihr Bericht wurde nicht gesendet. Den Grund nennt die Seite „Feedback“.</translation>
     </message>
     <message>
         <source>feedback_failed_pack</source>
@@ -178,7 +178,7 @@
     </message>
     <message>
         <source>feedback_without_send</source>
-        <translation>Ohne senden</translation>
+        <translation>Trotzdem senden</translation>
     </message>
     <message>
         <source>feedback_without_title</source>
@@ -210,7 +210,7 @@
     </message>
     <message>
         <source>log_files_content</source>
-        <translation>Neben dem, was Sie schreiben und anhängen, enthält der Bericht den Namen dieses Geräts (%1) und seine Protokolldateien: %2, insgesamt %3.</translation>
+        <translation>Neben dem, was Sie schreiben und anhängen, enthält der Bericht den Namen dieses Geräts (%1), seine Kennung beim Dienst und seine Protokolldateien: %2, insgesamt %3.</translation>
     </message>
     <message>
         <source>log_files_end_only</source>

@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>feedback_failed_notice</source>
-        <translation>Your report was not sent. The page “Log Report” tells why.</translation>
+        <translation>Your report was not sent. The page “Feedback” tells why.</translation>
     </message>
     <message>
         <source>feedback_failed_pack</source>
@@ -210,7 +210,7 @@
     </message>
     <message>
         <source>log_files_content</source>
-        <translation>Besides what you write and attach, the report carries the name of this device (%1) and its log files: %2, %3 in all.</translation>
+        <translation>Besides what you write and attach, the report carries the name of this device (%1), what identifies it to the service, and its log files: %2, %3 in all.</translation>
     </message>
     <message>
         <source>log_files_end_only</source>

@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>feedback_failed_notice</source>
-        <translation>Su informe no se ha enviado. La página «Informe de registro» indica el motivo.</translation>
+        <translation>Su informe no se ha enviado. La página «Comentarios» indica el motivo.</translation>
     </message>
     <message>
         <source>feedback_failed_pack</source>
@@ -210,7 +210,7 @@
     </message>
     <message>
         <source>log_files_content</source>
-        <translation>Además de lo que escribe y adjunta, el informe lleva el nombre de este dispositivo (%1) y sus archivos de registro: %2, %3 en total.</translation>
+        <translation>Además de lo que escribe y adjunta, el informe lleva el nombre de este dispositivo (%1), su identificación ante el servicio y sus archivos de registro: %2, %3 en total.</translation>
     </message>
     <message>
         <source>log_files_end_only</source>

@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>feedback_failed_notice</source>
-        <translation>Votre rapport n’a pas été envoyé. La page « Rapport de journal » dit pourquoi.</translation>
+        <translation>Votre rapport n’a pas été envoyé. La page « Commentaires » dit pourquoi.</translation>
     </message>
     <message>
         <source>feedback_failed_pack</source>
@@ -210,7 +210,7 @@
     </message>
     <message>
         <source>log_files_content</source>
-        <translation>En plus de votre texte et de vos pièces jointes, le rapport contient le nom de cet appareil (%1) et ses fichiers journaux : %2, soit %3 au total.</translation>
+        <translation>En plus de votre texte et de vos pièces jointes, le rapport contient le nom de cet appareil (%1), son identité auprès du service et ses fichiers journaux : %2, soit %3 au total.</translation>
     </message>
     <message>
         <source>log_files_end_only</source>

@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>feedback_failed_notice</source>
-        <translation>レポートを送信できませんでした。理由は「ログレポート」ページに表示されます。</translation>
+        <translation>レポートを送信できませんでした。理由は「フィードバック」ページに表示されます。</translation>
     </message>
     <message>
         <source>feedback_failed_pack</source>
@@ -210,7 +210,7 @@
     </message>
     <message>
         <source>log_files_content</source>
-        <translation>入力した内容と添付ファイルのほかに、このデバイスの名前（%1）とログファイル（%2 個、合計 %3）が送信されます。</translation>
+        <translation>入力した内容と添付ファイルのほかに、このデバイスの名前（%1）、サービスがデバイスを識別する情報、ログファイル（%2 個、合計 %3）が送信されます。</translation>
     </message>
     <message>
         <source>log_files_end_only</source>

@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>feedback_failed_notice</source>
-        <translation>报告未发送。原因请见“日志报告”页面。</translation>
+        <translation>报告未发送。原因请见“反馈”页面。</translation>
     </message>
     <message>
         <source>feedback_failed_pack</source>
@@ -210,7 +210,7 @@
     </message>
     <message>
         <source>log_files_content</source>
-        <translation>除您填写和添加的内容外，报告还包含此设备的名称（%1）及其日志文件：共 %2 个，%3。</translation>
+        <translation>除您填写和添加的内容外，报告还包含此设备的名称（%1）、用于向服务标识此设备的信息及其日志文件：共 %2 个，%3。</translation>
     </message>
     <message>
         <source>log_files_end_only</source>
