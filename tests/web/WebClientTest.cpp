@@ -152,6 +152,8 @@ TEST_F(Web, EveryFaultEndsInItsTimeAndLeavesNothingBehind) {
         EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 2) << name;
         Tell("web " + endpoint + " ok");
     }
+    QDir(store.path()).removeRecursively();
+    EXPECT_EQ(Report().words, "the server answered 500: the file could not be kept");
 }
 
 TEST_F(Web, CancelWrongFilesAndTheGuiThreadEndACallAtOnce) {
