@@ -4,6 +4,7 @@
 #include "platform/web/WebJson.h"
 
 #include <QRegularExpression>
+#include <QSet>
 #include <QSslCertificate>
 #include <QSslConfiguration>
 #include <QSslSocket>
@@ -61,7 +62,7 @@ WebAnswer WebExchange::Wait() {
         m_sink(0, {}, 0); // an empty answer takes back what an earlier attempt has brought
     if (m_end)
         throw WebException(*m_end);
-    if (m_reply->error() != QNetworkReply::NoError || (!IsSuccess() && Redirect().isEmpty()))
+    if (Redirect().isEmpty() && (m_reply->error() != QNetworkReply::NoError || !IsSuccess()))
         ThrowFailure();
     if (m_request.file && m_request.file->HasChanged())
         throw WebException(WebError::File, "the file changed while it was sent");
@@ -70,8 +71,11 @@ WebAnswer WebExchange::Wait() {
 }
 
 QUrl WebExchange::Redirect() const {
-    const QUrl target = m_reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
-    return target.isEmpty() ? QUrl() : m_request.url.resolved(target);
+    // Qt tells none when it could not send the body again.
+    static const QSet<int> redirects{301, 302, 303, 307, 308};
+    const QUrl target = QUrl::fromEncoded(m_reply->rawHeader("Location"));
+    const bool isRedirect = redirects.contains(Status()) && target.isValid() && !target.isEmpty();
+    return isRedirect ? m_request.url.resolved(target) : QUrl();
 }
 
 // Of all that Qt builds on, OpenSSL alone leaves the system's authorities out when it is given others. The

@@ -21,7 +21,8 @@ namespace {
 constexpr int MostRedirects = 5;
 constexpr unsigned long PauseSliceMs = 20;
 
-/// The configured proxy, or else the system's choice; none for the own machine, which plain http must not leave.
+/// The configured proxy, or else the system's choice; none for the own machine, which plain http must not
+/// leave.
 class Proxies : public QNetworkProxyFactory {
 public:
     explicit Proxies(const QString& configured) : m_configured(configured) {}
@@ -42,8 +43,8 @@ private:
     QString m_configured;
 };
 
-/// A body that can be sent once only. Qt would send any other request, one without a body too, again by itself
-/// when the connection breaks, even behind half an answer, and append the second answer to it.
+/// A body that can be sent once only. Qt would send any other request, one without a body too, again by
+/// itself when the connection breaks, even behind half an answer, and append the second answer to it.
 class SinglePassBody : public QIODevice {
 public:
     explicit SinglePassBody(const QByteArray& bytes) : m_bytes(bytes) { open(QIODevice::ReadOnly); }
@@ -191,7 +192,8 @@ WebAnswer WebSession::Send(const WebRequest& request, const Sink& sink) {
 WebAnswer WebSession::FollowRedirects(WebRequest request, const Sink& sink, WebProgress& progress) {
     for (int redirects = 0;; ++redirects) {
         ThrowIfOver();
-        WebExchange exchange(Start(request), request, m_control, {m_settings.silence, m_deadline, !m_settings.caFile.isEmpty()}, sink);
+        WebExchange exchange(Start(request), request, m_control,
+                             {m_settings.silence, m_deadline, !m_settings.caFile.isEmpty()}, sink);
         WebAnswer answer;
         try {
             answer = exchange.Wait();
