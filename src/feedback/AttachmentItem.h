@@ -2,7 +2,7 @@
 
 #include "feedback/AttachmentFile.h"
 #include "feedback/FeedbackBackend.h"
-#include "feedback/Workers.h"
+#include "platform/files/Workers.h"
 
 #include <QFrame>
 #include <QFutureWatcher>
