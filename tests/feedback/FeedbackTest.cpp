@@ -209,14 +209,15 @@ TEST_F(Feedback, WhatIsNotAttachedIsToldWithItsReason) {
             << row.words << "\n"
             << refusals.text().toStdString();
     }
-    Strip().AddFiles({Make(QStringLiteral("largest"), AttachmentFile::MostBytes)});
+    Strip().AddFiles({Make(QStringLiteral("largest"), AttachmentFile::MostBytes), folder.path()});
     QStringList many;
     for (int i = 0; i < 15; ++i)
         many.append(QStringLiteral("file%1").arg(i));
     Attach(many);
     EXPECT_TRUE(
         Comes([&] { return refusals.text().contains(QStringLiteral("there are 9 attachments already.")); }));
-    EXPECT_TRUE(refusals.text().contains(QStringLiteral("4 more were not attached either.")));
+    EXPECT_TRUE(refusals.text().contains(QStringLiteral("it is a folder."))) << "of the files before";
+    EXPECT_TRUE(refusals.text().contains(QStringLiteral("file12, file13, and file14.")));
     EXPECT_EQ(Strip().Paths().size(), 9);
     EXPECT_EQ(script.most, 2) << "two are uploaded at a time";
     EXPECT_TRUE(Comes([&] { return Strip().findChildren<AttachmentItem*>().last()->y() > 200; }))
@@ -276,6 +277,11 @@ TEST_F(Feedback, AFailedReportIsRetriedAsItIsAndASentOneIsGone) {
     auto* dialog = page->findChild<QFileDialog*>();
     emit dialog->fileSelected(Make(QStringLiteral("saved.zip")));
     delete dialog;
+    EXPECT_FALSE(CanSubmit()) << "while it is saved";
+    page->hide();
+    EXPECT_TRUE(Comes([&] { return CanSubmit(); }));
+    EXPECT_FALSE(Alert()) << "over another page";
+    page->show();
     EXPECT_TRUE(Comes([&] { return AlertSays().find("saved.zip") != std::string::npos; }));
     Answer("Replace");
     EXPECT_TRUE(Comes([&] { return window.notices.size() == 1; }));

@@ -24,16 +24,16 @@
         <translation>هذا مجلد.</translation>
     </message>
     <message>
-        <source>attachment_more_refused</source>
-        <translation>ولم تُرفق %1 ملفات أخرى أيضًا.</translation>
-    </message>
-    <message>
         <source>attachment_note</source>
         <translation>حتى %1 ملفات، كل منها حتى %2. يمكنك أيضًا إفلات الملفات هنا أو لصق صورة.</translation>
     </message>
     <message>
         <source>attachment_refused</source>
         <translation>لم يُرفق «%1»: %2</translation>
+    </message>
+    <message>
+        <source>attachment_refused_together</source>
+        <translation>لم تُرفق: %1. والسبب لكل منها: %2</translation>
     </message>
     <message>
         <source>attachment_remove</source>

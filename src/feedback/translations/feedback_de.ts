@@ -24,16 +24,16 @@
         <translation>Das ist ein Ordner.</translation>
     </message>
     <message>
-        <source>attachment_more_refused</source>
-        <translation>%1 weitere wurden ebenfalls nicht angehängt.</translation>
-    </message>
-    <message>
         <source>attachment_note</source>
         <translation>Bis zu %1 Dateien von je %2. Dateien lassen sich auch hierher ziehen, Bilder einfügen.</translation>
     </message>
     <message>
         <source>attachment_refused</source>
         <translation>„%1“ wurde nicht angehängt: %2</translation>
+    </message>
+    <message>
+        <source>attachment_refused_together</source>
+        <translation>Nicht angehängt: %1. Der Grund jeweils: %2</translation>
     </message>
     <message>
         <source>attachment_remove</source>

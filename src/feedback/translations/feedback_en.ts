@@ -24,16 +24,16 @@
         <translation>it is a folder.</translation>
     </message>
     <message>
-        <source>attachment_more_refused</source>
-        <translation>%1 more were not attached either.</translation>
-    </message>
-    <message>
         <source>attachment_note</source>
         <translation>Up to %1 files of %2 each. You can also drop files here or paste a picture.</translation>
     </message>
     <message>
         <source>attachment_refused</source>
         <translation>“%1” was not attached: %2</translation>
+    </message>
+    <message>
+        <source>attachment_refused_together</source>
+        <translation>Not attached: %1. The reason for each: %2</translation>
     </message>
     <message>
         <source>attachment_remove</source>

@@ -24,16 +24,16 @@
         <translation>es una carpeta.</translation>
     </message>
     <message>
-        <source>attachment_more_refused</source>
-        <translation>Tampoco se han adjuntado otros %1.</translation>
-    </message>
-    <message>
         <source>attachment_note</source>
         <translation>Hasta %1 archivos de %2 cada uno. También puede soltar archivos aquí o pegar una imagen.</translation>
     </message>
     <message>
         <source>attachment_refused</source>
         <translation>«%1» no se ha adjuntado: %2</translation>
+    </message>
+    <message>
+        <source>attachment_refused_together</source>
+        <translation>No se han adjuntado: %1. El motivo de cada uno: %2</translation>
     </message>
     <message>
         <source>attachment_remove</source>

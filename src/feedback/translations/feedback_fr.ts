@@ -24,16 +24,16 @@
         <translation>c’est un dossier.</translation>
     </message>
     <message>
-        <source>attachment_more_refused</source>
-        <translation>%1 autres n’ont pas été joints non plus.</translation>
-    </message>
-    <message>
         <source>attachment_note</source>
         <translation>Jusqu’à %1 fichiers de %2 chacun. Vous pouvez aussi déposer des fichiers ici ou coller une image.</translation>
     </message>
     <message>
         <source>attachment_refused</source>
         <translation>« %1 » n’a pas été joint : %2</translation>
+    </message>
+    <message>
+        <source>attachment_refused_together</source>
+        <translation>Non joints : %1. La raison pour chacun : %2</translation>
     </message>
     <message>
         <source>attachment_remove</source>

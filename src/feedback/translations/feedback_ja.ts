@@ -24,16 +24,16 @@
         <translation>フォルダーです。</translation>
     </message>
     <message>
-        <source>attachment_more_refused</source>
-        <translation>ほか %1 個も添付されませんでした。</translation>
-    </message>
-    <message>
         <source>attachment_note</source>
         <translation>最大 %1 個、1 個あたり %2 まで。ここにファイルをドロップしたり、画像を貼り付けたりすることもできます。</translation>
     </message>
     <message>
         <source>attachment_refused</source>
         <translation>「%1」は添付されませんでした：%2</translation>
+    </message>
+    <message>
+        <source>attachment_refused_together</source>
+        <translation>添付されなかったファイル：%1。それぞれの理由：%2</translation>
     </message>
     <message>
         <source>attachment_remove</source>

@@ -24,16 +24,16 @@
         <translation>这是一个文件夹。</translation>
     </message>
     <message>
-        <source>attachment_more_refused</source>
-        <translation>另有 %1 个文件未添加。</translation>
-    </message>
-    <message>
         <source>attachment_note</source>
         <translation>最多 %1 个文件，每个不超过 %2。也可以将文件拖到此处或粘贴图片。</translation>
     </message>
     <message>
         <source>attachment_refused</source>
         <translation>未添加“%1”：%2</translation>
+    </message>
+    <message>
+        <source>attachment_refused_together</source>
+        <translation>未添加：%1。原因均为：%2</translation>
     </message>
     <message>
         <source>attachment_remove</source>
