@@ -3,17 +3,12 @@
 #include "WebService.h"
 
 #include <algorithm>
-#include <map>
 #include <regex>
 
 namespace {
 
 WebFault Fault(const std::string& text) {
-    static const std::map<std::string, WebFault::Kind> kinds = {
-        {"ok", WebFault::None},     {"slow", WebFault::Slow},   {"drip", WebFault::Drip},
-        {"half", WebFault::Half},   {"wrong", WebFault::Wrong}, {"empty", WebFault::Empty},
-        {"gone", WebFault::Gone},   {"large", WebFault::Large}, {"redirect", WebFault::Redirect},
-        {"answer", WebFault::Text}, {"huge", WebFault::Huge}};
+    const std::map<std::string, WebFault::Kind>& kinds = WebFault::Names();
     static const std::regex status("[45][0-9]{2}");
     const auto [name, value] = SplitFirst(text);
     WebFault fault;

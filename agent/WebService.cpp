@@ -36,13 +36,21 @@ std::string TextAt(const Json::Value& object, const char* key) {
 
 } // namespace
 
+const std::map<std::string, WebFault::Kind>& WebFault::Names() {
+    static const std::map<std::string, Kind> names = {
+        {"ok", None},     {"slow", Slow},   {"drip", Drip},        {"half", Half},
+        {"wrong", Wrong}, {"empty", Empty}, {"large", Large},      {"huge", Huge},
+        {"answer", Text}, {"gone", Gone},   {"redirect", Redirect}};
+    return names;
+}
+
 /// The bytes of an upload on their way to the disk; gone with this object unless they are kept.
 class WebService::Receipt {
 public:
     explicit Receipt(const QString& folder)
         : m_file(QDir(folder).filePath(QUuid::createUuid().toString(QUuid::WithoutBraces) +
                                        QStringLiteral(".part"))) {
-        m_file.open(QIODevice::WriteOnly);
+        m_isWhole = m_file.open(QIODevice::WriteOnly);
     }
     ~Receipt() {
         if (!m_isKept)
@@ -50,15 +58,19 @@ public:
     }
     Q_DISABLE_COPY(Receipt)
 
+    /// True also when it fails, which Keep tells: what was sent is to be taken to its end.
     bool Append(const char* data, std::size_t size) {
         m_hash.addData(data, static_cast<int>(size));
         m_size += size;
-        return m_file.write(data, static_cast<qint64>(size)) == static_cast<qint64>(size);
+        m_isWhole = m_isWhole && m_file.write(data, static_cast<qint64>(size)) == static_cast<qint64>(size);
+        return true;
     }
-    void Keep(const QString& path) {
+    bool Keep(const QString& path) {
         QFile::remove(path);
+        m_isWhole = m_isWhole && m_file.flush();
         m_file.close();
-        m_isKept = m_file.rename(path);
+        m_isKept = m_isWhole && m_file.rename(path);
+        return m_isKept;
     }
     std::size_t Size() const { return m_size; }
     std::string Digest() const { return m_hash.result().toHex().toStdString(); }
@@ -67,6 +79,7 @@ public:
 
 private:
     QFile m_file;
+    bool m_isWhole = false;
     bool m_isKept = false;
     QCryptographicHash m_hash{QCryptographicHash::Md5};
     std::size_t m_size = 0;
@@ -203,7 +216,8 @@ WebService::Answer WebService::AnnounceUpload(const httplib::Request& request) {
 WebService::Answer WebService::TakeFile(const std::string& fileKey, Receipt& receipt) {
     if (!m_store.MayUpload(fileKey, receipt.token))
         return Refusal(403, "this file was not announced");
-    receipt.Keep(m_store.PathOf(fileKey));
+    if (!receipt.Keep(m_store.PathOf(fileKey)))
+        return Refusal(500, "the file could not be kept");
     Answer answer;
     answer.headers["ETag"] = '"' + receipt.Digest() + '"';
     if (m_store.Take(fileKey, receipt.Digest())) {
@@ -251,7 +265,10 @@ WebService::Answer WebService::TakeFeedback(const httplib::Request& request) {
     const auto document = ReadObject(QByteArray::fromStdString(request.body));
     if (!document || TextAt(*document, "method") != "sendFeedBack")
         return Refusal(400, "this is no feedback");
-    m_log.Line("web feedback kept as " + m_store.KeepFeedback(request.body));
+    const std::string name = m_store.KeepFeedback(request.body);
+    if (name.empty())
+        return Refusal(500, "the feedback could not be kept");
+    m_log.Line("web feedback kept as " + name);
     Json::Value answer;
     answer["code"] = 0;
     answer["message"] = "Thank you for your report.";
@@ -276,8 +293,6 @@ bool WebService::Wait(double seconds) {
 
 void WebService::Reply(const std::string& endpoint, const httplib::Request& request, std::size_t size,
                        const Answer& answer, httplib::Response& response) {
-    static const char* const names[] = {"",      "slow",     "drip", "status", "half", "wrong", "empty",
-                                        "large", "redirect", "gone", "answer", "anew", "huge"};
     WebFault fault;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
@@ -293,9 +308,12 @@ void WebService::Reply(const std::string& endpoint, const httplib::Request& requ
     if (sendsAll)
         const_cast<httplib::Request&>(request).ranges.clear();
     response.status = request.ranges.empty() ? answer.status : 206;
-    m_log.Line(
-        "web " + request.method + ' ' + LogText(request.path) + ' ' + std::to_string(size) +
-        " bytes: " + (fault.kind == WebFault::None ? std::to_string(response.status) : names[fault.kind]));
+    std::string told = std::to_string(fault.kind == WebFault::Status ? fault.status : response.status);
+    for (const auto& [name, kind] : WebFault::Names())
+        if (kind == fault.kind && kind != WebFault::None)
+            told = name;
+    m_log.Line("web " + request.method + ' ' + LogText(request.path) + ' ' + std::to_string(size) +
+               " bytes: " + told);
     emit Requested(QString::fromStdString(endpoint));
 
     for (const auto& [name, value] : answer.headers)

@@ -23,6 +23,9 @@ struct Response;
 struct WebFault {
     enum Kind { None, Slow, Drip, Status, Half, Wrong, Empty, Large, Redirect, Gone, Text, Anew, Huge };
 
+    /// As commands give them and the event log tells them.
+    static const std::map<std::string, Kind>& Names();
+
     Kind kind = None;
     double seconds = 0;    ///< Slow: before the answer; Drip: between its bytes
     int status = 0;        ///< Status: the answer's

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QUuid>
 
 namespace {
@@ -29,6 +30,13 @@ NubraFieldInfo Field(const std::string& name, const std::string& value) {
 
 WebStore::WebStore(const QString& folder) : m_folder(folder) {
     QDir().mkpath(folder);
+    // What an earlier run has kept stays.
+    static const QRegularExpression number(QStringLiteral("^(feedback-)?(\\d{1,9})[-.]"));
+    for (const QString& name : QDir(folder).entryList(QDir::Files)) {
+        const auto match = number.match(name);
+        int& last = match.captured(1).isEmpty() ? m_lastFile : m_lastFeedback;
+        last = qMax(last, match.captured(2).toInt());
+    }
 }
 
 QString WebStore::Problem() const {
@@ -121,7 +129,7 @@ std::string WebStore::KeepFeedback(const std::string& document) {
     const std::lock_guard<std::mutex> lock(m_mutex);
     const QString name = QStringLiteral("feedback-%1.json").arg(++m_lastFeedback);
     QFile file(QDir(m_folder).filePath(name));
-    if (file.open(QIODevice::WriteOnly))
-        file.write(QByteArray::fromStdString(document));
-    return name.toStdString();
+    const QByteArray bytes = QByteArray::fromStdString(document);
+    const bool isKept = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
+    return isKept ? name.toStdString() : std::string();
 }

@@ -42,7 +42,7 @@ public:
     /// Of the file's bytes, as hexadecimal digits.
     std::string DigestOf(const std::string& fileKey) const;
 
-    /// Keeps a feedback document; returns the name of its file.
+    /// Keeps a feedback document; returns the name of its file, empty when it cannot be kept.
     std::string KeepFeedback(const std::string& document);
 
 private:

@@ -127,7 +127,7 @@ void AttachmentItem::ShowProgress() {
     if (m_state != State::Pending)
         return;
     m_progress->setValue(qMax(0, m_meter.Percent()));
-    Retranslate();
+    ShowStatus();
 }
 
 QWidget* AttachmentItem::FirstButton() const {
@@ -150,6 +150,14 @@ void AttachmentItem::changeEvent(QEvent* event) {
 }
 
 void AttachmentItem::Retranslate() {
+    setAccessibleName(m_file.name);
+    m_again->SetName(
+        (m_state == State::Failed ? tr("attachment_retry") : tr("attachment_cancel")).arg(m_file.name));
+    m_remove->SetName(tr("attachment_remove").arg(m_file.name));
+    ShowStatus();
+}
+
+void AttachmentItem::ShowStatus() {
     const QString size = LanguageHelper::Instance()->SizeText(m_file.size);
     const int percent = m_meter.Percent();
     QString status;
@@ -161,13 +169,9 @@ void AttachmentItem::Retranslate() {
         status = tr("attachment_waiting").arg(size);
     else
         status = tr("attachment_uploading").arg(LanguageHelper::Instance()->Locale().toString(percent), size);
-    if (status != m_status->text()) {
-        m_status->setText(status);
-        updateGeometry();
-    }
-    setAccessibleName(m_file.name);
+    if (status == m_status->text())
+        return;
+    m_status->setText(status);
     setAccessibleDescription(status);
-    m_again->SetName(
-        (m_state == State::Failed ? tr("attachment_retry") : tr("attachment_cancel")).arg(m_file.name));
-    m_remove->SetName(tr("attachment_remove").arg(m_file.name));
+    updateGeometry();
 }

@@ -2,7 +2,7 @@
 
 #include "feedback/AttachmentFile.h"
 #include "feedback/FeedbackBackend.h"
-#include "feedback/Workers.h"
+#include "platform/files/Workers.h"
 
 #include <QFrame>
 #include <QFutureWatcher>
@@ -56,6 +56,7 @@ private:
     void OnUploaded();
     void SetState(State state);
     void Retranslate();
+    void ShowStatus();
 
     const AttachmentFile m_file;
     const FeedbackBackend& m_backend;

@@ -11,6 +11,7 @@
 
 #include <QEvent>
 #include <QFileDialog>
+#include <QMap>
 #include <QMimeData>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -19,7 +20,7 @@
 namespace {
 
 constexpr int ProgressMs = 100;
-constexpr int MostRefusalsNamed = 4;
+constexpr int MostRefusalsApart = 4;
 
 } // namespace
 
@@ -51,8 +52,6 @@ AttachmentStrip::AttachmentStrip(const FeedbackBackend& backend, QWidget* parent
     Retranslate();
 }
 
-AttachmentStrip::~AttachmentStrip() = default;
-
 bool AttachmentStrip::CanTake(const QMimeData& offer) {
     const QList<QUrl> urls = offer.urls();
     return std::any_of(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); }) ||
@@ -78,30 +77,30 @@ void AttachmentStrip::ChooseFiles() {
 }
 
 void AttachmentStrip::AddFiles(const QStringList& paths) {
-    Inspect(m_inspectors.Run([paths] { return AttachmentFile::Inspect(paths); },
-                             AttachmentFile::Unreadable(paths)));
+    Inspect(m_inspectors->Run([paths] { return AttachmentFile::Inspect(paths); },
+                              AttachmentFile::Unreadable(paths)));
 }
 
 void AttachmentStrip::AddPicture(const QImage& picture) {
     const QString name = QStringLiteral("picture-%1.png").arg(++m_pictures);
     const QString folder = QString::fromStdWString(RyxPath::GetRyxTempDir());
-    Inspect(m_inspectors.Run([=] { return AttachmentFile::Save(picture, name, folder); },
-                             AttachmentFile::Unreadable({name})));
+    Inspect(m_inspectors->Run([=] { return AttachmentFile::Save(picture, name, folder); },
+                              AttachmentFile::Unreadable({name})));
 }
 
 void AttachmentStrip::Inspect(const QFuture<QVector<AttachmentFile>>& inspection) {
-    ++m_inspections;
+    if (m_inspections++ == 0)
+        m_refused.clear();
     auto* watcher = new QFutureWatcher<QVector<AttachmentFile>>(this);
     connect(watcher, &QFutureWatcherBase::finished, this, [this, watcher, list = m_listNumber] {
-        --m_inspections;
         watcher->deleteLater();
-        if (list == m_listNumber) {
-            m_refused.clear();
-            for (const AttachmentFile& file : watcher->result())
-                Add(file);
-            GestureScrollArea::Reveal(m_list);
-            ShowRefusals();
-        }
+        if (list != m_listNumber)
+            return;
+        --m_inspections;
+        for (const AttachmentFile& file : watcher->result())
+            Add(file);
+        GestureScrollArea::Reveal(m_list);
+        ShowRefusals();
         emit Changed();
     });
     watcher->setFuture(inspection);
@@ -137,13 +136,7 @@ void AttachmentStrip::Add(const AttachmentFile& file) {
 
 void AttachmentStrip::Remove(AttachmentItem* item) {
     const int place = m_items.indexOf(item);
-    item->disconnect(this);
-    item->Cancel();
-    m_items.removeAt(place);
-    m_flow->removeWidget(item);
-    item->hide();
-    item->deleteLater(); // one of its own buttons was pressed
-    m_list->setVisible(!m_items.isEmpty());
+    TakeOut(item);
     if (m_items.isEmpty())
         m_add->setFocus();
     else
@@ -151,6 +144,16 @@ void AttachmentStrip::Remove(AttachmentItem* item) {
     m_refused.clear(); // there is room again
     ShowRefusals();
     emit Changed();
+}
+
+void AttachmentStrip::TakeOut(AttachmentItem* item) {
+    item->disconnect(this);
+    item->Cancel();
+    m_items.removeOne(item);
+    m_flow->removeWidget(item);
+    item->hide();
+    item->deleteLater(); // one of its own buttons was pressed
+    m_list->setVisible(!m_items.isEmpty());
 }
 
 bool AttachmentStrip::IsPending() const {
@@ -184,11 +187,15 @@ QStringList AttachmentStrip::Paths() const {
 
 void AttachmentStrip::Clear() {
     while (!m_items.isEmpty())
-        Remove(m_items.constLast());
+        TakeOut(m_items.constLast());
     ++m_listNumber;
+    if (m_inspections > 0)
+        m_inspectors.emplace(1);
+    m_inspections = 0;
     m_pictures = 0;
     m_refused.clear();
     ShowRefusals();
+    emit Changed();
 }
 
 void AttachmentStrip::SetLocked(bool locked) {
@@ -200,7 +207,7 @@ void AttachmentStrip::Stop(QDeadlineTimer deadline) {
     for (AttachmentItem* item : qAsConst(m_items))
         item->Cancel();
     m_uploaders.Join(deadline);
-    m_inspectors.Join(deadline);
+    m_inspectors->Join(deadline);
 }
 
 void AttachmentStrip::ShowProgress() {
@@ -246,13 +253,17 @@ void AttachmentStrip::ShowRefusals() {
         }
         return tr("attachment_unreadable");
     };
+    QMap<Refusal, QStringList> names;
     QStringList lines;
     for (const Refused& refused : qAsConst(m_refused)) {
-        if (lines.size() == MostRefusalsNamed) {
-            lines.append(tr("attachment_more_refused").arg(locale.toString(m_refused.size() - lines.size())));
-            break;
-        }
+        names[refused.why].append(refused.name);
         lines.append(tr("attachment_refused").arg(refused.name, words(refused.why)));
+    }
+    if (lines.size() > MostRefusalsApart) {
+        lines.clear();
+        for (auto group = names.cbegin(); group != names.cend(); ++group)
+            lines.append(tr("attachment_refused_together")
+                             .arg(locale.createSeparatedList(group.value()), words(group.key())));
     }
     const QString text = lines.join(QLatin1Char('\n'));
     const bool isNew = !text.isEmpty() && text != m_refusals->text();

@@ -4,6 +4,7 @@
 
 #include <QFrame>
 #include <QTimer>
+#include <optional>
 #include <vector>
 
 class QFlowLayout;
@@ -19,7 +20,6 @@ public:
     static constexpr int MostFiles = 9;
 
     explicit AttachmentStrip(const FeedbackBackend& backend, QWidget* parent = nullptr);
-    ~AttachmentStrip() override;
 
     /// Whether the offer is files of this machine, or a picture and no text.
     static bool CanTake(const QMimeData& offer);
@@ -62,15 +62,16 @@ private:
     void Add(const AttachmentFile& file);
     Refusal Judge(const AttachmentFile& file) const;
     void Remove(AttachmentItem* item);
+    void TakeOut(AttachmentItem* item);
     void ShowProgress();
     void ShowRefusals();
     void Retranslate();
 
     const FeedbackBackend& m_backend;
-    Workers m_inspectors{1};
+    std::optional<Workers> m_inspectors{1}; // one that hangs is left behind
     Workers m_uploaders{2};
     QVector<AttachmentItem*> m_items;
-    QVector<Refused> m_refused; // of the last time
+    QVector<Refused> m_refused; // of the last batch, and of those that overlapped with it
     int m_inspections = 0;
     int m_listNumber = 0; // what was looked at for a list that was cleared since is not added
     int m_pictures = 0;

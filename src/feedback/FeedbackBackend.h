@@ -21,6 +21,7 @@ struct FeedbackBackend {
     std::function<ReportArchive::Result(const ReportArchive&, const TaskControl&)> save =
         &ReportArchive::Save;
 
-    /// Uploads a file with the web client and asks for its address. One that changes meanwhile fails.
+    /// Uploads a file with the web client and asks for its address. One that changes meanwhile fails, and one
+    /// that is too large by now.
     static Upload UploadAttachment(const QString& path, const TaskControl& control);
 };

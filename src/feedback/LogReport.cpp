@@ -35,16 +35,16 @@ LogReport::LogReport(LogReportRequest request, const RyxWebClient& client, const
     : m_request(std::move(request)), m_client(client), m_clock(clock) {}
 
 LogReportOutcome LogReport::Run(const Cancellation& cancellation, const ProgressMeter& meter) {
-    std::string exception;
     try {
         m_outcome.ok = UploadLog(cancellation, meter) && Send(meter.Watch(cancellation, Addressed));
     } catch (const std::exception& error) {
-        exception = std::string(" (") + error.what() + ")";
+        LOG(ERROR) << "LogReport::Run ended with an exception: " << LogText(std::string(error.what()));
+        m_failure.error = WebError::Internal;
     }
     if (!m_outcome.ok) {
         m_outcome.error = cancellation.IsCancelled() ? WebError::Cancelled : m_failure.error;
-        m_outcome.logLine =
-            FailureLines[static_cast<size_t>(m_outcome.step)] + LogText(m_outcome.message) + exception;
+        m_outcome.said = QString::fromStdString(m_failure.said);
+        m_outcome.logLine = FailureLines[static_cast<size_t>(m_outcome.step)] + LogText(m_outcome.message);
     }
     return m_outcome;
 }
@@ -52,7 +52,11 @@ LogReportOutcome LogReport::Run(const Cancellation& cancellation, const Progress
 bool LogReport::UploadLog(const Cancellation& cancellation, const ProgressMeter& meter) {
     const QString archive = QDir(QString::fromStdWString(m_request.tempFolder))
                                 .filePath(QStringLiteral("RYXLOG-%1.zip").arg(Time("yyyyMMddhhmmss")));
-    const auto remove = qScopeGuard([&] { QFile::remove(archive); });
+    const auto remove = qScopeGuard([&] {
+        QFile file(archive);
+        LOG_IF(WARNING, file.exists() && !file.remove())
+            << "LogReport::UploadLog could not remove the archive: " << LogText(file.errorString());
+    });
 
     m_outcome.step = ReportStep::Pack;
     google::FlushLogFiles(google::GLOG_INFO);

@@ -26,9 +26,10 @@ enum class ReportStep { Pack, Upload, Register, Address, Send };
 /// How a report ended.
 struct LogReportOutcome {
     bool ok = false;
-    QString message;                    ///< of the service; empty unless the last step was reached
+    QString message;                    ///< of the service, or why it has none; empty before the last step
     ReportStep step = ReportStep::Pack; ///< the one that failed, if any did
     WebError error = WebError::None;    ///< why, as far as the web client told
+    QString said;                       ///< by the service of a failure; empty when it said nothing
     std::string logLine;                ///< what the log has to say of the failure
 };
 

@@ -3,10 +3,8 @@
 #include "platform/files/ZipUtility.h"
 
 #include <QFileInfo>
-#include <QScopeGuard>
 #include <QSet>
 #include <QTemporaryFile>
-#include <filesystem>
 
 namespace {
 
@@ -22,8 +20,6 @@ QString FreeName(const QString& name, QSet<QString>& taken) {
 } // namespace
 
 ReportArchive::Result ReportArchive::Save(const TaskControl& control) const {
-    if (QFileInfo::exists(target) && !mayReplace)
-        return Result::Exists;
     QTemporaryFile description(QString::fromStdWString(tempFolder) + QStringLiteral("/report-XXXXXX"));
     const QByteArray bytes = text.toUtf8();
     if (!description.open() || description.write(bytes) != bytes.size() || !description.flush())
@@ -36,16 +32,15 @@ ReportArchive::Result ReportArchive::Save(const TaskControl& control) const {
     for (const QString& attachment : attachments)
         files.append({FreeName(QFileInfo(attachment).fileName(), taken), attachment, true});
 
-    const QString part = target + QStringLiteral(".part");
-    const auto remove = qScopeGuard([&part] { QFile::remove(part); });
-    if (!ZipUtility::CreateZip(files, part.toStdWString(), control))
-        return Result::Failed;
-    if (mayReplace) {
-        std::error_code failure;
-        std::filesystem::rename(part.toStdWString(), target.toStdWString(), failure);
-        return failure ? Result::Failed : Result::Saved;
-    }
-    if (QFile::rename(part, target))
+    // The archive takes the place of what stands at the target: that is this, unless more may be replaced.
+    QFile place(target);
+    const bool isOurs = place.open(QIODevice::WriteOnly | QIODevice::NewOnly);
+    if (!isOurs && !mayReplace)
+        return place.exists() ? Result::Exists : Result::Failed;
+    place.close();
+    if (ZipUtility::CreateZip(files, target.toStdWString(), control))
         return Result::Saved;
-    return QFileInfo::exists(target) ? Result::Exists : Result::Failed;
+    if (isOurs)
+        place.remove();
+    return Result::Failed;
 }

@@ -21,8 +21,8 @@ struct ReportArchive {
     QString target;          ///< path of the archive
     bool mayReplace = false;
 
-    /// Packs text, logs and attachments beside the target and renames the whole archive. What stands at the
-    /// target stays, unless it may be replaced. Logs that cannot be read are left out; without an attachment
+    /// Packs text, logs and attachments. What stands at the target stays, unless it may be replaced, and then
+    /// until the archive is whole. Logs that cannot be read are left out; without an attachment
     /// the report is not saved. Worker threads.
     Result Save(const TaskControl& control) const;
 };

@@ -27,11 +27,13 @@
 #include <QStandardPaths>
 #include <QVBoxLayout>
 #include <glog/logging.h>
+#include <utility>
 
 namespace {
 
 constexpr int ProgressMs = 100;
-constexpr int EndMs = 1500; // of the two seconds that the program has for its end
+constexpr int MostSaid = 300; // characters of the service's
+constexpr int EndMs = 1500;   // of the two seconds that the program has for its end
 
 // Whatever was proposed: after a move the source would delete its file.
 void AcceptCopy(QDropEvent& event) {
@@ -111,7 +113,7 @@ void UFeedback::InitConnect() {
 }
 
 void UFeedback::ValidateSubmit() {
-    m_submit->setEnabled(m_form->IsComplete());
+    m_submit->setEnabled(m_form->IsComplete() && m_activity != Activity::Saving);
     ShowTip();
 }
 
@@ -163,7 +165,7 @@ void UFeedback::OnSubmitRetry() {
 }
 
 void UFeedback::StartReport() {
-    m_outcomeUntold = false;
+    m_onReturn = nullptr;
     SetActivity(Activity::Reporting);
     const LogReportRequest request{RyxPath::GetRyxLogDir(),         RyxPath::GetRyxTempDir(),
                                    MachineHelper::GetDeviceName(),  AppContextData::Instance()->ContextText(),
@@ -204,16 +206,20 @@ void UFeedback::OnLogReported(const QString&, bool ok) {
 
 // A failure that nobody sees now waits for the user's return.
 void UFeedback::TellOutcome(NoticeKind kind, const QString& notice) {
-    if (isVisible() && !window()->isMinimized()) {
+    if (IsSeen()) {
         ShowOutcome();
         return;
     }
-    m_outcomeUntold = !m_outcome.ok;
+    if (!m_outcome.ok)
+        m_onReturn = &UFeedback::ShowOutcome;
     Notify(kind, notice);
 }
 
+bool UFeedback::IsSeen() const {
+    return isVisible() && !window()->isMinimized();
+}
+
 void UFeedback::ShowOutcome() {
-    m_outcomeUntold = false;
     if (m_outcome.ok) {
         UAlert* alert = Ask([](UAlert& told) {
             told.SetTitle(tr("feedback_sent_title"));
@@ -240,8 +246,8 @@ void UFeedback::ShowOutcome() {
 QString UFeedback::FailureText() const {
     QString text =
         m_outcome.step == ReportStep::Pack ? tr("feedback_failed_pack") : WebErrorText(m_outcome.error);
-    if (m_outcome.error == WebError::Refused && !m_outcome.message.isEmpty())
-        text += QLatin1Char('\n') + tr("feedback_service_says").arg(m_outcome.message);
+    if (!m_outcome.said.isEmpty())
+        text += QLatin1Char('\n') + tr("feedback_service_says").arg(m_outcome.said.left(MostSaid));
     return text + QLatin1Char('\n') + tr("feedback_failed_advice");
 }
 
@@ -288,25 +294,31 @@ void UFeedback::OnArchiveEnded() {
     case ReportArchive::Result::Saved:
         Notify(NoticeKind::Success, tr("log_export_log_success"));
         break;
-    case ReportArchive::Result::Exists: {
-        UAlert* alert = Ask([name = QFileInfo(m_target).fileName()](UAlert& asked) {
-            asked.SetTitle(tr("feedback_replace_title"));
-            asked.SetContent(tr("feedback_replace_content").arg(name));
-            asked.SetOkText(tr("feedback_replace"));
-            asked.SetCancelText(tr("button_back"));
-        });
-        alert->SetDangerous(true);
-        connect(alert, &UAlert::Accepted, this, [this] { SaveArchive(m_target, true); });
-        connect(alert, &UAlert::Rejected, this, &UFeedback::ChooseArchive);
-        alert->show();
+    case ReportArchive::Result::Exists:
+        if (IsSeen())
+            AskToReplace();
+        else
+            m_onReturn = &UFeedback::AskToReplace;
         break;
-    }
     case ReportArchive::Result::Failed:
         if (!cancelled)
             Notify(NoticeKind::Error, tr("log_export_log_failed"));
         TellOutcome(NoticeKind::Error, tr("feedback_failed_notice")); // neither sent nor saved
         break;
     }
+}
+
+void UFeedback::AskToReplace() {
+    UAlert* alert = Ask([name = QFileInfo(m_target).fileName()](UAlert& asked) {
+        asked.SetTitle(tr("feedback_replace_title"));
+        asked.SetContent(tr("feedback_replace_content").arg(name));
+        asked.SetOkText(tr("feedback_replace"));
+        asked.SetCancelText(tr("button_back"));
+    });
+    alert->SetDangerous(true);
+    connect(alert, &UAlert::Accepted, this, [this] { SaveArchive(m_target, true); });
+    connect(alert, &UAlert::Rejected, this, &UFeedback::ChooseArchive);
+    alert->show();
 }
 
 void UFeedback::Leave() {
@@ -360,8 +372,8 @@ void UFeedback::Notify(NoticeKind kind, const QString& text) {
 
 void UFeedback::showEvent(QShowEvent* event) {
     UPage::showEvent(event);
-    if (m_outcomeUntold)
-        ShowOutcome();
+    if (const auto tell = std::exchange(m_onReturn, nullptr))
+        (this->*tell)();
 }
 
 void UFeedback::changeEvent(QEvent* event) {

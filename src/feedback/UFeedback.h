@@ -2,7 +2,7 @@
 
 #include "feedback/FeedbackBackend.h"
 #include "feedback/ReportArchive.h"
-#include "feedback/Workers.h"
+#include "platform/files/Workers.h"
 #include "platform/application/NoticeKind.h"
 #include "widgets/UPage.h"
 
@@ -61,12 +61,14 @@ private:
     void OnReportEnded();
     void OnLogReported(const QString& message, bool ok);
     void TellOutcome(NoticeKind kind, const QString& notice);
+    bool IsSeen() const;
     void ShowOutcome();
     QString FailureText() const;
 
     void ChooseArchive();
     void SaveArchive(const QString& target, bool mayReplace);
     void OnArchiveEnded();
+    void AskToReplace();
 
     void Leave();
     void ShowLogFiles();
@@ -85,7 +87,7 @@ private:
     QFutureWatcher<ReportArchive::Result> m_archive;
     QString m_target; // of the archive
     LogReportOutcome m_outcome;
-    bool m_outcomeUntold = false; // it came while the page was not seen
+    void (UFeedback::*m_onReturn)() = nullptr; // tells what came while the page was not seen
     QTimer m_progressTimer{this};
 
     FeedbackForm* m_form;

@@ -4,20 +4,16 @@
 
 #include <QFileInfo>
 #include <QFutureWatcher>
-#include <QtConcurrent>
-#include <glog/logging.h>
 
 namespace {
 
-constexpr int Threads = 2;
 constexpr int ProgressMs = 100;
 constexpr int EndMs = 400; // cancelled work ends within a tenth of a second
 
 } // namespace
 
 MessageFiles::MessageFiles(MessageHistory& history, const QString& folder, std::int64_t maxBytes)
-    : m_history(history), m_folder(folder), m_maxBytes(maxBytes), m_pool(std::make_unique<QThreadPool>()) {
-    m_pool->setMaxThreadCount(Threads);
+    : m_history(history), m_folder(folder), m_maxBytes(maxBytes) {
     m_progress.setInterval(ProgressMs);
     connect(&m_progress, &QTimer::timeout, this, &MessageFiles::LookAtProgress);
 }
@@ -25,22 +21,17 @@ MessageFiles::MessageFiles(MessageHistory& history, const QString& folder, std::
 MessageFiles::~MessageFiles() {
     for (const Job& job : qAsConst(m_jobs))
         job.cancellation.Cancel();
-    m_pool->clear();
-    if (m_pool->waitForDone(EndMs))
-        return;
-    LOG(WARNING) << "MessageFiles::~MessageFiles leaves work behind that does not end";
-    static_cast<void>(m_pool.release()); // its destructor would wait
+    m_workers.Join(QDeadlineTimer(EndMs));
 }
 
 template <class Work, class Then>
-void MessageFiles::Run(Work work, Then then) {
-    using Result = decltype(work());
-    auto* watcher = new QFutureWatcher<Result>(this);
+void MessageFiles::Run(Work work, const std::invoke_result_t<Work>& failed, Then then) {
+    auto* watcher = new QFutureWatcher<std::invoke_result_t<Work>>(this);
     connect(watcher, &QFutureWatcherBase::finished, this, [watcher, then] {
         watcher->deleteLater();
         then(watcher->result());
     });
-    watcher->setFuture(QtConcurrent::run(m_pool.get(), work));
+    watcher->setFuture(m_workers.Run(work, failed));
 }
 
 void MessageFiles::Fetch(int id) {
@@ -72,6 +63,7 @@ void MessageFiles::Start(int id, const Message& message) {
             there.picture = ReadPicture(saved);
             return there;
         },
+        {{}, WebError::Internal, false, {}},
         [this, id, cancellation = job.cancellation](const FileFetchOutcome& outcome) {
             const auto mine = m_jobs.find(id);
             if (mine == m_jobs.end() || (cancellation.IsCancelled() && outcome.path.isEmpty()))
@@ -106,7 +98,7 @@ MessageFile MessageFiles::Of(int id) const {
 }
 
 void MessageFiles::CopyTo(int id, const QString& target) {
-    Run([from = Of(id).outcome.path, target] { return FileNames::Copy(from, target); },
+    Run([from = Of(id).outcome.path, target] { return FileNames::Copy(from, target); }, {},
         [this, id](const QString& copy) {
             const auto job = m_jobs.find(id);
             if (job == m_jobs.end())

@@ -2,9 +2,9 @@
 
 #include "messages/FileFetch.h"
 #include "messages/MessageHistory.h"
+#include "platform/files/Workers.h"
 
 #include <QHash>
-#include <QThreadPool>
 #include <QTimer>
 #include <atomic>
 #include <memory>
@@ -50,14 +50,14 @@ private:
     };
 
     template <class Work, class Then>
-    void Run(Work work, Then then);
+    void Run(Work work, const std::invoke_result_t<Work>& failed, Then then);
     void Start(int id, const Message& message);
     void LookAtProgress();
 
     MessageHistory& m_history;
     QString m_folder;
     std::int64_t m_maxBytes;
-    std::unique_ptr<QThreadPool> m_pool;
+    Workers m_workers{2};
     QHash<int, Job> m_jobs;
     QTimer m_progress{this};
 };

@@ -129,7 +129,8 @@ protected:
     void EndReport(bool ok, ReportStep step = ReportStep::Send, WebError error = WebError::Unreachable) {
         const int before = told.size();
         const QString message = step == ReportStep::Send ? QStringLiteral("words") : QString();
-        script.next = {ok, message, step, ok ? WebError::None : error, {}};
+        const QString said = error == WebError::Refused ? QString(301, QLatin1Char('w')) : QString();
+        script.next = {ok, message, step, ok ? WebError::None : error, said, {}};
         script.reportsGoOn.release();
         EXPECT_TRUE(Comes([&] { return told.size() > before; }));
     }
@@ -208,14 +209,15 @@ TEST_F(Feedback, WhatIsNotAttachedIsToldWithItsReason) {
             << row.words << "\n"
             << refusals.text().toStdString();
     }
-    Strip().AddFiles({Make(QStringLiteral("largest"), AttachmentFile::MostBytes)});
+    Strip().AddFiles({Make(QStringLiteral("largest"), AttachmentFile::MostBytes), folder.path()});
     QStringList many;
     for (int i = 0; i < 15; ++i)
         many.append(QStringLiteral("file%1").arg(i));
     Attach(many);
     EXPECT_TRUE(
         Comes([&] { return refusals.text().contains(QStringLiteral("there are 9 attachments already.")); }));
-    EXPECT_TRUE(refusals.text().contains(QStringLiteral("4 more were not attached either.")));
+    EXPECT_TRUE(refusals.text().contains(QStringLiteral("it is a folder."))) << "of the files before";
+    EXPECT_TRUE(refusals.text().contains(QStringLiteral("file12, file13, and file14.")));
     EXPECT_EQ(Strip().Paths().size(), 9);
     EXPECT_EQ(script.most, 2) << "two are uploaded at a time";
     EXPECT_TRUE(Comes([&] { return Strip().findChildren<AttachmentItem*>().last()->y() > 200; }))
@@ -262,9 +264,10 @@ TEST_F(Feedback, AFailedReportIsRetriedAsItIsAndASentOneIsGone) {
     EndReport(false, ReportStep::Upload, WebError::TimedOut);
     EXPECT_EQ(script.last.description, QStringLiteral("It freezes"));
     EXPECT_NE(AlertSays().find("did not answer in time"), std::string::npos) << AlertSays();
+    const std::string refused = "The service says: " + std::string(300, 'w') + '\n';
     for (const auto& [step, error, words] :
          {std::tuple{ReportStep::Pack, WebError::None, "could not be packed"},
-          {ReportStep::Send, WebError::Refused, "The service says: words"},
+          {ReportStep::Send, WebError::Refused, refused.c_str()},
           {ReportStep::Address, WebError::None, "Something went wrong"}}) {
         Answer("Try again");
         EndReport(false, step, error);
@@ -274,6 +277,11 @@ TEST_F(Feedback, AFailedReportIsRetriedAsItIsAndASentOneIsGone) {
     auto* dialog = page->findChild<QFileDialog*>();
     emit dialog->fileSelected(Make(QStringLiteral("saved.zip")));
     delete dialog;
+    EXPECT_FALSE(CanSubmit()) << "while it is saved";
+    page->hide();
+    EXPECT_TRUE(Comes([&] { return CanSubmit(); }));
+    EXPECT_FALSE(Alert()) << "over another page";
+    page->show();
     EXPECT_TRUE(Comes([&] { return AlertSays().find("saved.zip") != std::string::npos; }));
     Answer("Replace");
     EXPECT_TRUE(Comes([&] { return window.notices.size() == 1; }));

@@ -108,6 +108,7 @@ TEST_F(LogReportRun, StopsAtTheStepThatFailsAndLeavesNoArchive) {
         EXPECT_EQ(outcome.error, expected.error);
         EXPECT_EQ(outcome.message.isEmpty(), *expected.message == 0);
         EXPECT_TRUE(outcome.message.contains(QLatin1String(expected.message)));
+        EXPECT_EQ(outcome.said.toStdString(), outcome.error == WebError::Refused ? "told to fail" : "");
         EXPECT_EQ(outcome.logLine, expected.line + outcome.message.toStdString());
         EXPECT_EQ(Left(), QStringList());
     }

@@ -16,6 +16,7 @@ struct Web : testing::Test, StandInWeb {
     void SetUp() override {
         settings.silence = 400ms;
         settings.callDeadline = 1500ms;
+        settings.proxy = QStringLiteral("http://127.0.0.1:1"); // not asked for the own machine
         client.Configure(settings);
         WriteFile("log +1 %41 ß.zip", bytes);
     }
@@ -151,6 +152,8 @@ TEST_F(Web, EveryFaultEndsInItsTimeAndLeavesNothingBehind) {
         EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 2) << name;
         Tell("web " + endpoint + " ok");
     }
+    QDir(store.path()).removeRecursively();
+    EXPECT_EQ(Report().words, "the server answered 500: the file could not be kept");
 }
 
 TEST_F(Web, CancelWrongFilesAndTheGuiThreadEndACallAtOnce) {

@@ -45,7 +45,7 @@ TEST(WebTls, OnlyACertificateOfATrustedAuthorityForThisHostWillDo) {
         {"localhost", Pem("authority.pem"), WebError::None},
         {"localhost", {}, WebError::NotTrusted},
         {"127.0.0.1", Pem("authority.pem"), WebError::NotTrusted},
-        {"localhost", Pem("localhost.key"), WebError::NotTrusted},
+        {"localhost", Pem("localhost.key"), WebError::NotConfigured},
     };
     for (const auto& row : cases) {
         WebSettings settings;

@@ -24,16 +24,16 @@
         <translation>هذا مجلد.</translation>
     </message>
     <message>
-        <source>attachment_more_refused</source>
-        <translation>ولم تُرفق %1 ملفات أخرى أيضًا.</translation>
-    </message>
-    <message>
         <source>attachment_note</source>
         <translation>حتى %1 ملفات، كل منها حتى %2. يمكنك أيضًا إفلات الملفات هنا أو لصق صورة.</translation>
     </message>
     <message>
         <source>attachment_refused</source>
         <translation>لم يُرفق «%1»: %2</translation>
+    </message>
+    <message>
+        <source>attachment_refused_together</source>
+        <translation>لم تُرفق: %1. والسبب لكل منها: %2</translation>
     </message>
     <message>
         <source>attachment_remove</source>
@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>feedback_failed_notice</source>
-        <translation>لم يُرسل تقريرك. تجد السبب في صفحة «تقرير السجل».</translation>
+        <translation>لم يُرسل تقريرك. تجد السبب في صفحة «الملاحظات».</translation>
     </message>
     <message>
         <source>feedback_failed_pack</source>
@@ -210,7 +210,7 @@
     </message>
     <message>
         <source>log_files_content</source>
-        <translation>إلى جانب ما تكتبه وترفقه، يحمل التقرير اسم هذا الجهاز (%1) وملفات سجلاته: العدد %2، والحجم الإجمالي %3.</translation>
+        <translation>إلى جانب ما تكتبه وترفقه، يحمل التقرير اسم هذا الجهاز (%1) وهويته لدى الخدمة وملفات سجلاته: العدد %2، والحجم الإجمالي %3.</translation>
     </message>
     <message>
         <source>log_files_end_only</source>
@@ -262,7 +262,7 @@
     </message>
     <message>
         <source>web_error_not_configured</source>
-        <translation>لا يعرف هذا الجهاز عنوان الخدمة.</translation>
+        <translation>لم يُضبط الاتصال بالخدمة على هذا الجهاز ضبطًا صحيحًا.</translation>
     </message>
     <message>
         <source>web_error_not_trusted</source>

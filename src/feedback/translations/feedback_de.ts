@@ -24,16 +24,16 @@
         <translation>Das ist ein Ordner.</translation>
     </message>
     <message>
-        <source>attachment_more_refused</source>
-        <translation>%1 weitere wurden ebenfalls nicht angehängt.</translation>
-    </message>
-    <message>
         <source>attachment_note</source>
         <translation>Bis zu %1 Dateien von je %2. Dateien lassen sich auch hierher ziehen, Bilder einfügen.</translation>
     </message>
     <message>
         <source>attachment_refused</source>
         <translation>„%1“ wurde nicht angehängt: %2</translation>
+    </message>
+    <message>
+        <source>attachment_refused_together</source>
+        <translation>Nicht angehängt: %1. Der Grund jeweils: %2</translation>
     </message>
     <message>
         <source>attachment_remove</source>
@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>feedback_failed_notice</source>
-        <translation>Ihr Bericht wurde nicht gesendet. Den Grund nennt die Seite „Protokollbericht“.</translation>
+        <translation>Ihr Bericht wurde nicht gesendet. Den Grund nennt die Seite „Feedback“.</translation>
     </message>
     <message>
         <source>feedback_failed_pack</source>
@@ -178,7 +178,7 @@
     </message>
     <message>
         <source>feedback_without_send</source>
-        <translation>Ohne senden</translation>
+        <translation>Trotzdem senden</translation>
     </message>
     <message>
         <source>feedback_without_title</source>
@@ -210,7 +210,7 @@
     </message>
     <message>
         <source>log_files_content</source>
-        <translation>Neben dem, was Sie schreiben und anhängen, enthält der Bericht den Namen dieses Geräts (%1) und seine Protokolldateien: %2, insgesamt %3.</translation>
+        <translation>Neben dem, was Sie schreiben und anhängen, enthält der Bericht den Namen dieses Geräts (%1), seine Kennung beim Dienst und seine Protokolldateien: %2, insgesamt %3.</translation>
     </message>
     <message>
         <source>log_files_end_only</source>
@@ -262,7 +262,7 @@
     </message>
     <message>
         <source>web_error_not_configured</source>
-        <translation>Auf diesem Gerät ist keine Adresse des Dienstes hinterlegt.</translation>
+        <translation>Die Verbindung zum Dienst ist auf diesem Gerät nicht richtig eingerichtet.</translation>
     </message>
     <message>
         <source>web_error_not_trusted</source>

@@ -24,16 +24,16 @@
         <translation>it is a folder.</translation>
     </message>
     <message>
-        <source>attachment_more_refused</source>
-        <translation>%1 more were not attached either.</translation>
-    </message>
-    <message>
         <source>attachment_note</source>
         <translation>Up to %1 files of %2 each. You can also drop files here or paste a picture.</translation>
     </message>
     <message>
         <source>attachment_refused</source>
         <translation>“%1” was not attached: %2</translation>
+    </message>
+    <message>
+        <source>attachment_refused_together</source>
+        <translation>Not attached: %1. The reason for each: %2</translation>
     </message>
     <message>
         <source>attachment_remove</source>
@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>feedback_failed_notice</source>
-        <translation>Your report was not sent. The page “Log Report” tells why.</translation>
+        <translation>Your report was not sent. The page “Feedback” tells why.</translation>
     </message>
     <message>
         <source>feedback_failed_pack</source>
@@ -210,7 +210,7 @@
     </message>
     <message>
         <source>log_files_content</source>
-        <translation>Besides what you write and attach, the report carries the name of this device (%1) and its log files: %2, %3 in all.</translation>
+        <translation>Besides what you write and attach, the report carries the name of this device (%1), what identifies it to the service, and its log files: %2, %3 in all.</translation>
     </message>
     <message>
         <source>log_files_end_only</source>
@@ -262,7 +262,7 @@
     </message>
     <message>
         <source>web_error_not_configured</source>
-        <translation>This device has no address of the service.</translation>
+        <translation>The connection to the service is not set up correctly on this device.</translation>
     </message>
     <message>
         <source>web_error_not_trusted</source>

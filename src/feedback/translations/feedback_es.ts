@@ -24,16 +24,16 @@
         <translation>es una carpeta.</translation>
     </message>
     <message>
-        <source>attachment_more_refused</source>
-        <translation>Tampoco se han adjuntado otros %1.</translation>
-    </message>
-    <message>
         <source>attachment_note</source>
         <translation>Hasta %1 archivos de %2 cada uno. También puede soltar archivos aquí o pegar una imagen.</translation>
     </message>
     <message>
         <source>attachment_refused</source>
         <translation>«%1» no se ha adjuntado: %2</translation>
+    </message>
+    <message>
+        <source>attachment_refused_together</source>
+        <translation>No se han adjuntado: %1. El motivo de cada uno: %2</translation>
     </message>
     <message>
         <source>attachment_remove</source>
@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>feedback_failed_notice</source>
-        <translation>Su informe no se ha enviado. La página «Informe de registro» indica el motivo.</translation>
+        <translation>Su informe no se ha enviado. La página «Comentarios» indica el motivo.</translation>
     </message>
     <message>
         <source>feedback_failed_pack</source>
@@ -210,7 +210,7 @@
     </message>
     <message>
         <source>log_files_content</source>
-        <translation>Además de lo que escribe y adjunta, el informe lleva el nombre de este dispositivo (%1) y sus archivos de registro: %2, %3 en total.</translation>
+        <translation>Además de lo que escribe y adjunta, el informe lleva el nombre de este dispositivo (%1), su identificación ante el servicio y sus archivos de registro: %2, %3 en total.</translation>
     </message>
     <message>
         <source>log_files_end_only</source>
@@ -262,7 +262,7 @@
     </message>
     <message>
         <source>web_error_not_configured</source>
-        <translation>Este dispositivo no tiene la dirección del servicio.</translation>
+        <translation>La conexión con el servicio no está bien configurada en este dispositivo.</translation>
     </message>
     <message>
         <source>web_error_not_trusted</source>

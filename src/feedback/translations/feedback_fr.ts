@@ -24,16 +24,16 @@
         <translation>c’est un dossier.</translation>
     </message>
     <message>
-        <source>attachment_more_refused</source>
-        <translation>%1 autres n’ont pas été joints non plus.</translation>
-    </message>
-    <message>
         <source>attachment_note</source>
         <translation>Jusqu’à %1 fichiers de %2 chacun. Vous pouvez aussi déposer des fichiers ici ou coller une image.</translation>
     </message>
     <message>
         <source>attachment_refused</source>
         <translation>« %1 » n’a pas été joint : %2</translation>
+    </message>
+    <message>
+        <source>attachment_refused_together</source>
+        <translation>Non joints : %1. La raison pour chacun : %2</translation>
     </message>
     <message>
         <source>attachment_remove</source>
@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>feedback_failed_notice</source>
-        <translation>Votre rapport n’a pas été envoyé. La page « Rapport de journal » dit pourquoi.</translation>
+        <translation>Votre rapport n’a pas été envoyé. La page « Commentaires » dit pourquoi.</translation>
     </message>
     <message>
         <source>feedback_failed_pack</source>
@@ -210,7 +210,7 @@
     </message>
     <message>
         <source>log_files_content</source>
-        <translation>En plus de votre texte et de vos pièces jointes, le rapport contient le nom de cet appareil (%1) et ses fichiers journaux : %2, soit %3 au total.</translation>
+        <translation>En plus de votre texte et de vos pièces jointes, le rapport contient le nom de cet appareil (%1), son identité auprès du service et ses fichiers journaux : %2, soit %3 au total.</translation>
     </message>
     <message>
         <source>log_files_end_only</source>
@@ -262,7 +262,7 @@
     </message>
     <message>
         <source>web_error_not_configured</source>
-        <translation>Cet appareil ne connaît pas l’adresse du service.</translation>
+        <translation>La connexion au service n’est pas configurée correctement sur cet appareil.</translation>
     </message>
     <message>
         <source>web_error_not_trusted</source>

@@ -24,16 +24,16 @@
         <translation>フォルダーです。</translation>
     </message>
     <message>
-        <source>attachment_more_refused</source>
-        <translation>ほか %1 個も添付されませんでした。</translation>
-    </message>
-    <message>
         <source>attachment_note</source>
         <translation>最大 %1 個、1 個あたり %2 まで。ここにファイルをドロップしたり、画像を貼り付けたりすることもできます。</translation>
     </message>
     <message>
         <source>attachment_refused</source>
         <translation>「%1」は添付されませんでした：%2</translation>
+    </message>
+    <message>
+        <source>attachment_refused_together</source>
+        <translation>添付されなかったファイル：%1。それぞれの理由：%2</translation>
     </message>
     <message>
         <source>attachment_remove</source>
@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>feedback_failed_notice</source>
-        <translation>レポートを送信できませんでした。理由は「ログレポート」ページに表示されます。</translation>
+        <translation>レポートを送信できませんでした。理由は「フィードバック」ページに表示されます。</translation>
     </message>
     <message>
         <source>feedback_failed_pack</source>
@@ -210,7 +210,7 @@
     </message>
     <message>
         <source>log_files_content</source>
-        <translation>入力した内容と添付ファイルのほかに、このデバイスの名前（%1）とログファイル（%2 個、合計 %3）が送信されます。</translation>
+        <translation>入力した内容と添付ファイルのほかに、このデバイスの名前（%1）、サービスがデバイスを識別する情報、ログファイル（%2 個、合計 %3）が送信されます。</translation>
     </message>
     <message>
         <source>log_files_end_only</source>
@@ -262,7 +262,7 @@
     </message>
     <message>
         <source>web_error_not_configured</source>
-        <translation>このデバイスにはサービスのアドレスが設定されていません。</translation>
+        <translation>このデバイスでは、サービスへの接続が正しく設定されていません。</translation>
     </message>
     <message>
         <source>web_error_not_trusted</source>

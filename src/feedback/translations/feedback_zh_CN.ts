@@ -24,16 +24,16 @@
         <translation>这是一个文件夹。</translation>
     </message>
     <message>
-        <source>attachment_more_refused</source>
-        <translation>另有 %1 个文件未添加。</translation>
-    </message>
-    <message>
         <source>attachment_note</source>
         <translation>最多 %1 个文件，每个不超过 %2。也可以将文件拖到此处或粘贴图片。</translation>
     </message>
     <message>
         <source>attachment_refused</source>
         <translation>未添加“%1”：%2</translation>
+    </message>
+    <message>
+        <source>attachment_refused_together</source>
+        <translation>未添加：%1。原因均为：%2</translation>
     </message>
     <message>
         <source>attachment_remove</source>
@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>feedback_failed_notice</source>
-        <translation>报告未发送。原因请见“日志报告”页面。</translation>
+        <translation>报告未发送。原因请见“反馈”页面。</translation>
     </message>
     <message>
         <source>feedback_failed_pack</source>
@@ -210,7 +210,7 @@
     </message>
     <message>
         <source>log_files_content</source>
-        <translation>除您填写和添加的内容外，报告还包含此设备的名称（%1）及其日志文件：共 %2 个，%3。</translation>
+        <translation>除您填写和添加的内容外，报告还包含此设备的名称（%1）、用于向服务标识此设备的信息及其日志文件：共 %2 个，%3。</translation>
     </message>
     <message>
         <source>log_files_end_only</source>
@@ -262,7 +262,7 @@
     </message>
     <message>
         <source>web_error_not_configured</source>
-        <translation>此设备未配置服务地址。</translation>
+        <translation>此设备未正确配置与服务的连接。</translation>
     </message>
     <message>
         <source>web_error_not_trusted</source>

@@ -1,6 +1,7 @@
 #include "platform/files/ZipUtility.h"
 
 #include "platform/security/LogText.h"
+#include "platform/system/SystemSession.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -30,10 +31,10 @@ public:
         zip_stat_init(&m_facts);
         zip_error_init(&m_error);
         char probe = 0; // another program may have locked what it has left readable
-        m_isReadable = m_file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) &&
-                       (m_file.size() == 0 || m_file.getChar(&probe));
+        m_isReadable =
+            SystemSession::Native().OpenShared(m_file) && (m_file.size() == 0 || m_file.getChar(&probe));
         m_size = m_file.size();
-        m_facts.mtime = QFileInfo(m_file).lastModified().toSecsSinceEpoch();
+        m_facts.mtime = QFileInfo(file.path).lastModified().toSecsSinceEpoch();
         m_facts.valid = ZIP_STAT_MTIME; // a size would have to hold, but the file may be cut meanwhile
     }
     ~OpenedFile() { zip_error_fini(&m_error); }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFile>
 #include <QString>
 #include <stdexcept>
 #include <string>
@@ -32,6 +33,10 @@ public:
 
     /// Lets nobody but this user and the administrators open the file; false when that fails.
     virtual bool KeepPrivate(const QString& file) const = 0;
+
+    /// Opens the file for reading without a buffer; others may write to it, rename it and remove it
+    /// meanwhile.
+    virtual bool OpenShared(QFile& file) const = 0;
 
     /// Marks the file as one from the internet, so that the system warns of it before it runs; true where the
     /// system knows no such mark.

@@ -13,16 +13,18 @@
 
 namespace {
 
-/// Where everything thrown on the way becomes the call's result.
+/// One call, which `act` makes in a session of its own; everything thrown on the way becomes its result.
 template <class Act>
-WebFailure Carry(const char* function, WebFailure* told, const Act& act) {
+WebFailure Carry(const char* function, const WebSettings& settings, const TaskControl& control,
+                 WebFailure* told, const Act& act) {
     WebFailure failure;
     try {
         if (IsGuiThread())
             throw WebException(WebError::Internal, "called on the GUI thread");
-        act();
+        WebSession session(settings, control);
+        act(session, settings);
     } catch (const WebException& exception) {
-        failure = {exception.error, exception.what()};
+        failure = {exception.error, exception.what(), exception.said};
     } catch (const Json::Exception& exception) { // a value of the wrong type
         failure = {WebError::BadAnswer, exception.what()};
     }
@@ -37,13 +39,17 @@ WebFailure Carry(const char* function, WebFailure* told, const Act& act) {
     throw WebException(WebError::BadAnswer, why);
 }
 
-template <class Entity>
-Entity ReadAnswer(const WebAnswer& answer) {
-    const std::optional<Json::Value> object = ReadObject(answer.body);
+Json::Value ObjectOf(const WebAnswer& answer) {
+    std::optional<Json::Value> object = ReadObject(answer.body);
     if (!object)
         RefuseAnswer("the answer is no JSON object");
+    return *std::move(object);
+}
+
+template <class Entity>
+Entity Read(const Json::Value& object) {
     Entity entity;
-    entity.ReadFromJson(*object);
+    entity.ReadFromJson(object);
     return entity;
 }
 
@@ -65,6 +71,9 @@ QUrl Endpoint(const WebSettings& settings, const char* path, const WebFields& qu
     while (base.endsWith(QLatin1Char('/')))
         base.chop(1);
     url.setPath(base + QLatin1String(path));
+    if (!settings.Allow(url))
+        throw WebException(WebError::NotConfigured, "the configured address of the service is not allowed: " +
+                                                        LogText(url.toString(QUrl::RemoveUserInfo)));
     AddQuery(url, query);
     return url;
 }
@@ -120,7 +129,7 @@ private:
                                {{"type", Name(type)},
                                 {"name", m_file.Name().toStdString()},
                                 {"size", std::to_string(m_file.Size())}});
-        m_policy = ReadAnswer<NubraUploadPolicyResponse>(m_session.Send(request)).data;
+        m_policy = Read<NubraUploadPolicyResponse>(ObjectOf(m_session.Send(request))).data;
     }
 
     WebAnswer SendFile() {
@@ -139,13 +148,15 @@ private:
 
     /// Without a notice the store itself says that it has the file.
     NubraUploadResult Proof(const WebAnswer& answer) const {
-        if (const auto object = ReadObject(answer.body); object && !(*object)["code"].isInt())
+        const Json::Value object = ObjectOf(answer);
+        if (!object["code"].isInt())
             RefuseAnswer("the file store tells no code");
-        const auto response = ReadAnswer<NubraUploadResponse>(answer);
+        const auto response = Read<NubraUploadResponse>(object);
         if (response.code != 0)
-            throw WebException(WebError::Refused, "the file store answered with code " +
-                                                      std::to_string(response.code) + ": " +
-                                                      LogText(response.message));
+            throw WebException(WebError::Refused,
+                               "the file store answered with code " + std::to_string(response.code) + ": " +
+                                   LogText(response.message),
+                               false, response.message);
         if (response.data.fileSize != 0 && response.data.fileSize != m_file.Size())
             RefuseAnswer("the file store has another number of bytes");
         return response.data;
@@ -158,7 +169,7 @@ private:
         notice["headerFields"] = entity::WriteValue(PickUp(answer));
         const WebRequest request =
             Post(Endpoint(m_settings, WebEndpoint::UploadNotice), notice.toStyledString());
-        const auto response = ReadAnswer<NubraNotifyUploadResultResponse>(m_session.Send(request));
+        const auto response = Read<NubraNotifyUploadResultResponse>(ObjectOf(m_session.Send(request)));
         NubraUploadResult result;
         result.fileKey = response.data.fileKey;
         result.downloadUrl = response.data.downloadUrl;
@@ -244,15 +255,14 @@ NubraUploadResponse RyxWebClient::UploadFile(const std::wstring& path, UploadTyp
                                              const TaskControl& control, WebFailure* failure) const {
     NubraUploadResponse response;
     response.code = -1;
-    const WebFailure ended = Carry("UploadFile", failure, [&] {
-        const WebSettings settings = Settings();
-        const UploadSource file(path);
-        WebSession session(settings, control);
-        response.data = Upload(session, settings, file).Run(type);
-        response.data.fileSize =
-            static_cast<std::int32_t>(qMin<qint64>(file.Size(), std::numeric_limits<std::int32_t>::max()));
-        response.code = 0;
-    });
+    const WebFailure ended = Carry(
+        "UploadFile", Settings(), control, failure, [&](WebSession& session, const WebSettings& settings) {
+            const UploadSource file(path);
+            response.data = Upload(session, settings, file).Run(type);
+            response.data.fileSize = static_cast<std::int32_t>(
+                qMin<qint64>(file.Size(), std::numeric_limits<std::int32_t>::max()));
+            response.code = 0;
+        });
     response.message = ended.words;
     return response;
 }
@@ -260,54 +270,53 @@ NubraUploadResponse RyxWebClient::UploadFile(const std::wstring& path, UploadTyp
 FileDto RyxWebClient::NotifyDeviceLogUpload(const std::string& device, const std::string& fileKey,
                                             const TaskControl& control, WebFailure* failure) const {
     FileDto log;
-    Carry("NotifyDeviceLogUpload", failure, [&] {
-        const WebSettings settings = Settings();
-        WebSession session(settings, control);
-        Json::Value notice;
-        notice["device"] = device;
-        notice["fileKey"] = fileKey;
-        const auto answer = ReadAnswer<NotifyDeviceLogUploadResponse>(
-            session.Send(Post(Endpoint(settings, WebEndpoint::DeviceLog), notice.toStyledString())));
-        if (answer.data.empty())
-            RefuseAnswer("the service does not name the log");
-        log.name = fileKey;
-        log.url = answer.data;
-    });
+    Carry("NotifyDeviceLogUpload", Settings(), control, failure,
+          [&](WebSession& session, const WebSettings& settings) {
+              Json::Value notice;
+              notice["device"] = device;
+              notice["fileKey"] = fileKey;
+              const auto answer = Read<NotifyDeviceLogUploadResponse>(ObjectOf(
+                  session.Send(Post(Endpoint(settings, WebEndpoint::DeviceLog), notice.toStyledString()))));
+              if (answer.data.empty())
+                  RefuseAnswer("the service does not name the log");
+              log.name = fileKey;
+              log.url = answer.data;
+          });
     return log;
 }
 
 std::string RyxWebClient::GetDownloadUrlByFileKey(const std::string& fileKey, const TaskControl& control,
                                                   WebFailure* failure) const {
     std::string address;
-    Carry("GetDownloadUrlByFileKey", failure, [&] {
-        const WebSettings settings = Settings();
-        WebSession session(settings, control);
-        WebRequest request;
-        request.url = Endpoint(settings, WebEndpoint::DownloadUrl, {{"fileKey", fileKey}});
-        const NubraFileInfo file = ReadAnswer<NubraNotifyUploadResultResponse>(session.Send(request)).data;
-        if (file.downloadUrl.empty() || file.fileKey != fileKey)
-            RefuseAnswer("the service does not name the file's address");
-        address = file.downloadUrl;
-    });
+    Carry("GetDownloadUrlByFileKey", Settings(), control, failure,
+          [&](WebSession& session, const WebSettings& settings) {
+              WebRequest request;
+              request.url = Endpoint(settings, WebEndpoint::DownloadUrl, {{"fileKey", fileKey}});
+              const NubraFileInfo file =
+                  Read<NubraNotifyUploadResultResponse>(ObjectOf(session.Send(request))).data;
+              if (file.downloadUrl.empty() || file.fileKey != fileKey)
+                  RefuseAnswer("the service does not name the file's address");
+              address = file.downloadUrl;
+          });
     return address;
 }
 
 bool RyxWebClient::Feedback(const std::string& json, std::string& message, const TaskControl& control,
                             WebFailure* failure) const {
-    const WebFailure ended = Carry("Feedback", failure, [&] {
-        const WebSettings settings = Settings();
-        WebSession session(settings, control);
-        WebRequest request = Post(Endpoint(settings, WebEndpoint::Feedback), json);
-        request.isRepeatable = false;
-        const std::optional<Json::Value> answer = ReadObject(session.Send(request).body);
-        const Json::Value code = answer ? answer->get("code", Json::Value()) : Json::Value();
-        if (!code.isInt())
-            RefuseAnswer("the answer tells no code");
-        message = answer->get("message", "").asString();
-        if (code.asInt() != 0)
-            throw WebException(WebError::Refused,
-                               message.empty() ? "code " + std::to_string(code.asInt()) : message);
-    });
+    const WebFailure ended = Carry(
+        "Feedback", Settings(), control, failure, [&](WebSession& session, const WebSettings& settings) {
+            WebRequest request = Post(Endpoint(settings, WebEndpoint::Feedback), json);
+            request.isRepeatable = false;
+            const Json::Value answer = ObjectOf(session.Send(request));
+            const Json::Value& code = answer["code"];
+            if (!code.isInt())
+                RefuseAnswer("the answer tells no code");
+            message = answer.get("message", "").asString();
+            if (code.asInt() != 0)
+                throw WebException(WebError::Refused,
+                                   message.empty() ? "code " + std::to_string(code.asInt()) : message, false,
+                                   message);
+        });
     if (ended.error != WebError::None)
         message = ended.words;
     return ended.error == WebError::None;
@@ -315,16 +324,15 @@ bool RyxWebClient::Feedback(const std::string& json, std::string& message, const
 
 bool RyxWebClient::DownloadFile(const DownloadRequest& request, const TaskControl& control,
                                 WebFailure* failure) const {
-    const WebFailure ended = Carry("DownloadFile", failure, [&] {
-        const WebSettings settings = Settings();
-        WebSession session(settings, control);
-        WebRequest question;
-        question.url = QUrl::fromEncoded(QByteArray::fromStdString(request.url));
-        DownloadTarget target(request, control);
-        session.Send(question, [&target](qint64 offset, const QByteArray& bytes, qint64 total) {
-            return target.Take(offset, bytes, total);
+    const WebFailure ended =
+        Carry("DownloadFile", Settings(), control, failure, [&](WebSession& session, const WebSettings&) {
+            WebRequest question;
+            question.url = QUrl::fromEncoded(QByteArray::fromStdString(request.url));
+            DownloadTarget target(request, control);
+            session.Send(question, [&target](qint64 offset, const QByteArray& bytes, qint64 total) {
+                return target.Take(offset, bytes, total);
+            });
+            target.Finish();
         });
-        target.Finish();
-    });
     return ended.error == WebError::None;
 }

@@ -4,7 +4,6 @@
 #include "platform/files/TaskControl.h"
 #include "platform/web/WebSettings.h"
 
-#include <memory>
 #include <mutex>
 #include <string>
 
@@ -12,9 +11,9 @@
 enum class WebError {
     None,
     Cancelled,     ///< the caller's wish
-    NotConfigured, ///< the configuration names no service
+    NotConfigured, ///< the configuration names no service, or not how it can be reached
     Unreachable,   ///< no connection, or it broke
-    NotTrusted,    ///< the server could not prove who it is, or the address is neither https nor allowed
+    NotTrusted,    ///< the server could not prove who it is, or an address is neither https nor allowed
     TimedOut,      ///< silence, or the call's time was over
     Refused,       ///< the service answered with an error
     BadAnswer,     ///< the answer is not what it should be, or is too large
@@ -24,10 +23,11 @@ enum class WebError {
     Internal,      ///< the program's own fault, such as a call on the GUI thread
 };
 
-/// How a call failed. The words are English, for the log, and may contain what the service said.
+/// How a call failed.
 struct WebFailure {
     WebError error = WebError::None;
-    std::string words;
+    std::string words;     ///< English, for the log; may contain what the service said
+    std::string said = {}; ///< by the service itself, for the user; empty when it said nothing
 };
 
 /// What a file is to the file store.

@@ -4,6 +4,7 @@
 #include "platform/web/WebJson.h"
 
 #include <QRegularExpression>
+#include <QSet>
 #include <QSslCertificate>
 #include <QSslConfiguration>
 #include <QSslSocket>
@@ -15,7 +16,7 @@ constexpr qint64 LargestAnswer = 1024 * 1024;
 constexpr qint64 ReadBuffer = 256 * 1024;
 
 std::string SecondsText(std::chrono::milliseconds time) {
-    return std::to_string(static_cast<double>(time.count()) / 1000) + " s";
+    return QString::number(static_cast<double>(time.count()) / 1000).toStdString() + " s";
 }
 
 } // namespace
@@ -61,7 +62,7 @@ WebAnswer WebExchange::Wait() {
         m_sink(0, {}, 0); // an empty answer takes back what an earlier attempt has brought
     if (m_end)
         throw WebException(*m_end);
-    if (m_reply->error() != QNetworkReply::NoError || (!IsSuccess() && Redirect().isEmpty()))
+    if (Redirect().isEmpty() && (m_reply->error() != QNetworkReply::NoError || !IsSuccess()))
         ThrowFailure();
     if (m_request.file && m_request.file->HasChanged())
         throw WebException(WebError::File, "the file changed while it was sent");
@@ -70,8 +71,11 @@ WebAnswer WebExchange::Wait() {
 }
 
 QUrl WebExchange::Redirect() const {
-    const QUrl target = m_reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
-    return target.isEmpty() ? QUrl() : m_request.url.resolved(target);
+    // Qt tells none when it could not send the body again.
+    static const QSet<int> redirects{301, 302, 303, 307, 308};
+    const QUrl target = QUrl::fromEncoded(m_reply->rawHeader("Location"));
+    const bool isRedirect = redirects.contains(Status()) && target.isValid() && !target.isEmpty();
+    return isRedirect ? m_request.url.resolved(target) : QUrl();
 }
 
 // Of all that Qt builds on, OpenSSL alone leaves the system's authorities out when it is given others. The
@@ -154,9 +158,11 @@ void WebExchange::ThrowFailure() {
     if (const int status = Status(); status != 0 && !IsSuccess()) {
         const std::optional<Json::Value> answer = ReadObject(m_answer.body);
         const Json::Value message = answer ? answer->get("message", Json::Value()) : Json::Value();
-        const std::string said = message.isString() ? ": " + LogText(message.asString()) : std::string();
-        throw WebException(WebError::Refused, "the server answered " + std::to_string(status) + said,
-                           status >= 500);
+        const std::string said = message.isString() ? message.asString() : std::string();
+        throw WebException(WebError::Refused,
+                           "the server answered " + std::to_string(status) + (said.empty() ? "" : ": ") +
+                               LogText(said),
+                           status >= 500, said);
     }
     if (m_reply->error() == QNetworkReply::SslHandshakeFailedError)
         throw WebException(WebError::NotTrusted,

@@ -21,18 +21,18 @@ namespace {
 constexpr int MostRedirects = 5;
 constexpr unsigned long PauseSliceMs = 20;
 
-/// The configured proxy, or else the system's choice; none for the own machine in the latter case.
+/// The configured proxy, or else the system's choice; none for the own machine, which plain http must not
+/// leave.
 class Proxies : public QNetworkProxyFactory {
 public:
     explicit Proxies(const QString& configured) : m_configured(configured) {}
 
     QList<QNetworkProxy> queryProxy(const QNetworkProxyQuery& query) override {
-        if (m_configured.isEmpty())
-            return IsLoopback(query.peerHostName()) ? QList{QNetworkProxy(QNetworkProxy::NoProxy)}
-                                                    : systemProxyForQuery(query);
-        const QUrl url(m_configured);
-        if (m_configured == QLatin1String(WebSettings::NoProxy))
+        if (m_configured == QLatin1String(WebSettings::NoProxy) || IsLoopback(query.peerHostName()))
             return {QNetworkProxy(QNetworkProxy::NoProxy)};
+        if (m_configured.isEmpty())
+            return systemProxyForQuery(query);
+        const QUrl url(m_configured);
         const bool isSocks = url.scheme() == QLatin1String("socks5");
         return {QNetworkProxy(isSocks ? QNetworkProxy::Socks5Proxy : QNetworkProxy::HttpProxy, url.host(),
                               static_cast<quint16>(url.port(isSocks ? 1080 : 8080)), url.userName(),
@@ -43,8 +43,8 @@ private:
     QString m_configured;
 };
 
-/// A body that can be sent once only. Qt would send any other again by itself when the server hangs up
-/// without an answer.
+/// A body that can be sent once only. Qt would send any other request, one without a body too, again by
+/// itself when the connection breaks, even behind half an answer, and append the second answer to it.
 class SinglePassBody : public QIODevice {
 public:
     explicit SinglePassBody(const QByteArray& bytes) : m_bytes(bytes) { open(QIODevice::ReadOnly); }
@@ -66,6 +66,13 @@ protected:
 private:
     QByteArray m_bytes;
     int m_read = 0;
+};
+
+/// The same for a body on the disk.
+class SinglePassFile : public QFile {
+public:
+    using QFile::QFile;
+    bool reset() override { return false; }
 };
 
 /// What belongs to the connection, to its proxy and to the length of the body is the client's own to say.
@@ -97,7 +104,7 @@ QByteArray Quoted(const QByteArray& name) {
 }
 
 std::unique_ptr<QFile> Open(const UploadSource& source) {
-    auto file = std::make_unique<QFile>(source.Path());
+    auto file = std::make_unique<SinglePassFile>(source.Path());
     if (!file->open(QIODevice::ReadOnly))
         throw WebException(WebError::File, LogText(file->errorString()));
     return file;
@@ -130,7 +137,7 @@ QSslConfiguration TlsConfiguration(const QString& caFile) {
     if (!caFile.isEmpty()) {
         const QList<QSslCertificate> trusted = QSslCertificate::fromPath(caFile);
         if (trusted.isEmpty())
-            throw WebException(WebError::NotTrusted, "there is no certificate in " + LogText(caFile));
+            throw WebException(WebError::NotConfigured, "there is no certificate in " + LogText(caFile));
         tls.setCaCertificates(trusted);
     }
     return tls;
@@ -234,9 +241,6 @@ QNetworkReply* WebSession::Start(const WebRequest& request) {
         form.release()->setParent(reply);
         return reply;
     }
-    if (!request.file && request.isRepeatable)
-        return m_manager.sendCustomRequest(head, request.method, request.body);
-
     std::unique_ptr<QIODevice> body;
     if (request.file) {
         if (!head.header(QNetworkRequest::ContentTypeHeader).isValid())

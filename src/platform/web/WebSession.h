@@ -14,11 +14,13 @@
 
 /// Why a call cannot go on; ends in the result of the web client's public calls.
 struct WebException : std::runtime_error {
-    WebException(WebError reason, const std::string& words, bool passing = false)
-        : std::runtime_error(words), error(reason), mayPass(passing) {}
+    WebException(WebError reason, const std::string& words, bool passing = false,
+                 const std::string& message = {})
+        : std::runtime_error(words), error(reason), mayPass(passing), said(message) {}
 
     WebError error;
-    bool mayPass; ///< the same request may well succeed a moment later
+    bool mayPass;     ///< the same request may well succeed a moment later
+    std::string said; ///< by the service itself
 };
 
 /// A file as it was when its upload began.

@@ -25,6 +25,10 @@ public:
         return ::chmod(file.toLocal8Bit().constData(), S_IRUSR | S_IWUSR) == 0;
     }
 
+    bool OpenShared(QFile& file) const override {
+        return file.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+    }
+
     bool MarkFromInternet(const QString&) const override { return true; }
 
     /// Shared memory is keyed by a file here; the user's number keeps users apart.

@@ -5,7 +5,9 @@
 #include <windows.h>
 
 #include <QDir>
+#include <fcntl.h>
 #include <glog/logging.h>
+#include <io.h>
 #include <knownfolders.h>
 #include <memory>
 #include <objbase.h>
@@ -70,6 +72,23 @@ public:
         return list &&
                SetFileSecurityW(QDir::toNativeSeparators(file).toStdWString().c_str(),
                                 DACL_SECURITY_INFORMATION | PROTECTED_DACL_SECURITY_INFORMATION, list.get());
+    }
+
+    // Qt's own way of opening forbids others to rename and to remove.
+    bool OpenShared(QFile& file) const override {
+        const std::wstring path = QDir::toNativeSeparators(file.fileName()).toStdWString();
+        const HANDLE handle =
+            CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                        nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+        if (handle == INVALID_HANDLE_VALUE)
+            return file.open(QIODevice::ReadOnly | QIODevice::Unbuffered); // which knows why it fails
+        const int descriptor = _open_osfhandle(reinterpret_cast<intptr_t>(handle), _O_RDONLY);
+        if (descriptor < 0) {
+            CloseHandle(handle);
+            return false;
+        }
+        return file.open(descriptor, QIODevice::ReadOnly | QIODevice::Unbuffered,
+                         QFileDevice::AutoCloseHandle);
     }
 
     bool MarkFromInternet(const QString& file) const override {

@@ -1,4 +1,4 @@
-#include "feedback/Workers.h"
+#include "platform/files/Workers.h"
 
 #include "platform/security/LogText.h"
 

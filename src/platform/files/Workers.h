@@ -7,8 +7,8 @@
 #include <type_traits>
 #include <utility>
 
-/// Threads for the long work of one page. The global ones would hold the program's end back until all of
-/// their work is done. GUI thread.
+/// Threads for the long work of one part of the program. The global ones would hold the program's end back
+/// until all of their work is done. GUI thread.
 class Workers {
 public:
     explicit Workers(int threads);
