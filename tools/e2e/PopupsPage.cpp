@@ -8,6 +8,8 @@ namespace {
 const QColor Accent("#2456D6");
 const QColor Warning("#8A5A00");
 constexpr QPoint MenuEntry(120, 178);
+constexpr QRect PickButton(320, 530, 170, 140); // the part of the page where it stands
+constexpr int ButtonPixels = 2000;
 constexpr int FilledPixels = 5500; // of the button and the frame around a small window
 constexpr int SignPixels = 30;
 
@@ -28,9 +30,15 @@ bool PopupsPage::OpenPicker() {
     if (!window)
         return false;
     m_desktop.Click(window->place.topLeft() + MenuEntry); // another window may have the focus
-    for (int stop = 0; stop < 6; ++stop)                  // past the menu's other entries and the switch
-        m_desktop.Press("Tab");
-    m_desktop.Press("space");
+    const QRect part = PickButton.translated(window->place.topLeft());
+    ColorArea button;
+    const auto isThere = [&] {
+        button = FindColor(m_desktop.Screenshot(part), Accent);
+        return button.pixels > ButtonPixels;
+    };
+    if (!WaitUntilSettled(isThere))
+        return false;
+    m_desktop.Click(part.topLeft() + button.bounds.center());
     return WaitUntil([this] { return IsPicking(); });
 }
 
