@@ -118,10 +118,11 @@ public:
         machine.Page().InvokeBindingUI();
         return true;
     }
-    // Before the page is asked: it draws itself, and takes the state back when the notice tells of a failure.
+    // The page draws itself. A notice may tell of a failure.
     bool UnenrolledNotice(EnrollStateMachine& machine, const std::string& body, bool) const override {
-        machine.SetState(EnrollStates::NoEnrollYet());
-        return machine.Page().InvokeUnEnrollComplete(body, false);
+        const bool unenrolled = machine.Page().InvokeUnEnrollComplete(body, false);
+        machine.SetState(unenrolled ? EnrollStates::NoEnrollYet() : EnrollStates::Connected());
+        return unenrolled;
     }
     bool DeviceNameChanged(EnrollStateMachine& machine, const std::string& body) const override {
         machine.Page().InvokeDeviceNameChanged(body);

@@ -28,18 +28,17 @@ namespace {
 
 constexpr char NetError[] = "net_error"; // the service was not reached
 
-/// The result in `body`. One that cannot be read counts as `unreadable` does: left to whoever catches
-/// exceptions, the wait for it would never end.
-DeviceBindingResult ReadResult(const std::string& body, bool unreadable) {
-    DeviceBindingResult result;
-    result.result = unreadable;
+/// The result in `body`; one that cannot be read says nothing. Left to whoever catches exceptions, the wait
+/// for it would never end.
+template <class Result>
+Result ReadResult(const std::string& body) {
+    Result result;
     try {
         result.ReadFromString(body);
     } catch (const std::exception& error) {
         LOG(WARNING) << "UBodyEnroll::ReadResult cannot read a result: "
                      << LogText(std::string(error.what()));
         result = {};
-        result.result = unreadable;
     }
     return result;
 }
@@ -155,7 +154,7 @@ bool UBodyEnroll::InvokeBinding() {
 }
 
 bool UBodyEnroll::InvokeEnrollComplete(const std::string& body) {
-    const DeviceBindingResult result = ReadResult(body, false);
+    const auto result = ReadResult<DeviceBindingResult>(body);
     EndWaiting();
     if (!result.result) {
         if (result.code != NetError) // one that was lost with the link may have gone well
@@ -177,12 +176,11 @@ bool UBodyEnroll::InvokeEnrollComplete(const std::string& body) {
 }
 
 bool UBodyEnroll::InvokeUnEnrollComplete(const std::string& body, bool requested) {
-    const DeviceBindingResult result = ReadResult(body, !requested);
-    if (!result.result) {
+    const auto result = ReadResult<UnenrolmentResult>(body);
+    // A notice that names no failure is an unenrolment.
+    if (!result.result.value_or(!requested && result.code.empty())) {
         CheckDeviceBindingResult(result.code, false);
         EndWaiting();
-        if (!requested) // it has left the state, and is no unenrolment
-            m_machine->SetState(EnrollStates::Connected());
         return false;
     }
     ForgetEnrolment();
