@@ -150,6 +150,7 @@ bool UBodyEnroll::InvokeBinding() {
         return true;
     EndWaiting();
     CheckDeviceBindingResult(NetError, true);
+    m_request = {};
     return false;
 }
 
@@ -226,7 +227,8 @@ void UBodyEnroll::CheckDeviceBindingResult(const std::string& code, bool fromBin
     else if (code == NetError)
         ShowFailure(fromBind ? ButtonState::Bind : ButtonState::Unbind, QT_TR_NOOP("dialog_bind_fail_text"),
                     QT_TR_NOOP("dialog_disconnect_content_text"),
-                    QT_TR_NOOP("view_register_windows_title_bind_state"));
+                    fromBind ? QT_TR_NOOP("view_register_windows_title_bind_state")
+                             : QT_TR_NOOP("view_register_windows_title_unbind_state"));
     else if (code == "170002" || code == "170004")
         told = tr("bind_result_no_net_error_tip");
     // The later word counts, and that of an unenrolment is the last.
@@ -303,12 +305,16 @@ void UBodyEnroll::InvokeDisConnectedUI() {
 }
 
 void UBodyEnroll::InvokeNoBindUI() {
-    if (m_wait == Wait::ForUnbinding) // the status came before the result
+    // The status may be the only one to say that the enrolment is over, or the first.
+    const AppContextData& context = *AppContextData::Instance();
+    if (m_wait == Wait::ForUnbinding || (!context.Enrolled() && !context.SchoolCode().empty()))
         ForgetEnrolment();
     EndWaiting();
     Form().Tags().TagsListDelete();
     Form().ClearErrors();
     SetErrorAreaVisible(false);
+    else if (m_wait == Wait::ForNothing && PipeClientService::Instance()->IsConnected())
+        m_request = {}; // whose result was lost with the link before, and which has not gone well
     SetReadOnly(false);
     SetButton(ButtonState::Bind);
     ShowEnrolled(false);
@@ -341,7 +347,10 @@ void UBodyEnroll::ShowFailure(ButtonState retry, const char* title, const char* 
         return; // it goes with the page
     if (!m_modal) {
         m_modal = new UBodyEnrollModal(this);
-        connect(m_modal, &UBodyEnrollModal::OnOk, this, [this] { Press(m_retry); });
+        connect(m_modal, &UBodyEnrollModal::OnOk, this, [this] {
+            if (m_retry != ButtonState::Connect) // which would open this dialog again
+                Press(m_retry);
+        });
     }
     m_retry = retry;
     m_modal->setTitle(title);
