@@ -195,6 +195,7 @@ void UBodyEnroll::ForgetEnrolment() {
     Form().Name().SetText({});
 }
 
+    Form().Agreement().Box().setChecked(false);
 bool UBodyEnroll::InvokeAutoEnroll(const std::string& body) {
     AutoEnrollParams params;
     params.ReadFromString(body);

@@ -160,6 +160,7 @@ TEST_F(EnrolmentPage, ChecksInOrderAndSendsWhatWasEntered) {
         {Code, Account, "Hall 3", nullptr, nullptr, true, "none", "Hall 3"},
         {Code, Account, "", "Lab ", "7", true, "none", "Lab 7"},
         {Code, "A@b.c", "", "", "7", true, "none", "7"},
+        {Code, Account, "  ", nullptr, nullptr, true, "deviceName "},
     };
     for (const auto& row : cases) {
         SCOPED_TRACE(std::string(row.code) + ' ' + row.account + ' ' + row.name);
@@ -218,6 +219,8 @@ TEST_F(EnrolmentPage, LeavingAFieldJudgesItAndEveryAnswerCanBeCorrected) {
     Edit("deviceName").setFocus();
     stage->Window().findChild<UMenu*>()->SwitchTo(PageIndex(PageId::Network));
     stage->Window().findChild<UMenu*>()->SwitchTo(PageIndex(PageId::Enrolment));
+    QTest::keyClick(&Edit("deviceName"), Qt::Key_Tab);
+    EXPECT_EQ(Marked(), "deviceName ");
     EXPECT_EQ(Marked(), "") << "gone with the page";
     EXPECT_EQ(Edit("schoolCode").text(), QStringLiteral("123456"));
     EXPECT_TRUE(Page().findChild<QWidget*>(QStringLiteral("DeviceTagsItem"))) << "tags stay";
