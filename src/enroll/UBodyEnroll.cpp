@@ -84,7 +84,7 @@ void UBodyEnroll::BeginOnce() {
     if (const IotStatus status = Window().KnownLinkStatus(); enrolled && status != IotStatus::NotEnrolled)
         m_machine->FollowStatus(status);
     if (m_usb->Path().isEmpty())
-        m_usb->FindEnrollJson(m_detector->Drives(), !enrolled);
+        m_usb->FindEnrollJson(m_detector->Drives(), false);
 }
 
 void UBodyEnroll::changeEvent(QEvent* event) {
@@ -432,5 +432,8 @@ void UBodyEnroll::FillFromUsbEnrollmentFile(const UsbEnrollmentFile& file) {
     if (!m_usbAlert)
         m_usbAlert = new UBodyEnrollUsbAlert(this);
     m_usbAlert->SetFile(m_usb->Path());
-    m_usbAlert->show();
+    if (IsInView())
+        m_usbAlert->show();
+    else // the user has left the page while the drive was read
+        Window().Notify(NoticeKind::Success, tr("usb_enroll_alert_title"));
 }
