@@ -3,49 +3,6 @@
 #include "enroll/EnrollPage.h"
 #include "enroll/EnrollStateMachine.h"
 
-bool EnrollStateBase::BindRequested(EnrollStateMachine&) const {
-    return false;
-}
-bool EnrollStateBase::ReconnectRequested(EnrollStateMachine&) const {
-    return false;
-}
-bool EnrollStateBase::UnbindRequested(EnrollStateMachine&) const {
-    return false;
-}
-bool EnrollStateBase::Enter(EnrollStateMachine&) const {
-    return false;
-}
-bool EnrollStateBase::BindResult(EnrollStateMachine&, const std::string&, bool) const {
-    return false;
-}
-bool EnrollStateBase::UnbindResult(EnrollStateMachine&, const std::string&, bool) const {
-    return false;
-}
-bool EnrollStateBase::AutoEnrollRequest(EnrollStateMachine&, const std::string&, bool) const {
-    return false;
-}
-bool EnrollStateBase::UnenrolledNotice(EnrollStateMachine&, const std::string&, bool) const {
-    return false;
-}
-bool EnrollStateBase::DeviceNameChanged(EnrollStateMachine&, const std::string&) const {
-    return false;
-}
-bool EnrollStateBase::DeviceTagsChanged(EnrollStateMachine&, const std::string&) const {
-    return false;
-}
-bool EnrollStateBase::AdminAccountChanged(EnrollStateMachine&, const std::string&) const {
-    return false;
-}
-bool EnrollStateBase::UsbArrived(EnrollStateMachine&, const QString&) const {
-    return false;
-}
-bool EnrollStateBase::UsbRemoved(EnrollStateMachine&, const QString&) const {
-    return false;
-}
-bool EnrollStateBase::PageHidden(EnrollStateMachine&) const {
-    return false;
-}
-
 namespace {
 
 /// Every state forgets a drive that has gone.

@@ -55,8 +55,10 @@ UBodyEnroll::UBodyEnroll(QWidget* parent, const SystemDrives& drives)
 
 void UBodyEnroll::InitConnect() {
     connect(this, &EnrollView::ButtonClicked, this, &UBodyEnroll::OnClickedBindButton);
-    connect(PipeClientService::Instance(), &PipeClientService::ConnectChanged, this,
-            &UBodyEnroll::OnConnectChanged);
+    connect(PipeClientService::Instance(), &PipeClientService::ConnectChanged, this, [this](bool connected) {
+        if (!connected)
+            FailWait();
+    });
     connect(m_usb, &UsbEnrollment::Found, this, &UBodyEnroll::OnEnrollJsonFound);
     installEventFilter(this);
 }
@@ -148,9 +150,9 @@ bool UBodyEnroll::InvokeBinding() {
     ControllerBase* controller = Window().MainController();
     if (controller && controller->Send(PipeKey::Binding, m_request.WriteToString()))
         return true;
+    m_request = {};
     EndWaiting();
     CheckDeviceBindingResult(NetError, true);
-    m_request = {};
     return false;
 }
 
@@ -193,9 +195,9 @@ void UBodyEnroll::ForgetEnrolment() {
     m_request = {};
     AppContextData::Instance()->ForgetEnrolment();
     Form().Name().SetText({});
+    Form().Agreement().Box().setChecked(false);
 }
 
-    Form().Agreement().Box().setChecked(false);
 bool UBodyEnroll::InvokeAutoEnroll(const std::string& body) {
     AutoEnrollParams params;
     params.ReadFromString(body);
@@ -259,8 +261,8 @@ void UBodyEnroll::EndWaiting() {
     Window().EndBinding();
 }
 
-void UBodyEnroll::OnConnectChanged(bool connected) {
-    if (connected || m_wait == Wait::ForNothing)
+void UBodyEnroll::FailWait() {
+    if (m_wait == Wait::ForNothing)
         return;
     DeviceBindingResult failure;
     failure.code = NetError;
@@ -310,12 +312,12 @@ void UBodyEnroll::InvokeNoBindUI() {
     const AppContextData& context = *AppContextData::Instance();
     if (m_wait == Wait::ForUnbinding || (!context.Enrolled() && !context.SchoolCode().empty()))
         ForgetEnrolment();
+    else if (m_wait == Wait::ForNothing && PipeClientService::Instance()->IsConnected())
+        m_request = {}; // whose result was lost with the link before, and which has not gone well
     EndWaiting();
     Form().Tags().TagsListDelete();
     Form().ClearErrors();
     SetErrorAreaVisible(false);
-    else if (m_wait == Wait::ForNothing && PipeClientService::Instance()->IsConnected())
-        m_request = {}; // whose result was lost with the link before, and which has not gone well
     SetReadOnly(false);
     SetButton(ButtonState::Bind);
     ShowEnrolled(false);
@@ -332,7 +334,7 @@ void UBodyEnroll::InvokeConnected() {
     if (!m_unModal) {
         m_unModal = new UBodyEnrollUnModal(this);
         connect(m_unModal, &UBodyEnrollUnModal::UnEnrollingState, this, &UBodyEnroll::OnUnBindingDevice);
-        connect(m_unModal, &UBodyEnrollUnModal::NotSent, this, [this] { OnConnectChanged(false); });
+        connect(m_unModal, &UBodyEnrollUnModal::NotSent, this, &UBodyEnroll::FailWait);
     }
     m_unModal->show();
 }

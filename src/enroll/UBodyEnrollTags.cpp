@@ -120,7 +120,6 @@ void UBodyEnrollTags::OnAddTagSgl(const QString& tag) {
         return;
     AddItem(tag);
     m_add->Clear();
-    emit TagsEdited();
 }
 
 // The button that was clicked is the item's, which must outlive the click.
@@ -132,7 +131,6 @@ void UBodyEnrollTags::OnRemoveItem(UBodyEnrollTagItem* item) {
     m_area->setVisible(!m_items.isEmpty());
     ClearError();
     m_add->FocusField();
-    emit TagsEdited();
 }
 
 void UBodyEnrollTags::SetRefusal(TagRules::Refusal refusal) {
