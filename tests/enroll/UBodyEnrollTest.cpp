@@ -319,7 +319,7 @@ TEST_F(EnrolmentPage, EveryWaitEnds) {
         EXPECT_EQ(Known(), row.known);
         EXPECT_NE(Toast(), "error .");
         if (row.key == 0) {
-            ASSERT_TRUE(QTest::qWaitFor([&] { return link.IsConnected(); }));
+            ASSERT_TRUE(QTest::qWaitFor([&] { return link.IsConnected() && service.IsConnected(); }));
             Press(Retry());
             EXPECT_TRUE(IsWaiting());
             service.Drop();
