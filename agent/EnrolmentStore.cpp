@@ -34,10 +34,12 @@ QString EnrolmentStore::Write(const std::optional<Enrolment>& enrolment) {
     const QString path = QString::fromStdString(AppConfigData::DefaultPath());
     QFile old(path);
     QJsonObject keys;
-    if (old.open(QIODevice::ReadOnly)) {
+    if (old.exists()) { // what stands there and cannot be read must not be lost
+        if (!old.open(QIODevice::ReadOnly))
+            return path + QStringLiteral(": ") + old.errorString();
         QJsonParseError error{};
         keys = QJsonDocument::fromJson(old.readAll(), &error).object();
-        if (error.error != QJsonParseError::NoError) // which would lose every other key
+        if (error.error != QJsonParseError::NoError)
             return path + QStringLiteral(": ") + error.errorString();
     }
     old.close();

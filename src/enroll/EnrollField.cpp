@@ -60,7 +60,8 @@ void EnrollField::SetError(const QString& error) {
     const bool isNew = !error.isEmpty() && error != m_error->text();
     m_error->setText(error);
     m_error->setVisible(!error.isEmpty());
-    m_edit->setAccessibleDescription(error);
+    for (QLineEdit* edit : Edits())
+        edit->setAccessibleDescription(error);
     MarkError(!error.isEmpty());
     if (isNew)
         AnnounceAlert(m_error);

@@ -60,7 +60,7 @@ bool EnrollForm::eventFilter(QObject* watched, QEvent* event) {
             CheckSchoolCodeInputIsRight();
         else if (watched == &m_account->Edit())
             CheckAdminAccountInputIsRight();
-        else if (!m_name->isAncestorOf(QApplication::focusWidget()))
+        else if (!m_name->Edits().contains(qobject_cast<QLineEdit*>(QApplication::focusWidget())))
             CheckDeviceNameInputIsRight();
     }
     return QFrame::eventFilter(watched, event);
@@ -97,7 +97,7 @@ bool EnrollForm::CheckAdminAccountInputIsRight() {
 }
 
 bool EnrollForm::CheckDeviceNameInputIsRight() {
-    const bool right = !m_name->Name().isEmpty();
+    const bool right = !m_name->Name().trimmed().isEmpty();
     m_name->SetError(right ? QString() : tr("view_register_input_error_empty"));
     return right;
 }

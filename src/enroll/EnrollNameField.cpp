@@ -41,8 +41,10 @@ void EnrollNameField::SetText(const QString& name) {
 }
 
 void EnrollNameField::SetParts(const QString& prefix, const QString& suffix) {
-    m_prefix->setText(prefix);
-    m_suffix->setText(suffix);
+    if (!prefix.isEmpty())
+        m_prefix->setText(prefix);
+    if (!suffix.isEmpty())
+        m_suffix->setText(suffix);
     ShowParts(true);
 }
 

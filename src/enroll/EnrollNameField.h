@@ -18,7 +18,7 @@ public:
 
     /// The page of one line, with this name.
     void SetText(const QString& name) override;
-    /// The page of two lines.
+    /// The page of two lines; an empty part leaves what is there.
     void SetParts(const QString& prefix, const QString& suffix);
 
     void SetEditAble(bool editable) override;

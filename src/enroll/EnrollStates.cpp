@@ -3,49 +3,6 @@
 #include "enroll/EnrollPage.h"
 #include "enroll/EnrollStateMachine.h"
 
-bool EnrollStateBase::BindRequested(EnrollStateMachine&) const {
-    return false;
-}
-bool EnrollStateBase::ReconnectRequested(EnrollStateMachine&) const {
-    return false;
-}
-bool EnrollStateBase::UnbindRequested(EnrollStateMachine&) const {
-    return false;
-}
-bool EnrollStateBase::Enter(EnrollStateMachine&) const {
-    return false;
-}
-bool EnrollStateBase::BindResult(EnrollStateMachine&, const std::string&, bool) const {
-    return false;
-}
-bool EnrollStateBase::UnbindResult(EnrollStateMachine&, const std::string&, bool) const {
-    return false;
-}
-bool EnrollStateBase::AutoEnrollRequest(EnrollStateMachine&, const std::string&, bool) const {
-    return false;
-}
-bool EnrollStateBase::UnenrolledNotice(EnrollStateMachine&, const std::string&, bool) const {
-    return false;
-}
-bool EnrollStateBase::DeviceNameChanged(EnrollStateMachine&, const std::string&) const {
-    return false;
-}
-bool EnrollStateBase::DeviceTagsChanged(EnrollStateMachine&, const std::string&) const {
-    return false;
-}
-bool EnrollStateBase::AdminAccountChanged(EnrollStateMachine&, const std::string&) const {
-    return false;
-}
-bool EnrollStateBase::UsbArrived(EnrollStateMachine&, const QString&) const {
-    return false;
-}
-bool EnrollStateBase::UsbRemoved(EnrollStateMachine&, const QString&) const {
-    return false;
-}
-bool EnrollStateBase::PageHidden(EnrollStateMachine&) const {
-    return false;
-}
-
 namespace {
 
 /// Every state forgets a drive that has gone.
@@ -118,10 +75,11 @@ public:
         machine.Page().InvokeBindingUI();
         return true;
     }
-    // Before the page is asked: it draws itself, and takes the state back when the notice tells of a failure.
+    // The page draws itself. A notice may tell of a failure.
     bool UnenrolledNotice(EnrollStateMachine& machine, const std::string& body, bool) const override {
-        machine.SetState(EnrollStates::NoEnrollYet());
-        return machine.Page().InvokeUnEnrollComplete(body, false);
+        const bool unenrolled = machine.Page().InvokeUnEnrollComplete(body, false);
+        machine.SetState(unenrolled ? EnrollStates::NoEnrollYet() : EnrollStates::Connected());
+        return unenrolled;
     }
     bool DeviceNameChanged(EnrollStateMachine& machine, const std::string& body) const override {
         machine.Page().InvokeDeviceNameChanged(body);

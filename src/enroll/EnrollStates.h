@@ -6,30 +6,31 @@
 class EnrollStateMachine;
 
 /// What counts in one situation of the enrolment: each operation is an event, told with the machine that it
-/// happened to. The states have no data; there is one object of each, and they are told apart by identity.
+/// happened to. The base does nothing. The states have no data; there is one object of each, and they are
+/// told apart by identity.
 class EnrollStateBase {
 public:
     /// The button was pressed: to bind, to connect, to unbind.
-    virtual bool BindRequested(EnrollStateMachine& machine) const;
-    virtual bool ReconnectRequested(EnrollStateMachine& machine) const;
-    virtual bool UnbindRequested(EnrollStateMachine& machine) const;
+    virtual bool BindRequested(EnrollStateMachine&) const { return false; }
+    virtual bool ReconnectRequested(EnrollStateMachine&) const { return false; }
+    virtual bool UnbindRequested(EnrollStateMachine&) const { return false; }
 
     /// Shows the state.
-    virtual bool Enter(EnrollStateMachine& machine) const;
+    virtual bool Enter(EnrollStateMachine&) const { return false; }
 
-    /// Messages of the service.
-    virtual bool BindResult(EnrollStateMachine& machine, const std::string& body, bool requested) const;
-    virtual bool UnbindResult(EnrollStateMachine& machine, const std::string& body, bool requested) const;
-    virtual bool AutoEnrollRequest(EnrollStateMachine& machine, const std::string& body, bool flag) const;
-    virtual bool UnenrolledNotice(EnrollStateMachine& machine, const std::string& body, bool requested) const;
-    virtual bool DeviceNameChanged(EnrollStateMachine& machine, const std::string& body) const;
-    virtual bool DeviceTagsChanged(EnrollStateMachine& machine, const std::string& body) const;
-    virtual bool AdminAccountChanged(EnrollStateMachine& machine, const std::string& body) const;
+    /// Messages of the service: the body, and whether the user has asked for what it tells.
+    virtual bool BindResult(EnrollStateMachine&, const std::string&, bool) const { return false; }
+    virtual bool UnbindResult(EnrollStateMachine&, const std::string&, bool) const { return false; }
+    virtual bool AutoEnrollRequest(EnrollStateMachine&, const std::string&, bool) const { return false; }
+    virtual bool UnenrolledNotice(EnrollStateMachine&, const std::string&, bool) const { return false; }
+    virtual bool DeviceNameChanged(EnrollStateMachine&, const std::string&) const { return false; }
+    virtual bool DeviceTagsChanged(EnrollStateMachine&, const std::string&) const { return false; }
+    virtual bool AdminAccountChanged(EnrollStateMachine&, const std::string&) const { return false; }
 
-    virtual bool UsbArrived(EnrollStateMachine& machine, const QString& drive) const;
-    virtual bool UsbRemoved(EnrollStateMachine& machine, const QString& drive) const;
+    virtual bool UsbArrived(EnrollStateMachine&, const QString&) const { return false; }
+    virtual bool UsbRemoved(EnrollStateMachine&, const QString&) const { return false; }
 
-    virtual bool PageHidden(EnrollStateMachine& machine) const;
+    virtual bool PageHidden(EnrollStateMachine&) const { return false; }
 
 protected:
     ~EnrollStateBase() = default;

@@ -42,13 +42,15 @@ void KeepRules(std::vector<std::string>& tags) {
 }
 
 EnrollmentFile::State Parse(const QByteArray& text, UsbEnrollmentFile& content) {
-    const int begin = text.startsWith(ByteOrderMark) ? 3 : 0;
+    const QByteArray json = text.startsWith(ByteOrderMark) ? text.mid(3) : text;
+    if (QString::fromUtf8(json).toUtf8() != json) // the parser does not look
+        return EnrollmentFile::State::NotJson;
     const std::unique_ptr<Json::CharReader> reader(Json::CharReaderBuilder().newCharReader());
     Json::Value root;
     std::string errors;
     // A file has nobody who catches for it, as a message of the service has.
     try {
-        if (!reader->parse(text.constData() + begin, text.constData() + text.size(), &root, &errors))
+        if (!reader->parse(json.begin(), json.end(), &root, &errors))
             return EnrollmentFile::State::NotJson;
     } catch (const Json::Exception&) {
         return EnrollmentFile::State::NotJson; // nested too deeply

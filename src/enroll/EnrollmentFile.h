@@ -12,7 +12,7 @@ struct EnrollmentFile {
         NotRegular,  ///< a link, or no file at all
         TooLarge,    ///< more than 64 KiB
         Unreadable,  ///< it cannot be opened or read
-        NotJson,     ///< the text is no JSON in UTF-8
+        NotJson,     ///< the text is not JSON in UTF-8
         WrongFormat, ///< something in it is of the wrong type
         Incomplete,  ///< without code or account
     };

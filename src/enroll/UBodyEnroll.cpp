@@ -28,18 +28,17 @@ namespace {
 
 constexpr char NetError[] = "net_error"; // the service was not reached
 
-/// The result in `body`. One that cannot be read counts as `unreadable` does: left to whoever catches
-/// exceptions, the wait for it would never end.
-DeviceBindingResult ReadResult(const std::string& body, bool unreadable) {
-    DeviceBindingResult result;
-    result.result = unreadable;
+/// The result in `body`; one that cannot be read says nothing. Left to whoever catches exceptions, the wait
+/// for it would never end.
+template <class Result>
+Result ReadResult(const std::string& body) {
+    Result result;
     try {
         result.ReadFromString(body);
     } catch (const std::exception& error) {
         LOG(WARNING) << "UBodyEnroll::ReadResult cannot read a result: "
                      << LogText(std::string(error.what()));
         result = {};
-        result.result = unreadable;
     }
     return result;
 }
@@ -56,8 +55,10 @@ UBodyEnroll::UBodyEnroll(QWidget* parent, const SystemDrives& drives)
 
 void UBodyEnroll::InitConnect() {
     connect(this, &EnrollView::ButtonClicked, this, &UBodyEnroll::OnClickedBindButton);
-    connect(PipeClientService::Instance(), &PipeClientService::ConnectChanged, this,
-            &UBodyEnroll::OnConnectChanged);
+    connect(PipeClientService::Instance(), &PipeClientService::ConnectChanged, this, [this](bool connected) {
+        if (!connected)
+            FailWait();
+    });
     connect(m_usb, &UsbEnrollment::Found, this, &UBodyEnroll::OnEnrollJsonFound);
     installEventFilter(this);
 }
@@ -85,7 +86,7 @@ void UBodyEnroll::BeginOnce() {
     if (const IotStatus status = Window().KnownLinkStatus(); enrolled && status != IotStatus::NotEnrolled)
         m_machine->FollowStatus(status);
     if (m_usb->Path().isEmpty())
-        m_usb->FindEnrollJson(m_detector->Drives(), !enrolled);
+        m_usb->FindEnrollJson(m_detector->Drives(), false);
 }
 
 void UBodyEnroll::changeEvent(QEvent* event) {
@@ -149,13 +150,14 @@ bool UBodyEnroll::InvokeBinding() {
     ControllerBase* controller = Window().MainController();
     if (controller && controller->Send(PipeKey::Binding, m_request.WriteToString()))
         return true;
+    m_request = {};
     EndWaiting();
     CheckDeviceBindingResult(NetError, true);
     return false;
 }
 
 bool UBodyEnroll::InvokeEnrollComplete(const std::string& body) {
-    const DeviceBindingResult result = ReadResult(body, false);
+    const auto result = ReadResult<DeviceBindingResult>(body);
     EndWaiting();
     if (!result.result) {
         if (result.code != NetError) // one that was lost with the link may have gone well
@@ -177,12 +179,11 @@ bool UBodyEnroll::InvokeEnrollComplete(const std::string& body) {
 }
 
 bool UBodyEnroll::InvokeUnEnrollComplete(const std::string& body, bool requested) {
-    const DeviceBindingResult result = ReadResult(body, !requested);
-    if (!result.result) {
+    const auto result = ReadResult<UnenrolmentResult>(body);
+    // A notice that names no failure is an unenrolment.
+    if (!result.result.value_or(!requested && result.code.empty())) {
         CheckDeviceBindingResult(result.code, false);
         EndWaiting();
-        if (!requested) // it has left the state, and is no unenrolment
-            m_machine->SetState(EnrollStates::Connected());
         return false;
     }
     ForgetEnrolment();
@@ -194,6 +195,7 @@ void UBodyEnroll::ForgetEnrolment() {
     m_request = {};
     AppContextData::Instance()->ForgetEnrolment();
     Form().Name().SetText({});
+    Form().Agreement().Box().setChecked(false);
 }
 
 bool UBodyEnroll::InvokeAutoEnroll(const std::string& body) {
@@ -228,7 +230,8 @@ void UBodyEnroll::CheckDeviceBindingResult(const std::string& code, bool fromBin
     else if (code == NetError)
         ShowFailure(fromBind ? ButtonState::Bind : ButtonState::Unbind, QT_TR_NOOP("dialog_bind_fail_text"),
                     QT_TR_NOOP("dialog_disconnect_content_text"),
-                    QT_TR_NOOP("view_register_windows_title_bind_state"));
+                    fromBind ? QT_TR_NOOP("view_register_windows_title_bind_state")
+                             : QT_TR_NOOP("view_register_windows_title_unbind_state"));
     else if (code == "170002" || code == "170004")
         told = tr("bind_result_no_net_error_tip");
     // The later word counts, and that of an unenrolment is the last.
@@ -258,8 +261,8 @@ void UBodyEnroll::EndWaiting() {
     Window().EndBinding();
 }
 
-void UBodyEnroll::OnConnectChanged(bool connected) {
-    if (connected || m_wait == Wait::ForNothing)
+void UBodyEnroll::FailWait() {
+    if (m_wait == Wait::ForNothing)
         return;
     DeviceBindingResult failure;
     failure.code = NetError;
@@ -305,8 +308,12 @@ void UBodyEnroll::InvokeDisConnectedUI() {
 }
 
 void UBodyEnroll::InvokeNoBindUI() {
-    if (m_wait == Wait::ForUnbinding) // the status came before the result
+    // The status may be the only one to say that the enrolment is over, or the first.
+    const AppContextData& context = *AppContextData::Instance();
+    if (m_wait == Wait::ForUnbinding || (!context.Enrolled() && !context.SchoolCode().empty()))
         ForgetEnrolment();
+    else if (m_wait == Wait::ForNothing && PipeClientService::Instance()->IsConnected())
+        m_request = {}; // whose result was lost with the link before, and which has not gone well
     EndWaiting();
     Form().Tags().TagsListDelete();
     Form().ClearErrors();
@@ -327,7 +334,7 @@ void UBodyEnroll::InvokeConnected() {
     if (!m_unModal) {
         m_unModal = new UBodyEnrollUnModal(this);
         connect(m_unModal, &UBodyEnrollUnModal::UnEnrollingState, this, &UBodyEnroll::OnUnBindingDevice);
-        connect(m_unModal, &UBodyEnrollUnModal::NotSent, this, [this] { OnConnectChanged(false); });
+        connect(m_unModal, &UBodyEnrollUnModal::NotSent, this, &UBodyEnroll::FailWait);
     }
     m_unModal->show();
 }
@@ -343,7 +350,10 @@ void UBodyEnroll::ShowFailure(ButtonState retry, const char* title, const char* 
         return; // it goes with the page
     if (!m_modal) {
         m_modal = new UBodyEnrollModal(this);
-        connect(m_modal, &UBodyEnrollModal::OnOk, this, [this] { Press(m_retry); });
+        connect(m_modal, &UBodyEnrollModal::OnOk, this, [this] {
+            if (m_retry != ButtonState::Connect) // which would open this dialog again
+                Press(m_retry);
+        });
     }
     m_retry = retry;
     m_modal->setTitle(title);
@@ -424,5 +434,8 @@ void UBodyEnroll::FillFromUsbEnrollmentFile(const UsbEnrollmentFile& file) {
     if (!m_usbAlert)
         m_usbAlert = new UBodyEnrollUsbAlert(this);
     m_usbAlert->SetFile(m_usb->Path());
-    m_usbAlert->show();
+    if (IsInView())
+        m_usbAlert->show();
+    else // the user has left the page while the drive was read
+        Window().Notify(NoticeKind::Success, tr("usb_enroll_alert_title"));
 }

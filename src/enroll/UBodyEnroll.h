@@ -57,7 +57,8 @@ private:
     void BeginOnce();
     void OnClickedBindButton();
     void Press(ButtonState state);
-    void OnConnectChanged(bool connected);
+    /// A wait whose result cannot come ends as a failure.
+    void FailWait();
 
     bool CheckIsAgreePrivacyPolicy();
     void CheckDeviceBindingResult(const std::string& code, bool fromBind);

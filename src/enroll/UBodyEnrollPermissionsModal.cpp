@@ -125,6 +125,9 @@ void UBodyEnrollPermissionsModal::OnPipeDataReceived(PipeKey key, const std::str
         key != PipeKey::ScreenNotifySetting)
         return;
     DeviceSettingNotify state;
+    state.status = key == PipeKey::LocationSetting     ? m_location->IsOn()
+                   : key == PipeKey::ScreenShotSetting ? m_screenView->IsOn()
+                                                       : m_controlTold; // stays if the body cannot be read
     state.ReadFromString(body);
     if (key == PipeKey::LocationSetting)
         m_location->SetOn(state.status);

@@ -42,6 +42,7 @@ QString UBodyEnrollTagItem::Tag() const {
 
 void UBodyEnrollTagItem::SetEnable(bool enable) {
     Theme::SetProperty(this, "enable", enable);
+    Theme::SetProperty(m_text, "enable", enable); // whose rule its own change alone brings up to date
     m_remove->setVisible(enable);
     UpdateMargins();
 }

@@ -4,6 +4,7 @@
 #include "enroll/UBodyEnrollTagItem.h"
 #include "platform/context/Text.h"
 #include "widgets/AccessibleRole.h"
+#include "widgets/GestureScrollArea.h"
 #include "widgets/QFlowLayout.h"
 #include "widgets/UTextLabel.h"
 
@@ -71,6 +72,10 @@ void UBodyEnrollTags::TagsListDelete() {
 }
 
 void UBodyEnrollTags::ChangeTags(const std::vector<std::string>& tags) {
+    if (tags == Tags()) { // a list may be long, and comes again with each status
+        ClearError();
+        return;
+    }
     TagsListDelete();
     for (const std::string& tag : tags)
         AddItem(QString::fromStdString(tag));
@@ -115,7 +120,6 @@ void UBodyEnrollTags::OnAddTagSgl(const QString& tag) {
         return;
     AddItem(tag);
     m_add->Clear();
-    emit TagsEdited();
 }
 
 // The button that was clicked is the item's, which must outlive the click.
@@ -127,7 +131,6 @@ void UBodyEnrollTags::OnRemoveItem(UBodyEnrollTagItem* item) {
     m_area->setVisible(!m_items.isEmpty());
     ClearError();
     m_add->FocusField();
-    emit TagsEdited();
 }
 
 void UBodyEnrollTags::SetRefusal(TagRules::Refusal refusal) {
@@ -135,8 +138,10 @@ void UBodyEnrollTags::SetRefusal(TagRules::Refusal refusal) {
     LanguageChanges();
     m_error->setVisible(refusal != TagRules::Refusal::None);
     m_add->SetError(refusal != TagRules::Refusal::None);
-    if (refusal != TagRules::Refusal::None)
-        AnnounceAlert(m_error);
+    if (refusal == TagRules::Refusal::None)
+        return;
+    GestureScrollArea::Reveal(m_error);
+    AnnounceAlert(m_error);
 }
 
 void UBodyEnrollTags::LanguageChanges() {

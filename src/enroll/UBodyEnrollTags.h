@@ -37,10 +37,6 @@ public:
     /// Takes back the message of the last refusal, if there is one.
     void ClearError() { SetRefusal(TagRules::Refusal::None); }
 
-signals:
-    /// The user has added or removed a tag.
-    void TagsEdited();
-
 protected:
     void changeEvent(QEvent* event) override;
 

@@ -12,7 +12,8 @@ void UsbEnrollment::FindEnrollJson(const QStringList& drives, bool mayEnroll) {
         const EnrollmentFile file = search->result();
         if (!file.IsFound())
             return;
-        m_path = file.path;
+        if (file.IsUsable())
+            m_path = file.path;
         emit Found(file, mayEnroll);
     });
     search->setFuture(QtConcurrent::run([drives] {

@@ -17,7 +17,7 @@ public:
     void FindEnrollJson(const QStringList& drives, bool mayEnroll);
     /// A drive has gone, and what was found there with it.
     void Forget(const QString& drive);
-    /// The file that was found last, as long as its drive is there; else empty.
+    /// The usable file that was found last, as long as its drive is there; else empty.
     const QString& Path() const { return m_path; }
 
 signals:

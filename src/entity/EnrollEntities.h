@@ -5,6 +5,7 @@
 #include "entity/RyxEntity.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -88,6 +89,14 @@ struct DeviceBindingResult final : JsonEntity<DeviceBindingResult> {
     std::vector<std::string> permissionList;
 
     RYX_KEYS(binding, result, code, deviceName, schoolCode, email, permissionList);
+};
+
+/// What a result or a notice says of an unenrolment.
+struct UnenrolmentResult final : JsonEntity<UnenrolmentResult> {
+    std::optional<bool> result;
+    std::string code; ///< why it failed
+
+    RYX_KEYS(result, code);
 };
 
 /// The permissions that the organisation holds over the device.

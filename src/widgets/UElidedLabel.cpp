@@ -1,6 +1,7 @@
 #include "widgets/UElidedLabel.h"
 
 #include <QEvent>
+#include <QTextDocument>
 
 UElidedLabel::UElidedLabel(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
@@ -49,5 +50,5 @@ void UElidedLabel::Elide() {
     const QString shown = fontMetrics().elidedText(m_text, m_elideMode, contentsRect().width());
     setText(shown);
     // A tool tip takes markup for what it is.
-    setToolTip(shown == m_text ? QString() : m_text.toHtmlEscaped());
+    setToolTip(shown == m_text ? QString() : Qt::convertFromPlainText(m_text, Qt::WhiteSpaceNormal));
 }

@@ -2,6 +2,8 @@
 
 #include "widgets/ThemeIcon.h"
 
+#include <QTextDocument>
+
 UIconButton::UIconButton(const char* objectName, const QString& icon, int size, const QString& color) {
     setObjectName(QString::fromLatin1(objectName));
     setIcon(ThemeIcon::Get(icon, color));
@@ -10,5 +12,5 @@ UIconButton::UIconButton(const char* objectName, const QString& icon, int size, 
 
 void UIconButton::SetName(const QString& name) {
     setAccessibleName(name);
-    setToolTip(name.toHtmlEscaped());
+    setToolTip(Qt::convertFromPlainText(name, Qt::WhiteSpaceNormal));
 }

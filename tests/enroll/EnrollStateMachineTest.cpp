@@ -119,7 +119,8 @@ TEST_F(Machine, FollowsTheServicesMessages) {
                       {UnEnrolling, {"unbound b, NoBindUI", NoEnrollYet}}};
             onFalse = {{Enrolling, {"bound b", NoEnrollYet}}, {UnEnrolling, {"unbound b", Connected}}};
         } else if (key == 4) {
-            onTrue = onFalse = {{Connected, {"noticed b", NoEnrollYet}}};
+            onTrue = {{Connected, {"noticed b", NoEnrollYet}}};
+            onFalse = {{Connected, {"noticed b"}}};
         } else if (key >= 5 && key <= 7) {
             const char* const asked[] = {"name b", "tags b", "account b"};
             onTrue = onFalse = {{Connected, {asked[key - 5]}}};

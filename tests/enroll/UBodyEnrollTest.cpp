@@ -120,6 +120,10 @@ protected:
                 return toast->ShownMessage().toStdString();
         return {};
     }
+    UTextButton& Retry() {
+        return *stage->Window().findChild<UBodyEnrollModal*>()->findChild<UTextButton*>(
+            QStringLiteral("cancelButton"));
+    }
     bool IsWaiting() {
         EXPECT_EQ(Button().IsLoading(), stage->Window().IsBinding());
         EXPECT_TRUE(Button().isEnabled());
@@ -156,6 +160,7 @@ TEST_F(EnrolmentPage, ChecksInOrderAndSendsWhatWasEntered) {
         {Code, "a@b.c ", "n", nullptr, nullptr, true, "adminAccount "},
         {Code, Account, "", nullptr, nullptr, true, "deviceName "},
         {Code, Account, "n", "", "", true, "deviceName "},
+        {Code, Account, "  ", nullptr, nullptr, true, "deviceName "},
         {Code, Account, "n", nullptr, nullptr, false, ""},
         {Code, Account, "Hall 3", nullptr, nullptr, true, "none", "Hall 3"},
         {Code, Account, "", "Lab ", "7", true, "none", "Lab 7"},
@@ -214,6 +219,8 @@ TEST_F(EnrolmentPage, LeavingAFieldJudgesItAndEveryAnswerCanBeCorrected) {
     Edit("deviceName").setFocus();
     EXPECT_EQ(Marked(), "");
     EXPECT_EQ(Edit("adminAccount").text() + Edit("schoolCode").text(), QStringLiteral("ab@c.de123456"));
+    QTest::keyClick(&Edit("deviceName"), Qt::Key_Tab);
+    EXPECT_EQ(Marked(), "deviceName ");
     AddTag("x");
     Edit("deviceName").setFocus();
     stage->Window().findChild<UMenu*>()->SwitchTo(PageIndex(PageId::Network));
@@ -259,6 +266,7 @@ TEST_F(EnrolmentPage, EveryFailureIsShown) {
         Receive(3, Result(false, row.code));
         EXPECT_EQ(Toast(), "Unable to UnEnroll.");
         EXPECT_EQ(Overlay(), row.dialog);
+        EXPECT_TRUE(!*row.dialog || Retry().text() == QStringLiteral("Unenrol this device"));
         EXPECT_FALSE(IsWaiting());
         EXPECT_EQ(State(), 2);
     }
@@ -272,11 +280,17 @@ TEST_F(EnrolmentPage, EveryWaitEnds) {
         std::string body;
         int state;
         std::string known;
+        std::string late = {}; ///< known when the link is back, with the status in `body`, and then with 2
     } cases[] = {
-        {3, Result(true), 2, after},      {3, "{\"result\": []}", 0, before},
-        {3, "no JSON", 0, before},        {2, "{\"status\": 0}", 0, before},
-        {2, "{\"status\": 2}", 2, after}, {2, "{\"status\": 4}", 1, after},
-        {2, "{\"status\": 5}", 1, after}, {0, "", 0, before},
+        {3, Result(true), 2, after},
+        {3, "{\"result\": []}", 0, before},
+        {3, "no JSON", 0, before},
+        {2, "{\"status\": 0}", 0, before},
+        {2, "{\"status\": 2}", 2, after},
+        {2, "{\"status\": 4}", 1, after},
+        {2, "{\"status\": 5}", 1, after},
+        {0, "{\"status\": 4}", 0, before, after},
+        {0, "{\"status\": 0}", 0, before, "1   Lecture hall 3 0"},
     };
     for (const auto& row : cases) {
         SCOPED_TRACE(std::to_string(row.key) + row.body);
@@ -305,10 +319,14 @@ TEST_F(EnrolmentPage, EveryWaitEnds) {
         EXPECT_EQ(Known(), row.known);
         EXPECT_NE(Toast(), "error .");
         if (row.key == 0) {
-            ASSERT_TRUE(QTest::qWaitFor([&] { return link.IsConnected(); }));
-            Press(*stage->Window().findChild<UBodyEnrollModal*>()->findChild<QWidget*>(
-                QStringLiteral("cancelButton"))); // tries again
+            ASSERT_TRUE(QTest::qWaitFor([&] { return link.IsConnected() && service.IsConnected(); }));
+            Press(Retry());
             EXPECT_TRUE(IsWaiting());
+            service.Drop();
+            ASSERT_TRUE(QTest::qWaitFor([&] { return !Button().IsLoading() && link.IsConnected(); }));
+            Receive(2, row.body);
+            ReceiveStatus(2);
+            EXPECT_EQ(Known(), row.late);
         }
     }
     link.Stop();
@@ -317,6 +335,8 @@ TEST_F(EnrolmentPage, EveryWaitEnds) {
     Press(Button());
     EXPECT_FALSE(IsWaiting()) << "the link is down already";
     EXPECT_EQ(Overlay(), "UBodyEnrollModal");
+    ReceiveStatus(2);
+    EXPECT_EQ(Known(), "1   Lecture hall 3 0") << "what was not sent is nobody's";
 }
 
 TEST_F(EnrolmentPage, TheServicesWordIsTaken) {
@@ -343,7 +363,11 @@ TEST_F(EnrolmentPage, TheServicesWordIsTaken) {
         {2, 4, "no JSON", 0, "0    0"},
         {2, 4, R"({"result": []})", 0, "0    0"},
         {2, 4, R"({"result": true})", 0, "0    0"},
-        {2, 4, R"({"result": false, "code": "error"})", 2, start},
+        {2, 4, "{}", 0, "0    0"},
+        {2, 4, "null", 0, "0    0"},
+        {2, 4, R"({"result": false})", 2, start},
+        {2, 4, R"({"code": "error"})", 2, start},
+        {2, 2, R"({"status": 0})", 0, "0    0"},
         {4, 4, "", 1, start},
         {0, 9, R"({"code": "c", "adminAccount": "d@e.f", "tag": "t", "name": "n"})", 0, "1 c d@e.f n 1"},
         {0, 9, R"({"code": "error"})", 0, "0   Lecture hall 3 0"},
@@ -399,13 +423,13 @@ TEST_F(EnrolmentPage, AFileOnADriveFillsTheFormOrSaysWhyNot) {
         int tags;
         const char* refusal = "";
     } cases[] = {
-        {PageIsAway, false, R"({"code": "x", "account": "y", "deviceName": "n"})", "x y n   ", 1},
+        {PageIsAway, false, R"({"code": "x", "account": "y", "deviceName": "n"})", "x y n  typed ", 1},
         {PageIsAway, false,
          R"({"code": "x", "account": "y", "deviceName": "n", "devicePrefix": "p", "tags": ["a", "b"]})",
-         "x y n p  ", 2},
-        {PageIsAway, false, R"({"code": "x"})", "before     ", 1,
+         "x y n p typed ", 2},
+        {PageIsAway, false, R"({"code": "x"})", "before    typed ", 1,
          "The enrolment file on the USB drive lacks the code or the account."},
-        {PageIsAway, false, "[]", "before     ", 1,
+        {PageIsAway, false, "[]", "before    typed ", 1,
          "The enrolment file on the USB drive does not have the right format."},
         {PageIsAway, true, R"({"code": "x", "account": "y"})",
          "A1B2C3 admin@school.example Lecture hall 3   ", 2,
@@ -431,6 +455,7 @@ TEST_F(EnrolmentPage, AFileOnADriveFillsTheFormOrSaysWhyNot) {
         } else if (!row.enrolled) {
             stage->Window().OpenEnrolmentPage();
             Edit("schoolCode").setText(QStringLiteral("before"));
+            Edit("deviceSuffix").setText(QStringLiteral("typed"));
             AddTag("typed");
             stage->Window().findChild<UMenu*>()->SwitchTo(PageIndex(PageId::Network));
         }
@@ -447,7 +472,9 @@ TEST_F(EnrolmentPage, AFileOnADriveFillsTheFormOrSaysWhyNot) {
         stage->Window().show();
         EXPECT_EQ(Overlay(), *row.refusal ? "" : "UBodyEnrollUsbAlert");
         EXPECT_EQ(Toast(), row.refusal);
-        EXPECT_EQ(Page().isVisible(), row.enrolled || !*row.refusal);
+        EXPECT_EQ(stage->Window().findChild<UBody*>()->Page(PageIndex(PageId::Enrolment))->isVisible(),
+                  row.enrolled || (!*row.refusal && row.when != PageIsShownFirst))
+            << "only a drive that is put in brings the page up";
         std::string form;
         for (const char* name : {"schoolCode", "adminAccount", "deviceName", "devicePrefix", "deviceSuffix"})
             form += Edit(name).text().toStdString() + ' ';

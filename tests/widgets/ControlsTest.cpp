@@ -5,6 +5,8 @@
 #include "widgets/ULoadingBar.h"
 #include "widgets/ULoadingIndicator.h"
 
+#include <QTextDocumentFragment>
+
 namespace {
 
 class Controls : public testing::Test {
@@ -65,7 +67,7 @@ TEST_F(Controls, IndicatorsMoveOnlyWhileTheyAreAtWorkAndAnExitButtonTellsOfItsPr
 }
 
 TEST_F(Controls, AnElidedLabelCutsAndKeepsTheWholeTextAtHand) {
-    const QString name = QStringLiteral("Interactive display in the great lecture hall");
+    const QString name = QStringLiteral("Interactive <b>display</b> in the great lecture hall of R&D");
     UElidedLabel label;
     label.SetText(name);
     label.resize(label.sizeHint());
@@ -75,7 +77,8 @@ TEST_F(Controls, AnElidedLabelCutsAndKeepsTheWholeTextAtHand) {
     label.resize(120, label.height());
     EXPECT_NE(label.text(), name);
     EXPECT_LE(label.fontMetrics().horizontalAdvance(label.text()), 120);
-    for (const QString& whole : {label.toolTip(), label.accessibleName(), label.Text()})
+    for (const QString& whole : {QTextDocumentFragment::fromHtml(label.toolTip()).toPlainText(),
+                                 label.accessibleName(), label.Text()})
         EXPECT_EQ(whole, name);
 }
 

@@ -1,15 +1,11 @@
 #include "app/MainWindow.h"
-#include "enroll/UBodyEnrollModal.h"
 #include "enroll/UBodyEnrollPermissionsModal.h"
 #include "enroll/UBodyEnrollTags.h"
-#include "enroll/UBodyEnrollTip.h"
 #include "enroll/UBodyEnrollUsbAlert.h"
 #include "gallery/Scenes.h"
 #include "lock/UBodyEnrollUnModal.h"
-#include "widgets/UTextLabel.h"
 
 #include <QCheckBox>
-#include <QCoreApplication>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -45,26 +41,6 @@ Scene Tags(const QString& name, const std::vector<std::string>& tags, const QStr
             }};
 }
 
-void ShowTip(Stage& stage) {
-    QVBoxLayout* column = Sheet(stage);
-    column->addStretch();
-    auto* agreement = new QCheckBox(QCoreApplication::translate("Scenes", "launcher_button"));
-    column->addWidget(agreement);
-    QWidget& sheet = stage.Subject();
-    sheet.show();
-    Settle();
-    (new UBodyEnrollTip(&sheet))->ShowAt(agreement, 3600 * 1000);
-}
-
-Scene Unenrol(const QString& name, int wrongPasswords) {
-    return {name, true, [wrongPasswords](Stage& stage) {
-                auto* dialog = new UBodyEnrollUnModal(&stage.Window());
-                dialog->show();
-                for (int i = 0; i < wrongPasswords; ++i)
-                    dialog->findChild<QPushButton*>(QStringLiteral("okButton"))->click();
-            }};
-}
-
 Scene Permissions(const QString& name, const std::vector<std::string>& granted, const QSize& size) {
     return {name, true, [=](Stage& stage) {
                 stage.Window().resize(size);
@@ -80,15 +56,6 @@ Scene Permissions(const QString& name, const std::vector<std::string>& granted, 
 
 QVector<Scene> EnrollScenes() {
     return {
-        {QStringLiteral("enroll-failed"), false,
-         [](Stage& stage) {
-             auto* dialog = new UBodyEnrollModal(&stage.Window());
-             dialog->setTitle("status_no_service");
-             dialog->setContent("launcher_sentence");
-             dialog->setOkText("menu_network");
-             dialog->setCancelText("launcher_button");
-             dialog->show();
-         }},
         Permissions(QStringLiteral("enroll-permissions"), {"location", "screen", "remoteControl"},
                     {1280, 720}),
         Permissions(QStringLiteral("enroll-permissions-none"), {"location"}, {1280, 720}),
@@ -97,14 +64,17 @@ QVector<Scene> EnrollScenes() {
         Tags(QStringLiteral("enroll-tags-none"), {}, {}, true),
         Tags(QStringLiteral("enroll-tags-refused"), SomeTags, QStringLiteral("physics"), true),
         Tags(QStringLiteral("enroll-tags-enrolled"), SomeTags, {}, false),
-        {QStringLiteral("enroll-tip"), false, ShowTip},
         {QStringLiteral("enroll-usb-alert"), false,
          [](Stage& stage) {
              auto* alert = new UBodyEnrollUsbAlert(&stage.Window());
              alert->SetFile(QStringLiteral("E:/Enrollment hall 3.json"));
              alert->show();
          }},
-        Unenrol(QStringLiteral("enroll-unenrol"), 0),
-        Unenrol(QStringLiteral("enroll-unenrol-error"), 1),
+        {QStringLiteral("enroll-unenrol-error"), true,
+         [](Stage& stage) {
+             auto* dialog = new UBodyEnrollUnModal(&stage.Window());
+             dialog->show();
+             dialog->findChild<QPushButton*>(QStringLiteral("okButton"))->click();
+         }},
     };
 }

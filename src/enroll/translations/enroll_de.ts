@@ -73,11 +73,11 @@
     </message>
     <message>
         <source>fact_tags</source>
-        <translation>Tags</translation>
+        <translation>Schlagwörter</translation>
     </message>
     <message>
         <source>list too long</source>
-        <translation>Die Liste ist zu lang: Ein Gerät hat höchstens %1 Tags.</translation>
+        <translation>Die Liste ist zu lang: Ein Gerät hat höchstens %1 Schlagwörter.</translation>
     </message>
     <message>
         <source>Modified successfully</source>
@@ -117,19 +117,19 @@
     </message>
     <message>
         <source>tag_refused_blank</source>
-        <translation>Geben Sie zuerst einen Tag ein.</translation>
+        <translation>Geben Sie zuerst ein Schlagwort ein.</translation>
     </message>
     <message>
         <source>tag_refused_duplicate</source>
-        <translation>Das Gerät hat diesen Tag schon.</translation>
+        <translation>Das Gerät hat dieses Schlagwort schon.</translation>
     </message>
     <message>
         <source>tag_refused_too_long</source>
-        <translation>Ein Tag hat höchstens %1 Zeichen.</translation>
+        <translation>Ein Schlagwort hat höchstens %1 Zeichen.</translation>
     </message>
     <message>
         <source>tag_remove</source>
-        <translation>Tag %1 entfernen</translation>
+        <translation>Schlagwort %1 entfernen</translation>
     </message>
     <message>
         <source>The &lt;b&gt;Privacy Policy&lt;/b&gt; tells which data of this device the organisation receives.</source>
@@ -253,7 +253,7 @@
     </message>
     <message>
         <source>view_register_windows_tag_hint</source>
-        <translation>Weiterer Tag</translation>
+        <translation>Weiteres Schlagwort</translation>
     </message>
     <message>
         <source>view_register_windows_title_bind_state</source>

@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>settings_monitor_title_v2</source>
-        <translation>Control from afar</translation>
+        <translation>Remote control</translation>
     </message>
     <message>
         <source>tag_refused_blank</source>
@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>usb_file_not_json</source>
-        <translation>The enrolment file on the USB drive is no JSON text in UTF-8.</translation>
+        <translation>The enrolment file on the USB drive is not JSON text in UTF-8.</translation>
     </message>
     <message>
         <source>usb_file_not_regular</source>
