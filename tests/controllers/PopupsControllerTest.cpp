@@ -128,8 +128,9 @@ TEST_F(Popups, AreReportedAndClosedByTheFirstRuleOfTheListInForce) {
     Expect(Plain, "read A close1 ");
     EXPECT_EQ(last.type, 1);
     EXPECT_EQ(last.popProductName, "pRODUKT");
-    EXPECT_EQ(last.popDirectory,
-              QDir::toNativeSeparators(QDir(QStringLiteral("/opt/spiel")).absolutePath()).toStdString());
+    EXPECT_EQ(
+        last.popDirectory,
+        QDir::toNativeSeparators(QFileInfo(QStringLiteral("/opt/spiel")).absoluteFilePath()).toStdString());
     EXPECT_EQ(last.updateTime, 1700000000123);
     EXPECT_EQ(last.popFileKey + last.appFileKey, "");
 
