@@ -14,7 +14,6 @@
 #include <QDir>
 #include <QLabel>
 #include <QPushButton>
-#include <QScreen>
 #include <QTemporaryDir>
 #include <QtTest>
 #include <gtest/gtest.h>
@@ -120,7 +119,7 @@ struct Picker : testing::Test {
 };
 
 TEST_F(Picker, TakesTheTopmostWindowUnderTheClickThatMayBeReported) {
-    const QRect screen(QPoint(), QGuiApplication::primaryScreen()->size());
+    const QRect screen = Mask().Place();
     const struct {
         const char* what;
         std::vector<FakeSystem::Window> windows;
