@@ -20,8 +20,8 @@
 #include "platform/system/SystemSession.h"
 #include "platform/system/SystemWindows.h"
 #include "platform/web/RyxWebClient.h"
-#include "popups/PopupHistory.h"
 #include "popups/PickableWindow.h"
+#include "popups/PopupHistory.h"
 
 #include <QDir>
 #include <QElapsedTimer>

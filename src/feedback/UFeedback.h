@@ -2,8 +2,8 @@
 
 #include "feedback/FeedbackBackend.h"
 #include "feedback/ReportArchive.h"
-#include "platform/files/Workers.h"
 #include "platform/application/NoticeKind.h"
+#include "platform/files/Workers.h"
 #include "widgets/UPage.h"
 
 #include <QFutureWatcher>

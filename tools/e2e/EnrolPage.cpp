@@ -44,7 +44,7 @@ QRect EnrolPage::Button(const QColor& color) const {
 bool EnrolPage::Open() {
     ColorArea button;
     QRect words; // of the launcher; the picture beside them has the button's colour, too
-    const bool isThere = WaitUntil([&] {
+    const bool isThere = WaitUntilSettled([&] {
         words = Window().adjusted(0, HeaderHeight, 0, 0);
         words.setWidth(words.width() / 2);
         button = words.isEmpty() ? ColorArea() : FindColor(m_desktop.Screenshot(words), Accent);
@@ -71,7 +71,7 @@ void EnrolPage::Fill(const std::string& code, const std::string& account, const 
 
 void EnrolPage::PressButton(int times) {
     QRect place;
-    WaitUntil([&] {
+    WaitUntilSettled([&] {
         place = Button(Accent).united(Button(Danger));
         return !place.isEmpty();
     });
