@@ -1,6 +1,5 @@
 #include "feedback/AttachmentItem.h"
 
-#include "feedback/WebErrorText.h"
 #include "platform/context/LanguageHelper.h"
 #include "platform/context/Theme.h"
 #include "widgets/ThemeIcon.h"
@@ -8,6 +7,7 @@
 #include "widgets/UIconButton.h"
 #include "widgets/UIconLabel.h"
 #include "widgets/UTextLabel.h"
+#include "widgets/WebErrorText.h"
 
 #include <QEvent>
 #include <QGridLayout>

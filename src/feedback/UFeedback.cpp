@@ -3,7 +3,6 @@
 #include "feedback/AttachmentStrip.h"
 #include "feedback/FeedbackForm.h"
 #include "feedback/LogFilesDialog.h"
-#include "feedback/WebErrorText.h"
 #include "platform/application/RyxWindow.h"
 #include "platform/context/AppContextData.h"
 #include "platform/context/LanguageHelper.h"
@@ -14,6 +13,7 @@
 #include "widgets/UAlert.h"
 #include "widgets/UTextButton.h"
 #include "widgets/UTextLabel.h"
+#include "widgets/WebErrorText.h"
 
 #include <QApplication>
 #include <QClipboard>

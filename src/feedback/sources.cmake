@@ -8,5 +8,4 @@ target_sources(ryx_user_objects PRIVATE
     ${CMAKE_CURRENT_LIST_DIR}/LogFilesDialog.cpp
     ${CMAKE_CURRENT_LIST_DIR}/LogReport.cpp
     ${CMAKE_CURRENT_LIST_DIR}/ReportArchive.cpp
-    ${CMAKE_CURRENT_LIST_DIR}/UFeedback.cpp
-    ${CMAKE_CURRENT_LIST_DIR}/WebErrorText.cpp)
+    ${CMAKE_CURRENT_LIST_DIR}/UFeedback.cpp)

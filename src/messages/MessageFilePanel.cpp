@@ -3,10 +3,12 @@
 #include "messages/FileNames.h"
 #include "platform/context/LanguageHelper.h"
 #include "platform/context/Theme.h"
+#include "widgets/QFlowLayout.h"
 #include "widgets/UElidedLabel.h"
 #include "widgets/UIconLabel.h"
 #include "widgets/UTextButton.h"
 #include "widgets/UTextLabel.h"
+#include "widgets/WebErrorText.h"
 
 #include <QDesktopServices>
 #include <QDir>
@@ -19,32 +21,17 @@
 
 namespace {
 
-constexpr int LowestPicture = 160;
-
-const char* FailureKey(const FileFetchOutcome& outcome) {
-    if (outcome.diskFull)
-        return QT_TRANSLATE_NOOP("", "message_file_disk_full");
-    switch (outcome.error) {
-    case WebError::Cancelled:
-        return QT_TRANSLATE_NOOP("", "web_error_cancelled");
-    case WebError::NotTrusted:
-        return QT_TRANSLATE_NOOP("", "web_error_not_trusted");
-    case WebError::TimedOut:
-        return QT_TRANSLATE_NOOP("", "web_error_timed_out");
-    case WebError::Refused:
-        return QT_TRANSLATE_NOOP("", "web_error_refused");
-    case WebError::Unreachable:
-        return QT_TRANSLATE_NOOP("", "web_error_unreachable");
-    case WebError::TooLarge:
-        return QT_TRANSLATE_NOOP("", "web_error_too_large");
-    case WebError::WrongDigest:
-        return QT_TRANSLATE_NOOP("", "message_file_wrong");
-    case WebError::File:
-        return QT_TRANSLATE_NOOP("", "message_file_unwritable");
-    default:
-        return QT_TRANSLATE_NOOP("", "web_error_other");
+/// Takes the room that is left, whatever the size of its picture.
+class Picture : public QLabel {
+public:
+    Picture() {
+        setObjectName(QStringLiteral("messagePicture"));
+        setAlignment(Qt::AlignCenter);
+        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
     }
-}
+    QSize sizeHint() const override { return {1, 160}; }
+    QSize minimumSizeHint() const override { return sizeHint(); }
+};
 
 /// The path with places where a line may be broken: a long name must not make the window wide.
 QString Breakable(const QString& path) {
@@ -66,32 +53,26 @@ MessageFilePanel::MessageFilePanel(MessageFiles& files, QWidget* parent)
       m_name(new UElidedLabel),
       m_status(new UTextLabel("messageFileStatus")),
       m_progress(new QProgressBar),
-      m_picture(new QLabel) {
+      m_picture(new Picture) {
     setProperty("card", true);
     m_name->setObjectName(QStringLiteral("messageFileName"));
     m_name->SetElideMode(Qt::ElideMiddle);
     m_progress->setTextVisible(false);
-    m_picture->setObjectName(QStringLiteral("messagePicture"));
-    m_picture->setAlignment(Qt::AlignCenter);
-    m_picture->setMinimumSize(1, LowestPicture);
-    m_picture->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
 
     auto* head = new QHBoxLayout;
     head->setSpacing(12);
     head->addWidget(new UIconLabel(24, QStringLiteral("file"), QStringLiteral("textMuted")));
     head->addWidget(m_name, 1);
-    auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(12);
-    buttons->addStretch();
+    auto* buttons = new QFlowLayout(nullptr, 0, 12, 8);
+    m_open = AddButton(*buttons, "openFileButton", QT_TR_NOOP("message_file_open"), &MessageFilePanel::Open);
+    m_saveAs =
+        AddButton(*buttons, "saveAsButton", QT_TR_NOOP("message_file_save_as"), &MessageFilePanel::SaveAs);
+    m_showInFolder = AddButton(*buttons, "showInFolderButton", QT_TR_NOOP("message_file_show"),
+                               &MessageFilePanel::ShowInFolder);
     m_cancel =
         AddButton(*buttons, "cancelFileButton", QT_TR_NOOP("message_file_cancel"), &MessageFilePanel::Cancel);
     m_again =
         AddButton(*buttons, "fetchFileButton", QT_TR_NOOP("message_file_again"), &MessageFilePanel::Fetch);
-    m_showInFolder = AddButton(*buttons, "showInFolderButton", QT_TR_NOOP("message_file_show"),
-                               &MessageFilePanel::ShowInFolder);
-    m_saveAs =
-        AddButton(*buttons, "saveAsButton", QT_TR_NOOP("message_file_save_as"), &MessageFilePanel::SaveAs);
-    m_open = AddButton(*buttons, "openFileButton", QT_TR_NOOP("message_file_open"), &MessageFilePanel::Open);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(16, 12, 16, 12);
     column->setSpacing(8);
@@ -106,7 +87,7 @@ MessageFilePanel::MessageFilePanel(MessageFiles& files, QWidget* parent)
     });
 }
 
-UTextButton* MessageFilePanel::AddButton(QBoxLayout& row, const char* name, const char* key,
+UTextButton* MessageFilePanel::AddButton(QLayout& row, const char* name, const char* key,
                                          void (MessageFilePanel::*act)()) {
     auto* button = new UTextButton(UTextButton::Look::Secondary);
     button->setObjectName(QLatin1String(name));
@@ -123,6 +104,19 @@ void MessageFilePanel::SetMessage(const Message& message) {
     Show();
 }
 
+QString MessageFilePanel::FailureText(const FileFetchOutcome& outcome) {
+    if (outcome.diskFull)
+        return tr("message_file_disk_full");
+    switch (outcome.error) {
+    case WebError::WrongDigest:
+        return tr("message_file_wrong");
+    case WebError::File:
+        return tr("message_file_unwritable");
+    default:
+        return WebErrorText(outcome.error);
+    }
+}
+
 QString MessageFilePanel::StatusText(const MessageFile& file) const {
     switch (file.stage) {
     case MessageFile::Stage::Absent:
@@ -130,7 +124,7 @@ QString MessageFilePanel::StatusText(const MessageFile& file) const {
     case MessageFile::Stage::Loading:
         return tr("message_file_loading").arg(LanguageHelper::Instance()->Locale().toString(file.percent));
     case MessageFile::Stage::Failed:
-        return tr(FailureKey(file.outcome));
+        return FailureText(file.outcome);
     case MessageFile::Stage::Saved:
         break;
     }

@@ -4,7 +4,7 @@
 
 #include <QFrame>
 
-class QBoxLayout;
+class QLayout;
 class QLabel;
 class QProgressBar;
 class UElidedLabel;
@@ -26,10 +26,10 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    UTextButton* AddButton(QBoxLayout& row, const char* name, const char* key,
-                           void (MessageFilePanel::*act)());
+    UTextButton* AddButton(QLayout& row, const char* name, const char* key, void (MessageFilePanel::*act)());
     void Show();
     void ShowPicture();
+    static QString FailureText(const FileFetchOutcome& outcome);
     QString StatusText(const MessageFile& file) const;
     void Fetch() { m_files.Fetch(m_id); }
     void Cancel() { m_files.Cancel(m_id); }

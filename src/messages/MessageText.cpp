@@ -10,6 +10,8 @@
 
 namespace {
 
+constexpr int LowestHeight = 88;
+
 /// What ends a sentence or a bracket does not belong to the address before it.
 QString WithoutPunctuation(QString address) {
     while (!address.isEmpty() && QStringLiteral(".,;:!?)]}'\"").contains(address.back()))
@@ -38,6 +40,10 @@ MessageText::MessageText(QWidget* parent) : QTextBrowser(parent) {
         if (IsWebPage(address))
             emit AddressChosen(address);
     });
+}
+
+QSize MessageText::sizeHint() const {
+    return {QTextBrowser::minimumSizeHint().width(), LowestHeight};
 }
 
 void MessageText::SetText(const QString& text) {

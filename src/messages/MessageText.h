@@ -13,6 +13,10 @@ public:
 
     void SetText(const QString& text);
 
+    /// A line or two; it scrolls, and takes the room that is left.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
 signals:
     /// The user wants to see this page; its address is http or https.
     void AddressChosen(const QUrl& address);

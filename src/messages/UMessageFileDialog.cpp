@@ -6,6 +6,8 @@
 #include "platform/context/LanguageHelper.h"
 #include "platform/context/Theme.h"
 #include "widgets/AccessibleRole.h"
+#include "widgets/GestureScrollArea.h"
+#include "widgets/QFlowLayout.h"
 #include "widgets/UIconLabel.h"
 #include "widgets/UTextButton.h"
 #include "widgets/UTextLabel.h"
@@ -54,20 +56,33 @@ void UMessageFileDialog::Initialization() {
     m_text = new MessageText;
     m_file = new MessageFilePanel(m_files);
     m_addressPanel = MakeAddressPanel();
+    // What the screen has no room for is scrolled; the button stays.
+    auto* content = new QWidget;
+    auto* parts = new QVBoxLayout(content);
+    parts->setContentsMargins(0, 0, 0, 0);
+    parts->setSpacing(16);
+    parts->addWidget(MakeHead());
+    parts->addWidget(m_text, 2);
+    parts->addWidget(m_file, 1);
+    parts->addWidget(m_addressPanel);
+    auto* scroll = new GestureScrollArea;
+    scroll->setWidget(content);
+    scroll->setWidgetResizable(true);
+    scroll->setFocusPolicy(Qt::NoFocus);
     m_note = new UTextLabel("messageNote");
+    m_count = new QLabel;
+    m_count->setObjectName(QStringLiteral("messageCount"));
     m_ok = new UTextButton(UTextButton::Look::Primary);
     m_ok->setObjectName(QStringLiteral("okButton"));
     auto* foot = new QHBoxLayout;
     foot->setSpacing(16);
     foot->addWidget(m_note, 1);
+    foot->addWidget(m_count);
     foot->addWidget(m_ok);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(28, 24, 28, 24);
     column->setSpacing(16);
-    column->addWidget(MakeHead());
-    column->addWidget(m_text, 2);
-    column->addWidget(m_file, 1);
-    column->addWidget(m_addressPanel);
+    column->addWidget(scroll, 1);
     column->addLayout(foot);
     connect(m_ok, &QPushButton::clicked, this, &UMessageFileDialog::CloseCurrent);
     connect(m_text, &MessageText::AddressChosen, this, &UMessageFileDialog::ShowAddress);
@@ -80,8 +95,6 @@ QWidget* UMessageFileDialog::MakeHead() {
     m_icon = new UIconLabel(36);
     m_title = new UTextLabel("messageTitle");
     m_time = new UTextLabel("messageTime");
-    m_count = new QLabel;
-    m_count->setObjectName(QStringLiteral("messageCount"));
     auto* words = new QVBoxLayout;
     words->setSpacing(2);
     words->addWidget(m_title);
@@ -92,7 +105,6 @@ QWidget* UMessageFileDialog::MakeHead() {
     row->setSpacing(16);
     row->addWidget(m_icon, 0, Qt::AlignTop);
     row->addLayout(words, 1);
-    row->addWidget(m_count, 0, Qt::AlignTop);
     return head;
 }
 
@@ -111,9 +123,7 @@ QFrame* UMessageFileDialog::MakeAddressPanel() {
     m_addressBack = new UTextButton(UTextButton::Look::Secondary);
     m_addressOpen = new UTextButton(UTextButton::Look::Secondary);
     m_addressOpen->setObjectName(QStringLiteral("openAddressButton"));
-    auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(12);
-    buttons->addStretch();
+    auto* buttons = new QFlowLayout(nullptr, 0, 12, 8);
     buttons->addWidget(m_addressBack);
     buttons->addWidget(m_addressOpen);
     auto* column = new QVBoxLayout(panel);
@@ -291,6 +301,7 @@ void UMessageFileDialog::ShowAddress(const QUrl& address) {
     m_address = address;
     m_addressText->setPlainText(QString::fromLatin1(address.toEncoded()));
     m_addressPanel->show();
+    GestureScrollArea::Reveal(m_addressPanel);
     m_addressBack->setFocus();
 }
 

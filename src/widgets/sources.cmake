@@ -24,4 +24,5 @@ target_sources(ryx_user_objects PRIVATE
     ${CMAKE_CURRENT_LIST_DIR}/USwitchRow.cpp
     ${CMAKE_CURRENT_LIST_DIR}/UTextButton.cpp
     ${CMAKE_CURRENT_LIST_DIR}/UThemePicture.cpp
-    ${CMAKE_CURRENT_LIST_DIR}/UToast.cpp)
+    ${CMAKE_CURRENT_LIST_DIR}/UToast.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/WebErrorText.cpp)

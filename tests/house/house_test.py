@@ -27,7 +27,7 @@ MAY_INCLUDE = {
     "platform/system/windows": ["platform", "platform/system"],
     "platform/system/unix": ["platform/system"],
     "platform/system/x11": ["platform/system", "platform/system/unix"],
-    "widgets": ["platform/application", "platform/context", "platform/system"],
+    "widgets": ["platform/application", "platform/context", "platform/system", "platform/web"],
     "common": ["platform/context", "platform/system"],
     **{feature: FEATURE for feature in FEATURES},
     "controllers": FEATURE + ["messages", "popups"],  # a controller may own a feature's dialog

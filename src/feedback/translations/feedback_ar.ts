@@ -248,45 +248,5 @@
         <source>log_submit_tip</source>
         <translation>تُرسل سجلات هذا الجهاز مع التقرير.</translation>
     </message>
-    <message>
-        <source>web_error_bad_answer</source>
-        <translation>تعذّر فهم رد الخدمة.</translation>
-    </message>
-    <message>
-        <source>web_error_cancelled</source>
-        <translation>أُلغي.</translation>
-    </message>
-    <message>
-        <source>web_error_file</source>
-        <translation>تعذّرت قراءة الملف أو تغيّر أثناء ذلك.</translation>
-    </message>
-    <message>
-        <source>web_error_not_configured</source>
-        <translation>لم يُضبط الاتصال بالخدمة على هذا الجهاز ضبطًا صحيحًا.</translation>
-    </message>
-    <message>
-        <source>web_error_not_trusted</source>
-        <translation>تعذّر التحقق من هوية الخادم.</translation>
-    </message>
-    <message>
-        <source>web_error_other</source>
-        <translation>حدث خطأ ما.</translation>
-    </message>
-    <message>
-        <source>web_error_refused</source>
-        <translation>رفضت الخدمة الطلب.</translation>
-    </message>
-    <message>
-        <source>web_error_timed_out</source>
-        <translation>لم ترد الخدمة في الوقت المناسب.</translation>
-    </message>
-    <message>
-        <source>web_error_too_large</source>
-        <translation>الملف كبير جدًا.</translation>
-    </message>
-    <message>
-        <source>web_error_unreachable</source>
-        <translation>تعذّر الوصول إلى الخدمة.</translation>
-    </message>
 </context>
 </TS>

@@ -248,45 +248,5 @@
         <source>log_submit_tip</source>
         <translation>Les journaux de cet appareil sont envoyés avec le rapport.</translation>
     </message>
-    <message>
-        <source>web_error_bad_answer</source>
-        <translation>La réponse du service est incompréhensible.</translation>
-    </message>
-    <message>
-        <source>web_error_cancelled</source>
-        <translation>Annulé.</translation>
-    </message>
-    <message>
-        <source>web_error_file</source>
-        <translation>Le fichier n’a pas pu être lu ou a changé entre-temps.</translation>
-    </message>
-    <message>
-        <source>web_error_not_configured</source>
-        <translation>La connexion au service n’est pas configurée correctement sur cet appareil.</translation>
-    </message>
-    <message>
-        <source>web_error_not_trusted</source>
-        <translation>Le serveur n’a pas pu prouver son identité.</translation>
-    </message>
-    <message>
-        <source>web_error_other</source>
-        <translation>Une erreur est survenue.</translation>
-    </message>
-    <message>
-        <source>web_error_refused</source>
-        <translation>Le service a refusé la demande.</translation>
-    </message>
-    <message>
-        <source>web_error_timed_out</source>
-        <translation>Le service n’a pas répondu à temps.</translation>
-    </message>
-    <message>
-        <source>web_error_too_large</source>
-        <translation>Le fichier est trop volumineux.</translation>
-    </message>
-    <message>
-        <source>web_error_unreachable</source>
-        <translation>Le service est injoignable.</translation>
-    </message>
 </context>
 </TS>

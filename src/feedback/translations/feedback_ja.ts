@@ -248,45 +248,5 @@
         <source>log_submit_tip</source>
         <translation>このデバイスのログもレポートとともに送信されます。</translation>
     </message>
-    <message>
-        <source>web_error_bad_answer</source>
-        <translation>サービスの応答を理解できませんでした。</translation>
-    </message>
-    <message>
-        <source>web_error_cancelled</source>
-        <translation>中止しました。</translation>
-    </message>
-    <message>
-        <source>web_error_file</source>
-        <translation>ファイルを読み取れないか、途中で変更されました。</translation>
-    </message>
-    <message>
-        <source>web_error_not_configured</source>
-        <translation>このデバイスでは、サービスへの接続が正しく設定されていません。</translation>
-    </message>
-    <message>
-        <source>web_error_not_trusted</source>
-        <translation>サーバーの身元を確認できませんでした。</translation>
-    </message>
-    <message>
-        <source>web_error_other</source>
-        <translation>問題が発生しました。</translation>
-    </message>
-    <message>
-        <source>web_error_refused</source>
-        <translation>サービスが要求を拒否しました。</translation>
-    </message>
-    <message>
-        <source>web_error_timed_out</source>
-        <translation>サービスが時間内に応答しませんでした。</translation>
-    </message>
-    <message>
-        <source>web_error_too_large</source>
-        <translation>ファイルが大きすぎます。</translation>
-    </message>
-    <message>
-        <source>web_error_unreachable</source>
-        <translation>サービスに接続できませんでした。</translation>
-    </message>
 </context>
 </TS>

@@ -67,5 +67,45 @@
         <source>status_not_enrolled</source>
         <translation>Nicht registriert</translation>
     </message>
+    <message>
+        <source>web_error_bad_answer</source>
+        <translation>Die Antwort des Dienstes war unverständlich.</translation>
+    </message>
+    <message>
+        <source>web_error_cancelled</source>
+        <translation>Abgebrochen.</translation>
+    </message>
+    <message>
+        <source>web_error_file</source>
+        <translation>Die Datei ließ sich nicht lesen oder hat sich währenddessen geändert.</translation>
+    </message>
+    <message>
+        <source>web_error_not_configured</source>
+        <translation>Die Verbindung zum Dienst ist auf diesem Gerät nicht richtig eingerichtet.</translation>
+    </message>
+    <message>
+        <source>web_error_not_trusted</source>
+        <translation>Der Server konnte sich nicht ausweisen.</translation>
+    </message>
+    <message>
+        <source>web_error_other</source>
+        <translation>Etwas ist schiefgegangen.</translation>
+    </message>
+    <message>
+        <source>web_error_refused</source>
+        <translation>Der Dienst hat die Anfrage abgelehnt.</translation>
+    </message>
+    <message>
+        <source>web_error_timed_out</source>
+        <translation>Der Dienst hat nicht rechtzeitig geantwortet.</translation>
+    </message>
+    <message>
+        <source>web_error_too_large</source>
+        <translation>Die Datei ist zu groß.</translation>
+    </message>
+    <message>
+        <source>web_error_unreachable</source>
+        <translation>Der Dienst ist nicht erreichbar.</translation>
+    </message>
 </context>
 </TS>

@@ -67,5 +67,45 @@
         <source>status_not_enrolled</source>
         <translation>Not enrolled</translation>
     </message>
+    <message>
+        <source>web_error_bad_answer</source>
+        <translation>The answer of the service could not be understood.</translation>
+    </message>
+    <message>
+        <source>web_error_cancelled</source>
+        <translation>Cancelled.</translation>
+    </message>
+    <message>
+        <source>web_error_file</source>
+        <translation>The file could not be read, or changed meanwhile.</translation>
+    </message>
+    <message>
+        <source>web_error_not_configured</source>
+        <translation>The connection to the service is not set up correctly on this device.</translation>
+    </message>
+    <message>
+        <source>web_error_not_trusted</source>
+        <translation>The server could not prove its identity.</translation>
+    </message>
+    <message>
+        <source>web_error_other</source>
+        <translation>Something went wrong.</translation>
+    </message>
+    <message>
+        <source>web_error_refused</source>
+        <translation>The service refused the request.</translation>
+    </message>
+    <message>
+        <source>web_error_timed_out</source>
+        <translation>The service did not answer in time.</translation>
+    </message>
+    <message>
+        <source>web_error_too_large</source>
+        <translation>The file is too large.</translation>
+    </message>
+    <message>
+        <source>web_error_unreachable</source>
+        <translation>The service could not be reached.</translation>
+    </message>
 </context>
 </TS>

@@ -67,5 +67,45 @@
         <source>status_not_enrolled</source>
         <translation>No inscrito</translation>
     </message>
+    <message>
+        <source>web_error_bad_answer</source>
+        <translation>No se entendió la respuesta del servicio.</translation>
+    </message>
+    <message>
+        <source>web_error_cancelled</source>
+        <translation>Cancelado.</translation>
+    </message>
+    <message>
+        <source>web_error_file</source>
+        <translation>El archivo no se pudo leer o cambió mientras tanto.</translation>
+    </message>
+    <message>
+        <source>web_error_not_configured</source>
+        <translation>La conexión con el servicio no está bien configurada en este dispositivo.</translation>
+    </message>
+    <message>
+        <source>web_error_not_trusted</source>
+        <translation>El servidor no pudo probar su identidad.</translation>
+    </message>
+    <message>
+        <source>web_error_other</source>
+        <translation>Se ha producido un error.</translation>
+    </message>
+    <message>
+        <source>web_error_refused</source>
+        <translation>El servicio rechazó la solicitud.</translation>
+    </message>
+    <message>
+        <source>web_error_timed_out</source>
+        <translation>El servicio no respondió a tiempo.</translation>
+    </message>
+    <message>
+        <source>web_error_too_large</source>
+        <translation>El archivo es demasiado grande.</translation>
+    </message>
+    <message>
+        <source>web_error_unreachable</source>
+        <translation>No se pudo acceder al servicio.</translation>
+    </message>
 </context>
 </TS>

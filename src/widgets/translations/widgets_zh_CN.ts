@@ -67,5 +67,45 @@
         <source>status_not_enrolled</source>
         <translation>未注册</translation>
     </message>
+    <message>
+        <source>web_error_bad_answer</source>
+        <translation>无法理解服务的响应。</translation>
+    </message>
+    <message>
+        <source>web_error_cancelled</source>
+        <translation>已取消。</translation>
+    </message>
+    <message>
+        <source>web_error_file</source>
+        <translation>无法读取文件，或文件在此期间已更改。</translation>
+    </message>
+    <message>
+        <source>web_error_not_configured</source>
+        <translation>此设备未正确配置与服务的连接。</translation>
+    </message>
+    <message>
+        <source>web_error_not_trusted</source>
+        <translation>无法验证服务器的身份。</translation>
+    </message>
+    <message>
+        <source>web_error_other</source>
+        <translation>出现错误。</translation>
+    </message>
+    <message>
+        <source>web_error_refused</source>
+        <translation>服务拒绝了请求。</translation>
+    </message>
+    <message>
+        <source>web_error_timed_out</source>
+        <translation>服务未及时响应。</translation>
+    </message>
+    <message>
+        <source>web_error_too_large</source>
+        <translation>文件过大。</translation>
+    </message>
+    <message>
+        <source>web_error_unreachable</source>
+        <translation>无法连接到服务。</translation>
+    </message>
 </context>
 </TS>

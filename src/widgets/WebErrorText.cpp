@@ -1,4 +1,4 @@
-#include "feedback/WebErrorText.h"
+#include "widgets/WebErrorText.h"
 
 #include "platform/context/Text.h"
 
