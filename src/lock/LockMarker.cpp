@@ -1,11 +1,10 @@
 #include "lock/LockMarker.h"
 
-#include <QDir>
+#include "platform/files/JsonFile.h"
+
 #include <QFile>
 #include <QFileInfo>
-#include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 #include <glog/logging.h>
 
 namespace {
@@ -22,13 +21,10 @@ LockMarker::LockMarker(const QString& file, const std::string& bootId, const Clo
     : m_file(file), m_bootId(QString::fromStdString(bootId)), m_clock(clock) {}
 
 void LockMarker::Write(const EndTime& end) const {
-    QDir().mkpath(QFileInfo(m_file).path());
     const QJsonObject marker{{QStringLiteral("endAt"), QString::fromStdString(end.Text())},
                              {QStringLiteral("day"), DayOf(m_clock)},
                              {QStringLiteral("boot"), m_bootId}};
-    QSaveFile file(m_file);
-    if (!file.open(QIODevice::WriteOnly) || file.write(QJsonDocument(marker).toJson()) < 0 || !file.commit())
-        LOG(WARNING) << "LockMarker::Write " << file.errorString().toStdString();
+    JsonFile::Write(m_file, QJsonDocument(marker));
 }
 
 void LockMarker::Remove() const {
@@ -36,12 +32,10 @@ void LockMarker::Remove() const {
 }
 
 std::optional<EndTime> LockMarker::Read() const {
-    // Opening something else, such as a pipe that nobody writes to, could take for ever.
     const QFileInfo info(m_file);
-    QFile file(m_file);
-    if (!info.isFile() || info.isSymLink() || !file.open(QIODevice::ReadOnly))
+    if (!info.isFile() || info.isSymLink())
         return std::nullopt;
-    const QJsonObject marker = QJsonDocument::fromJson(file.read(LargestFile)).object();
+    const QJsonObject marker = JsonFile::Read(m_file, LargestFile).object();
     const QString endAt = marker.value(QStringLiteral("endAt")).toString(QStringLiteral("none"));
     std::optional<EndTime> end = EndTime::Parse(endAt.toStdString());
     const char* fault = nullptr;
@@ -55,6 +49,6 @@ std::optional<EndTime> LockMarker::Read() const {
     if (!fault)
         return end;
     LOG(WARNING) << "LockMarker::Read ignores a lock that " << fault;
-    file.remove();
+    Remove();
     return std::nullopt;
 }

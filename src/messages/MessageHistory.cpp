@@ -1,21 +1,14 @@
 #include "messages/MessageHistory.h"
 
-#include "platform/security/LogText.h"
-#include "platform/system/SystemSession.h"
+#include "platform/files/JsonFile.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 #include <algorithm>
-#include <glog/logging.h>
 
 namespace {
 
-constexpr qint64 LargestFile = 64 * 1024 * 1024;
+constexpr qint64 LargestFile = 16 * 1024 * 1024;
 
 QString Utf16(const std::string& text) {
     return QString::fromStdString(text);
@@ -102,12 +95,10 @@ void MessageHistory::SetSavedAs(int id, const QString& path) {
 }
 
 void MessageHistory::Read() {
-    // Opening something else, such as a pipe that nobody writes to, could take for ever.
-    const QFileInfo info(m_file);
-    QFile file(m_file);
-    if (!info.isFile() || info.isSymLink() || info.size() > LargestFile || !file.open(QIODevice::ReadOnly))
-        return;
-    const QJsonArray messages = QJsonDocument::fromJson(file.readAll()).array();
+    const QJsonDocument document = JsonFile::Read(m_file, LargestFile);
+    if (!document.isArray())
+        return JsonFile::SetAside(m_file);
+    const QJsonArray messages = document.array();
     for (int i = std::max(0, messages.size() - Most); i < messages.size(); ++i) {
         Message message = FromJson(messages[i].toObject());
         message.id = ++m_lastId;
@@ -119,10 +110,5 @@ void MessageHistory::Write() const {
     QJsonArray messages;
     for (const Message& message : m_messages)
         messages.append(ToJson(message));
-    QDir().mkpath(QFileInfo(m_file).path());
-    QSaveFile file(m_file);
-    const bool written = file.open(QIODevice::WriteOnly) &&
-                         file.write(QJsonDocument(messages).toJson(QJsonDocument::Compact)) >= 0 &&
-                         file.commit() && SystemSession::Native().KeepPrivate(m_file);
-    LOG_IF(WARNING, !written) << "MessageHistory::Write " << LogText(file.errorString());
+    JsonFile::Write(m_file, QJsonDocument(messages));
 }

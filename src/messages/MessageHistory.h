@@ -12,7 +12,7 @@ class MessageHistory : public QObject {
 public:
     static constexpr int Most = 50;
 
-    /// Reads `file`, if it is there. What it holds that cannot be read is left out.
+    /// Reads `file`, if it is there. One that cannot be read is set aside.
     explicit MessageHistory(const QString& file);
 
     /// The oldest first.

@@ -1,18 +1,14 @@
 #include "popups/PopupHistory.h"
 
+#include "platform/files/JsonFile.h"
 #include "platform/link/PipeClientService.h"
 #include "platform/link/PipeEventWatcher.h"
 #include "platform/link/PipeSendEvent.h"
 
 #include <QCoreApplication>
-#include <QDir>
-#include <QFileInfo>
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 #include <algorithm>
-#include <glog/logging.h>
 #include <utility>
 
 namespace {
@@ -186,21 +182,9 @@ void PopupHistory::Touch() {
 }
 
 void PopupHistory::Read() {
-    const QFileInfo info(m_file);
-    if (m_file.isEmpty() || !info.exists())
-        return;
-    // Opening something else, such as a pipe that nobody writes to, could take for ever.
-    QFile file(m_file);
-    if (!info.isFile() || info.size() > LargestFile || !file.open(QIODevice::ReadOnly)) {
-        SetAside();
-        return;
-    }
-    const QJsonObject json = QJsonDocument::fromJson(file.readAll()).object();
-    file.close();
-    if (!json[QStringLiteral("records")].isArray()) {
-        SetAside();
-        return;
-    }
+    const QJsonObject json = JsonFile::Read(m_file, LargestFile).object();
+    if (!json[QStringLiteral("records")].isArray())
+        return JsonFile::SetAside(m_file);
     m_day = QDate::fromString(json[QStringLiteral("day")].toString(), Qt::ISODate);
     m_count = json[QStringLiteral("count")].toInt();
     const QJsonArray records = json[QStringLiteral("records")].toArray();
@@ -211,13 +195,6 @@ void PopupHistory::Read() {
     }
 }
 
-void PopupHistory::SetAside() const {
-    const QString aside = m_file + QStringLiteral(".broken");
-    QFile::remove(aside);
-    LOG(WARNING) << "PopupHistory::Read cannot use the history, which is "
-                 << (QFile::rename(m_file, aside) ? "set aside" : "left as it is");
-}
-
 void PopupHistory::Write() {
     QJsonArray records;
     for (const PopupRecord& record : m_records)
@@ -225,8 +202,5 @@ void PopupHistory::Write() {
     const QJsonObject json{{QStringLiteral("day"), m_day.toString(Qt::ISODate)},
                            {QStringLiteral("count"), m_count},
                            {QStringLiteral("records"), records}};
-    QDir().mkpath(QFileInfo(m_file).path());
-    QSaveFile file(m_file);
-    if (!file.open(QIODevice::WriteOnly) || file.write(QJsonDocument(json).toJson()) < 0 || !file.commit())
-        LOG(WARNING) << "PopupHistory::Write " << file.errorString().toStdString();
+    JsonFile::Write(m_file, QJsonDocument(json));
 }

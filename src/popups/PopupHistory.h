@@ -69,7 +69,6 @@ private:
     void Add(const UploadPopupsParams& report);
     void LookAgain();
     void Read();
-    void SetAside() const;
     void Write();
     void Touch();
 
