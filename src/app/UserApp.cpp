@@ -145,6 +145,14 @@ int UserApp::Run(int argc, char** argv) {
     AppHelper::LoadConfig();
     RyxWebClient::Instance()->Configure(WebSettings::From(*AppConfigData::Instance()));
 
+    // A lock in force comes before everything that reads files or makes windows.
+    Watchdog watchdog;
+    UDeviceScreenLock screenLock;
+    connect(&screenLock, &UDeviceScreenLock::VisibleChanged, &watchdog, &Watchdog::SetLocked);
+    connect(&screenLock, &UDeviceScreenLock::Lost,
+            [] { Watchdog::EndProcess("the lock's window was destroyed, only a new start can lock again"); });
+    screenLock.Resume();
+
     PopupsController popups;
     MainController main;
     SettingsLockController settings;
@@ -159,12 +167,6 @@ int UserApp::Run(int argc, char** argv) {
     const PopupHistory popupHistory(QString::fromStdWString(RyxPath::GetUserDataDir()) +
                                         QStringLiteral("/popups.json"),
                                     &PickableWindow::IsOpen, Clock::System(), &application);
-    Watchdog watchdog;
-    UDeviceScreenLock screenLock;
-    connect(&screenLock, &UDeviceScreenLock::VisibleChanged, &watchdog, &Watchdog::SetLocked);
-    connect(&screenLock, &UDeviceScreenLock::Lost,
-            [] { Watchdog::EndProcess("the lock's window was destroyed, only a new start can lock again"); });
-    screenLock.Resume();
     const PipeLinkGuard link;
 
     MainWindow window;
