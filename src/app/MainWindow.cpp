@@ -12,6 +12,7 @@
 #include "platform/link/PipeClientService.h"
 #include "popups/PopupHistory.h"
 #include "ui_MainWindow.h"
+#include "widgets/ReturnKey.h"
 #include "widgets/UExitButton.h"
 
 #include <QCloseEvent>
@@ -173,6 +174,11 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     m_geometry = saveGeometry();
     hide();
     event->ignore();
+}
+
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+    if (!PressFocusedButton(*this, *event))
+        RyxWindow::keyPressEvent(event);
 }
 
 void MainWindow::changeEvent(QEvent* event) {

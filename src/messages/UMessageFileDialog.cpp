@@ -8,6 +8,7 @@
 #include "widgets/AccessibleRole.h"
 #include "widgets/GestureScrollArea.h"
 #include "widgets/QFlowLayout.h"
+#include "widgets/ReturnKey.h"
 #include "widgets/UIconLabel.h"
 #include "widgets/UTextButton.h"
 #include "widgets/UTextLabel.h"
@@ -337,7 +338,7 @@ void UMessageFileDialog::closeEvent(QCloseEvent* event) {
 void UMessageFileDialog::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape)
         CloseCurrent();
-    else
+    else if (!PressFocusedButton(*this, *event))
         QWidget::keyPressEvent(event);
 }
 

@@ -2,9 +2,9 @@
 
 #include "widgets/AccessibleRole.h"
 #include "widgets/NoticeQueue.h"
+#include "widgets/ReturnKey.h"
 #include "widgets/UCentredArea.h"
 
-#include <QAbstractButton>
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
@@ -105,9 +105,8 @@ void UOverlay::keyPressEvent(QKeyEvent* event) {
         return;
     if (event->key() == Qt::Key_Escape)
         Dismiss();
-    else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        if (auto* button = qobject_cast<QAbstractButton*>(focusWidget()))
-            button->click();
+    else
+        PressFocusedButton(*this, *event);
 }
 
 bool UOverlay::eventFilter(QObject* watched, QEvent* event) {

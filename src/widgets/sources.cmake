@@ -5,6 +5,7 @@ target_sources(ryx_user_objects PRIVATE
     ${CMAKE_CURRENT_LIST_DIR}/GestureScrollArea.cpp
     ${CMAKE_CURRENT_LIST_DIR}/NoticeQueue.cpp
     ${CMAKE_CURRENT_LIST_DIR}/QFlowLayout.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/ReturnKey.cpp
     ${CMAKE_CURRENT_LIST_DIR}/Spinner.cpp
     ${CMAKE_CURRENT_LIST_DIR}/StatusLook.cpp
     ${CMAKE_CURRENT_LIST_DIR}/ThemeIcon.cpp

@@ -155,12 +155,15 @@ TEST_F(Shell, OneKnowsWhereOneIs) {
     }
 }
 
-TEST_F(Shell, ReopenedTheKeyboardIsAtTheMenu) {
+TEST_F(Shell, ReopenedTheKeyboardIsAtTheMenuWhereReturnOpensPages) {
     Start(true);
     PressMenu("menu_about");
     Click(Find<UExitButton>());
     ActivateTray();
     EXPECT_EQ(Window().focusWidget(), &Find<UMenuEntry>("menu_about"));
+    Find<UMenuEntry>("menu_network").setFocus();
+    QTest::keyClick(Window().focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(Place(), "network");
 }
 
 TEST_F(Shell, LiveChannelsShowOnceTheEnrolledDeviceHasSome) {
