@@ -1,11 +1,11 @@
 #include "feedback/UFeedback.h"
 
 #include "feedback/AttachmentStrip.h"
+#include "feedback/FeedbackAlerts.h"
 #include "feedback/FeedbackForm.h"
 #include "feedback/LogFilesDialog.h"
 #include "platform/application/RyxWindow.h"
 #include "platform/context/AppContextData.h"
-#include "platform/context/LanguageHelper.h"
 #include "platform/context/MachineHelper.h"
 #include "platform/context/RyxPath.h"
 #include "platform/context/Theme.h"
@@ -13,7 +13,6 @@
 #include "widgets/UAlert.h"
 #include "widgets/UTextButton.h"
 #include "widgets/UTextLabel.h"
-#include "widgets/WebErrorText.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -32,8 +31,7 @@
 namespace {
 
 constexpr int ProgressMs = 100;
-constexpr int MostSaid = 300; // characters of the service's
-constexpr int EndMs = 1500;   // of the two seconds that the program has for its end
+constexpr int EndMs = 1500; // of the two seconds that the program has for its end
 
 // Whatever was proposed: after a move the source would delete its file.
 void AcceptCopy(QDropEvent& event) {
@@ -148,13 +146,7 @@ void UFeedback::OnSubmitButtonClicked() {
         StartReport();
         return;
     }
-    UAlert* alert = Ask([failed](UAlert& asked) {
-        asked.SetTitle(tr("feedback_without_title"));
-        asked.SetContent(tr("feedback_without_content").arg(failed.join(QStringLiteral("\n"))));
-        asked.SetOkText(tr("feedback_without_send"));
-        asked.SetCancelText(tr("button_back"));
-    });
-    alert->SetKind(NoticeKind::Warning);
+    UAlert* alert = FeedbackAlerts::SendWithout(this, failed);
     connect(alert, &UAlert::Accepted, this, &UFeedback::StartReport);
     alert->show();
 }
@@ -221,34 +213,15 @@ bool UFeedback::IsSeen() const {
 
 void UFeedback::ShowOutcome() {
     if (m_outcome.ok) {
-        UAlert* alert = Ask([](UAlert& told) {
-            told.SetTitle(tr("feedback_sent_title"));
-            told.SetContent(tr("feedback_sent_content"));
-        });
-        alert->SetKind(NoticeKind::Success);
+        UAlert* alert = FeedbackAlerts::Sent(this);
         connect(alert, &UAlert::Accepted, this, &UFeedback::Left);
         alert->show();
         return;
     }
-    UAlert* alert = Ask([this](UAlert& told) {
-        told.SetTitle(tr("feedback_failed_title"));
-        told.SetContent(FailureText());
-        told.SetOkText(tr("feedback_retry"));
-        told.SetCancelText(tr("feedback_close"));
-        told.SetOtherText(tr("feedback_save"));
-    });
-    alert->SetKind(NoticeKind::Error);
+    UAlert* alert = FeedbackAlerts::NotSent(this, m_outcome);
     connect(alert, &UAlert::Accepted, this, &UFeedback::OnSubmitRetry);
     connect(alert, &UAlert::OtherChosen, this, &UFeedback::ChooseArchive);
     alert->show();
-}
-
-QString UFeedback::FailureText() const {
-    QString text =
-        m_outcome.step == ReportStep::Pack ? tr("feedback_failed_pack") : WebErrorText(m_outcome.error);
-    if (!m_outcome.said.isEmpty())
-        text += QLatin1Char('\n') + tr("feedback_service_says").arg(m_outcome.said.left(MostSaid));
-    return text + QLatin1Char('\n') + tr("feedback_failed_advice");
 }
 
 void UFeedback::ChooseArchive() {
@@ -309,13 +282,7 @@ void UFeedback::OnArchiveEnded() {
 }
 
 void UFeedback::AskToReplace() {
-    UAlert* alert = Ask([name = QFileInfo(m_target).fileName()](UAlert& asked) {
-        asked.SetTitle(tr("feedback_replace_title"));
-        asked.SetContent(tr("feedback_replace_content").arg(name));
-        asked.SetOkText(tr("feedback_replace"));
-        asked.SetCancelText(tr("button_back"));
-    });
-    alert->SetDangerous(true);
+    UAlert* alert = FeedbackAlerts::Replace(this, QFileInfo(m_target).fileName());
     connect(alert, &UAlert::Accepted, this, [this] { SaveArchive(m_target, true); });
     connect(alert, &UAlert::Rejected, this, &UFeedback::ChooseArchive);
     alert->show();
@@ -328,13 +295,7 @@ void UFeedback::Leave() {
     } else if (!m_form->HoldsSomething()) {
         emit Left();
     } else {
-        UAlert* alert = Ask([](UAlert& asked) {
-            asked.SetTitle(tr("feedback_leave_title"));
-            asked.SetContent(tr("feedback_leave_content"));
-            asked.SetOkText(tr("feedback_discard"));
-            asked.SetCancelText(tr("feedback_stay"));
-        });
-        alert->SetDangerous(true);
+        UAlert* alert = FeedbackAlerts::Discard(this);
         connect(alert, &UAlert::Accepted, this, [this] {
             m_form->Clear();
             emit Left();
@@ -353,16 +314,6 @@ void UFeedback::PasteAttachment() {
     const QMimeData* clip = QApplication::clipboard()->mimeData();
     if (clip && m_activity == Activity::None && AttachmentStrip::CanTake(*clip))
         m_form->Attachments().Take(*clip);
-}
-
-UAlert* UFeedback::Ask(const std::function<void(UAlert&)>& setTexts) {
-    auto* alert = new UAlert(this);
-    setTexts(*alert);
-    connect(LanguageHelper::Instance(), &LanguageHelper::LanguageChanged, alert,
-            [alert, setTexts] { setTexts(*alert); });
-    for (const auto answer : {&UAlert::Accepted, &UAlert::Rejected, &UAlert::OtherChosen})
-        connect(alert, answer, alert, &QObject::deleteLater);
-    return alert;
 }
 
 void UFeedback::Notify(NoticeKind kind, const QString& text) {

@@ -11,7 +11,6 @@
 
 class FeedbackForm;
 class QProgressBar;
-class UAlert;
 class UTextButton;
 
 /// The page from which a user reports a problem, with the logs of this device.
@@ -63,7 +62,6 @@ private:
     void TellOutcome(NoticeKind kind, const QString& notice);
     bool IsSeen() const;
     void ShowOutcome();
-    QString FailureText() const;
 
     void ChooseArchive();
     void SaveArchive(const QString& target, bool mayReplace);
@@ -73,8 +71,6 @@ private:
     void Leave();
     void ShowLogFiles();
     void PasteAttachment();
-    /// Makes an alert whose texts follow the language.
-    UAlert* Ask(const std::function<void(UAlert&)>& setTexts);
     void Notify(NoticeKind kind, const QString& text);
     void Retranslate();
 
