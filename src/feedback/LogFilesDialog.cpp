@@ -2,6 +2,7 @@
 
 #include "platform/context/LanguageHelper.h"
 #include "platform/files/NamedFile.h"
+#include "platform/security/HashMask.h"
 #include "widgets/AccessibleRole.h"
 #include "widgets/GestureScrollArea.h"
 #include "widgets/UBackButton.h"
@@ -129,7 +130,11 @@ void LogFilesDialog::ShowFile(const NamedFile& named) {
     const bool isCut = m_isReadable && file.size() > MostShown && file.seek(file.size() - MostShown);
     m_viewTitle->SetText(named.name);
     m_viewNote->setVisible(isCut || !m_isReadable);
-    m_view->setPlainText(m_isReadable ? QString::fromUtf8(file.read(MostShown)) : QString());
+    QByteArray text = m_isReadable ? file.read(MostShown) : QByteArray();
+    if (isCut) // whose first line is but the end of one
+        text.remove(0, text.indexOf('\n') + 1);
+    HashMask().Apply(text.data(), static_cast<std::size_t>(text.size()));
+    m_view->setPlainText(QString::fromUtf8(text));
     m_view->setAccessibleName(named.name);
     m_listPart->hide();
     m_viewPart->show();

@@ -27,7 +27,7 @@ ReportArchive::Result ReportArchive::Save(const TaskControl& control) const {
 
     QVector<NamedFile> files{{QStringLiteral("report.txt"), description.fileName(), true}};
     for (const NamedFile& log : ListFiles(QString::fromStdWString(logFolder)))
-        files.append({QStringLiteral("log/") + log.name, log.path});
+        files.append({QStringLiteral("log/") + log.name, log.path, false, true}); // a user will have it
     QSet<QString> taken;
     for (const QString& attachment : attachments)
         files.append({FreeName(QFileInfo(attachment).fileName(), taken), attachment, true});

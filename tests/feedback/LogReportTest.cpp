@@ -138,12 +138,18 @@ TEST_F(LogReportRun, SavedAsAnArchiveItHoldsEverythingAndReplacesNothingUnasked)
     const auto save = [&archive] {
         return std::async(std::launch::async, [&] { return archive.Save({}); }).get();
     };
+    Write("log/1-User.1", "a\nUnlock password update: 0123abc\nz");
     EXPECT_EQ(save(), ReportArchive::Result::Saved);
     std::set<std::string> names;
     zip_t* zip = zip_open(target.toUtf8().constData(), ZIP_RDONLY | ZIP_CHECKCONS, nullptr);
     ASSERT_TRUE(zip);
     for (zip_int64_t i = 0; i < zip_get_num_entries(zip, 0); ++i)
         names.insert(zip_get_name(zip, static_cast<zip_uint64_t>(i), 0));
+    QByteArray packed(100, '\0');
+    zip_file_t* file = zip_fopen(zip, "log/1-User.1", 0);
+    packed.truncate(static_cast<int>(zip_fread(file, packed.data(), 100)));
+    EXPECT_EQ(packed, "a\nUnlock password update: *******\nz") << "a user will have it";
+    zip_fclose(file);
     zip_discard(zip);
     EXPECT_EQ(names, (std::set<std::string>{"attachments/2-fault.png", "attachments/fault.png",
                                             "log/1-User.1", "log/older/1-User.0", "report.txt"}));

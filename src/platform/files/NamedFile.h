@@ -7,7 +7,8 @@
 struct NamedFile {
     QString name; ///< with "/" between folders
     QString path;
-    bool isNeeded = false; ///< an archive without it is none
+    bool isNeeded = false;    ///< an archive without it is none
+    bool masksHashes = false; ///< packed with stars for the hashes of passwords (HashMask)
 };
 
 /// Every file of `folder` and of the folders below it, hidden ones too, ordered by names, which are relative

@@ -1,5 +1,6 @@
 #include "platform/files/ZipUtility.h"
 
+#include "platform/security/HashMask.h"
 #include "platform/security/LogText.h"
 #include "platform/system/SystemSession.h"
 
@@ -27,7 +28,8 @@ struct Packing {
 /// A file that was opened, as long as it was then: it may be renamed, removed and written to meanwhile.
 class OpenedFile {
 public:
-    explicit OpenedFile(const NamedFile& file) : m_file(file.path), m_name(file.name) {
+    explicit OpenedFile(const NamedFile& file)
+        : m_file(file.path), m_name(file.name), m_masksHashes(file.masksHashes) {
         zip_stat_init(&m_facts);
         zip_error_init(&m_error);
         char probe = 0; // another program may have locked what it has left readable
@@ -69,6 +71,7 @@ private:
     zip_int64_t Serve(void* data, zip_uint64_t size, zip_source_cmd_t command) {
         switch (command) {
         case ZIP_SOURCE_OPEN:
+            m_mask = HashMask();
             return m_file.seek(0) ? 0 : Fail(ZIP_ER_SEEK);
         case ZIP_SOURCE_READ:
             return Read(static_cast<char*>(data), static_cast<qint64>(size));
@@ -97,6 +100,8 @@ private:
                          << LogText(Problem());
             return 0;
         }
+        if (m_masksHashes)
+            m_mask.Apply(data, static_cast<std::size_t>(read));
         m_packing->done += read;
         m_packing->control.Tell(m_packing->done, m_packing->total);
         return read;
@@ -110,6 +115,8 @@ private:
     QFile m_file;
     bool m_isReadable = false;
     QString m_name;
+    bool m_masksHashes;
+    HashMask m_mask;
     qint64 m_size = 0;
     zip_stat_t m_facts{};
     zip_error_t m_error{};
