@@ -1,9 +1,15 @@
 #include "feedback/AttachmentFile.h"
 
+#include "platform/security/LogText.h"
+
 #include <QDir>
 #include <QFileInfo>
 
 namespace {
+
+QString ShownName(const QFileInfo& info) {
+    return QString::fromStdString(LogText(info.fileName()));
+}
 
 Refusal Judge(const QFileInfo& info) {
     if (info.isDir())
@@ -23,7 +29,7 @@ Refusal Judge(const QFileInfo& info) {
 QVector<AttachmentFile> AttachmentFile::Unreadable(const QStringList& paths) {
     QVector<AttachmentFile> files;
     for (const QString& path : paths)
-        files.append({path, QFileInfo(path).fileName(), path, 0, Refusal::Unreadable, nullptr});
+        files.append({path, ShownName(QFileInfo(path)), path, 0, Refusal::Unreadable, nullptr});
     return files;
 }
 
@@ -31,7 +37,7 @@ QVector<AttachmentFile> AttachmentFile::Inspect(const QStringList& paths) {
     QVector<AttachmentFile> files;
     for (const QString& path : paths) {
         const QFileInfo info(QDir::cleanPath(path));
-        files.append({path, info.fileName(), info.canonicalFilePath(), info.size(), Judge(info), nullptr});
+        files.append({path, ShownName(info), info.canonicalFilePath(), info.size(), Judge(info), nullptr});
     }
     return files;
 }

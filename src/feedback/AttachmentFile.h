@@ -15,7 +15,7 @@ struct AttachmentFile {
     static constexpr qint64 MostBytes = 50 * 1024 * 1024;
 
     QString path;
-    QString name;
+    QString name;     ///< as it may be shown: what hides or turns other characters is replaced
     QString identity; ///< the same for the same file, however it was named
     qint64 size = 0;
     Refusal refusal = Refusal::None;

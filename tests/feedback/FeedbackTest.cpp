@@ -199,7 +199,8 @@ TEST_F(Feedback, WhatIsNotAttachedIsToldWithItsReason) {
     } cases[] = {{{Make(QStringLiteral("huge"), AttachmentFile::MostBytes + 1)},
                   "“huge” was not attached: it is larger than 50 MB."},
                  {{folder.path()}, "it is a folder."},
-                 {{folder.filePath(QStringLiteral("none"))}, "“none” was not attached: it cannot be read."},
+                 {{folder.filePath(QString::fromUtf8("no\u202Egnp.exe"))},
+                  "“no\uFFFDgnp.exe” was not attached: it cannot be read."},
                  {{Make(QStringLiteral("void"), 0)}, "the file is empty."},
                  {{good, folder.path() + QStringLiteral("/./good")},
                   "“good” was not attached: it is attached already."}};
