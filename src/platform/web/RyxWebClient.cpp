@@ -311,7 +311,8 @@ bool RyxWebClient::Feedback(const std::string& json, std::string& message, const
             const Json::Value& code = answer["code"];
             if (!code.isInt())
                 RefuseAnswer("the answer tells no code");
-            message = answer.get("message", "").asString();
+            if (const Json::Value& said = answer["message"]; said.isString()) // the code alone counts
+                message = said.asString();
             if (code.asInt() != 0)
                 throw WebException(WebError::Refused,
                                    message.empty() ? "code " + std::to_string(code.asInt()) : message, false,
