@@ -190,34 +190,34 @@ void UFeedback::OnLogReported(const QString&, bool ok) {
         m_form->Clear();
     if (m_outcome.error == WebError::Cancelled)
         Notify(NoticeKind::Info, tr("feedback_cancelled"));
-    else if (ok)
-        TellOutcome(NoticeKind::Success, tr("feedback_sent_title"));
+    else if (!ok)
+        ShowNowOrOnReturn(&UFeedback::ShowFailure, tr("feedback_failed_notice"));
+    else if (IsSeen())
+        ShowSuccess();
     else
-        TellOutcome(NoticeKind::Error, tr("feedback_failed_notice"));
+        Notify(NoticeKind::Success, tr("feedback_sent_title"));
 }
 
-// A failure that nobody sees now waits for the user's return.
-void UFeedback::TellOutcome(NoticeKind kind, const QString& notice) {
+void UFeedback::ShowNowOrOnReturn(void (UFeedback::*act)(), const QString& notice) {
     if (IsSeen()) {
-        ShowOutcome();
+        (this->*act)();
         return;
     }
-    if (!m_outcome.ok)
-        m_onReturn = &UFeedback::ShowOutcome;
-    Notify(kind, notice);
+    m_onReturn = act;
+    Notify(NoticeKind::Error, notice);
 }
 
 bool UFeedback::IsSeen() const {
     return isVisible() && !window()->isMinimized();
 }
 
-void UFeedback::ShowOutcome() {
-    if (m_outcome.ok) {
-        UAlert* alert = FeedbackAlerts::Sent(this);
-        connect(alert, &UAlert::Accepted, this, &UFeedback::Left);
-        alert->show();
-        return;
-    }
+void UFeedback::ShowSuccess() {
+    UAlert* alert = FeedbackAlerts::Sent(this);
+    connect(alert, &UAlert::Accepted, this, &UFeedback::Left);
+    alert->show();
+}
+
+void UFeedback::ShowFailure() {
     UAlert* alert = FeedbackAlerts::NotSent(this, m_outcome);
     connect(alert, &UAlert::Accepted, this, &UFeedback::OnSubmitRetry);
     connect(alert, &UAlert::OtherChosen, this, &UFeedback::ChooseArchive);
@@ -237,7 +237,7 @@ void UFeedback::ChooseArchive() {
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QFileDialog::fileSelected, this,
             [this](const QString& target) { SaveArchive(target, false); });
-    connect(dialog, &QDialog::rejected, this, &UFeedback::ShowOutcome);
+    connect(dialog, &QDialog::rejected, this, &UFeedback::ShowFailure);
     dialog->open();
 }
 
@@ -268,15 +268,12 @@ void UFeedback::OnArchiveEnded() {
         Notify(NoticeKind::Success, tr("log_export_log_success"));
         break;
     case ReportArchive::Result::Exists:
-        if (IsSeen())
-            AskToReplace();
-        else
-            m_onReturn = &UFeedback::AskToReplace;
+        ShowNowOrOnReturn(&UFeedback::AskToReplace, tr("log_export_log_failed"));
         break;
     case ReportArchive::Result::Failed:
         if (!cancelled)
             Notify(NoticeKind::Error, tr("log_export_log_failed"));
-        TellOutcome(NoticeKind::Error, tr("feedback_failed_notice")); // neither sent nor saved
+        ShowNowOrOnReturn(&UFeedback::ShowFailure, tr("feedback_failed_notice")); // neither sent nor saved
         break;
     }
 }

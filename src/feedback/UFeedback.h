@@ -59,9 +59,10 @@ private:
                                       const Cancellation& cancellation, const ProgressMeter& meter);
     void OnReportEnded();
     void OnLogReported(const QString& message, bool ok);
-    void TellOutcome(NoticeKind kind, const QString& notice);
+    void ShowNowOrOnReturn(void (UFeedback::*act)(), const QString& notice);
     bool IsSeen() const;
-    void ShowOutcome();
+    void ShowSuccess();
+    void ShowFailure();
 
     void ChooseArchive();
     void SaveArchive(const QString& target, bool mayReplace);
@@ -83,7 +84,7 @@ private:
     QFutureWatcher<ReportArchive::Result> m_archive;
     QString m_target; // of the archive
     LogReportOutcome m_outcome;
-    void (UFeedback::*m_onReturn)() = nullptr; // tells what came while the page was not seen
+    void (UFeedback::*m_onReturn)() = nullptr; // shows what came while the page was not seen
     QTimer m_progressTimer{this};
 
     FeedbackForm* m_form;
