@@ -101,6 +101,10 @@ void AttachmentStrip::Inspect(const QFuture<QVector<AttachmentFile>>& inspection
             Add(file);
         GestureScrollArea::Reveal(m_list);
         ShowRefusals();
+        if (!m_refused.isEmpty()) {
+            GestureScrollArea::Reveal(m_refusals);
+            AnnounceAlert(m_refusals);
+        }
         emit Changed();
     });
     watcher->setFuture(inspection);
@@ -265,12 +269,6 @@ void AttachmentStrip::ShowRefusals() {
             lines.append(tr("attachment_refused_together")
                              .arg(locale.createSeparatedList(group.value()), words(group.key())));
     }
-    const QString text = lines.join(QLatin1Char('\n'));
-    const bool isNew = !text.isEmpty() && text != m_refusals->text();
-    m_refusals->setText(text);
-    m_refusals->setVisible(!text.isEmpty());
-    if (isNew) {
-        GestureScrollArea::Reveal(m_refusals);
-        AnnounceAlert(m_refusals);
-    }
+    m_refusals->setText(lines.join(QLatin1Char('\n')));
+    m_refusals->setVisible(!lines.isEmpty());
 }

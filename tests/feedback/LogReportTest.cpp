@@ -90,13 +90,12 @@ TEST_F(LogReportRun, StopsAtTheStepThatFailsAndLeavesNoArchive) {
     const struct {
         const char* fault;
         const char* line;
-        const char* message;
         WebError error;
-    } cases[] = {{"policy 503", "file failed to UploadToNubra", "", WebError::Refused},
-                 {"upload gone", "file failed to UploadToNubra", "", WebError::Unreachable},
-                 {"log empty", "NotifyDeviceLogUpload failed.", "", WebError::BadAnswer},
-                 {"url wrong", "GetDownloadUrlByFileKey failed.", "", WebError::BadAnswer},
-                 {"feedback 500", "Feedback failed: ", "500", WebError::Refused}};
+    } cases[] = {
+        {"policy 503", "file failed to UploadToNubra", WebError::Refused},
+        {"log empty", "NotifyDeviceLogUpload failed.", WebError::BadAnswer},
+        {"url wrong", "GetDownloadUrlByFileKey failed.", WebError::BadAnswer},
+        {"feedback 500", "Feedback failed: the server answered 500: told to fail", WebError::Refused}};
     for (const auto& expected : cases) {
         SCOPED_TRACE(expected.fault);
         const std::string endpoint =
@@ -106,10 +105,9 @@ TEST_F(LogReportRun, StopsAtTheStepThatFailsAndLeavesNoArchive) {
         Tell("web " + endpoint + " ok");
         EXPECT_FALSE(outcome.ok);
         EXPECT_EQ(outcome.error, expected.error);
-        EXPECT_EQ(outcome.message.isEmpty(), *expected.message == 0);
-        EXPECT_TRUE(outcome.message.contains(QLatin1String(expected.message)));
+        EXPECT_EQ(outcome.message.isEmpty(), outcome.step != ReportStep::Send);
         EXPECT_EQ(outcome.said.toStdString(), outcome.error == WebError::Refused ? "told to fail" : "");
-        EXPECT_EQ(outcome.logLine, expected.line + outcome.message.toStdString());
+        EXPECT_EQ(outcome.logLine, expected.line);
         EXPECT_EQ(Left(), QStringList());
     }
     const Cancellation cancelled;
