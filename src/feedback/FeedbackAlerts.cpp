@@ -75,8 +75,9 @@ UAlert* FeedbackAlerts::Sent(QWidget* page) {
 
 UAlert* FeedbackAlerts::NotSent(QWidget* page, const LogReportOutcome& outcome) {
     UAlert* alert = Make(page, [outcome](UAlert& told) {
-        told.SetTitle(Text("feedback_failed_title"));
-        told.SetContent(Reason(outcome));
+        told.SetTitle(outcome.MayHaveArrived() ? Text("feedback_unknown_title")
+                                               : Text("feedback_failed_title"));
+        told.SetContent(outcome.MayHaveArrived() ? Text("feedback_unknown_advice") : Reason(outcome));
         told.SetOkText(Text("feedback_retry"));
         told.SetCancelText(Text("feedback_close"));
         told.SetOtherText(Text("feedback_save"));

@@ -19,7 +19,7 @@ UAlert* Discard(QWidget* page);
 UAlert* Replace(QWidget* page, const QString& name);
 /// The report was sent.
 UAlert* Sent(QWidget* page);
-/// The report was not sent, and why. Accepted: once more; other: save it.
+/// The report was not sent, or perhaps was, and why. Accepted: once more; other: save it.
 UAlert* NotSent(QWidget* page, const LogReportOutcome& outcome);
 
 } // namespace FeedbackAlerts

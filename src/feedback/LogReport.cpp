@@ -31,6 +31,18 @@ QJsonObject Attached(const QString& name, const std::string& url) {
 
 } // namespace
 
+bool LogReportOutcome::MayHaveArrived() const {
+    switch (error) {
+    case WebError::Cancelled:
+    case WebError::Unreachable:
+    case WebError::TimedOut:
+    case WebError::BadAnswer:
+        return step == ReportStep::Send;
+    default:
+        return false;
+    }
+}
+
 LogReport::LogReport(LogReportRequest request, const RyxWebClient& client, const Clock& clock)
     : m_request(std::move(request)), m_client(client), m_clock(clock) {}
 

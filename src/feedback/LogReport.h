@@ -31,6 +31,9 @@ struct LogReportOutcome {
     WebError error = WebError::None;    ///< why, as far as the web client told
     QString said;                       ///< by the service of a failure; empty when it said nothing
     std::string logLine;                ///< what the log has to say of the failure
+
+    /// Whether the service may have the report, although it has not said so.
+    bool MayHaveArrived() const;
 };
 
 /// Packs the logs, uploads them, registers them with the service, and sends the feedback. Stops at the first

@@ -188,10 +188,12 @@ void UFeedback::OnLogReported(const QString&, bool ok) {
     SetActivity(Activity::None);
     if (ok)
         m_form->Clear();
+    const QString unknown = m_outcome.MayHaveArrived() ? tr("feedback_unknown_title") : QString();
     if (m_outcome.error == WebError::Cancelled)
-        Notify(NoticeKind::Info, tr("feedback_cancelled"));
+        Notify(NoticeKind::Info, unknown.isEmpty() ? tr("feedback_cancelled") : unknown);
     else if (!ok)
-        ShowNowOrOnReturn(&UFeedback::ShowFailure, tr("feedback_failed_notice"));
+        ShowNowOrOnReturn(&UFeedback::ShowFailure,
+                          unknown.isEmpty() ? tr("feedback_failed_notice") : unknown);
     else if (IsSeen())
         ShowSuccess();
     else

@@ -328,7 +328,7 @@ TEST_F(Feedback, LeavingAsksOnlyForWhatWouldBeLost) {
     EXPECT_FALSE(Alert());
     ASSERT_EQ(window.notices.size(), 2);
     page->show();
-    EXPECT_NE(AlertSays().find("could not be reached"), std::string::npos) << AlertSays();
+    EXPECT_NE(AlertSays().find("may send it twice"), std::string::npos) << AlertSays();
     Answer("Close");
     back.click();
     Answer("Discard");

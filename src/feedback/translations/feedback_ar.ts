@@ -168,6 +168,14 @@
         <translation>متابعة الكتابة</translation>
     </message>
     <message>
+        <source>feedback_unknown_advice</source>
+        <translation>لم تؤكد الخدمة استلامه، وربما وصل بالفعل؛ وقد تؤدي إعادة المحاولة إلى إرساله مرتين. يمكنك أيضًا حفظ التقرير وتسليمه بطريقة أخرى.</translation>
+    </message>
+    <message>
+        <source>feedback_unknown_title</source>
+        <translation>لا يُعرف هل أُرسل التقرير</translation>
+    </message>
+    <message>
         <source>feedback_uploads_pending</source>
         <translation>يمكن إرسال التقرير بعد رفع المرفقات.</translation>
     </message>

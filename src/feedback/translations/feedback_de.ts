@@ -168,6 +168,14 @@
         <translation>Weiterschreiben</translation>
     </message>
     <message>
+        <source>feedback_unknown_advice</source>
+        <translation>Der Dienst hat ihn nicht bestätigt, hat ihn aber vielleicht schon; ein neuer Versuch sendet ihn dann doppelt. Sie können den Bericht auch speichern und auf anderem Weg weitergeben.</translation>
+    </message>
+    <message>
+        <source>feedback_unknown_title</source>
+        <translation>Ob der Bericht gesendet wurde, ist ungewiss</translation>
+    </message>
+    <message>
         <source>feedback_uploads_pending</source>
         <translation>Der Bericht kann gesendet werden, sobald die Anhänge hochgeladen sind.</translation>
     </message>

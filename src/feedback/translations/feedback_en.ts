@@ -168,6 +168,14 @@
         <translation>Keep writing</translation>
     </message>
     <message>
+        <source>feedback_unknown_advice</source>
+        <translation>The service has not confirmed it and may have it already; trying again may send it twice. You can also save the report and pass it on in another way.</translation>
+    </message>
+    <message>
+        <source>feedback_unknown_title</source>
+        <translation>It is not known whether the report was sent</translation>
+    </message>
+    <message>
         <source>feedback_uploads_pending</source>
         <translation>The report can be sent once the attachments are uploaded.</translation>
     </message>

@@ -168,6 +168,14 @@
         <translation>Seguir escribiendo</translation>
     </message>
     <message>
+        <source>feedback_unknown_advice</source>
+        <translation>El servicio no lo ha confirmado, pero es posible que ya lo tenga; si lo intenta de nuevo, podría enviarse dos veces. También puede guardar el informe y entregarlo de otra forma.</translation>
+    </message>
+    <message>
+        <source>feedback_unknown_title</source>
+        <translation>No se sabe si el informe se ha enviado</translation>
+    </message>
+    <message>
         <source>feedback_uploads_pending</source>
         <translation>El informe se podrá enviar cuando se hayan subido los archivos adjuntos.</translation>
     </message>

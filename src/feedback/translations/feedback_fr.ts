@@ -168,6 +168,14 @@
         <translation>Continuer</translation>
     </message>
     <message>
+        <source>feedback_unknown_advice</source>
+        <translation>Le service ne l’a pas confirmé, mais l’a peut-être déjà ; réessayer peut l’envoyer deux fois. Vous pouvez aussi enregistrer le rapport et le transmettre autrement.</translation>
+    </message>
+    <message>
+        <source>feedback_unknown_title</source>
+        <translation>On ne sait pas si le rapport a été envoyé</translation>
+    </message>
+    <message>
         <source>feedback_uploads_pending</source>
         <translation>Le rapport pourra être envoyé une fois les pièces jointes téléversées.</translation>
     </message>

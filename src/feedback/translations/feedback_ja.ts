@@ -168,6 +168,14 @@
         <translation>入力を続ける</translation>
     </message>
     <message>
+        <source>feedback_unknown_advice</source>
+        <translation>サービスから確認が届いていませんが、レポートはすでに届いている可能性があります。再試行すると二重に送信されることがあります。レポートを保存して別の方法で渡すこともできます。</translation>
+    </message>
+    <message>
+        <source>feedback_unknown_title</source>
+        <translation>レポートが送信されたかどうか確認できません</translation>
+    </message>
+    <message>
         <source>feedback_uploads_pending</source>
         <translation>添付ファイルのアップロードが終わると送信できます。</translation>
     </message>

@@ -168,6 +168,14 @@
         <translation>继续填写</translation>
     </message>
     <message>
+        <source>feedback_unknown_advice</source>
+        <translation>服务未确认收到，但报告可能已送达；重试可能会重复发送。您也可以保存报告并以其他方式转交。</translation>
+    </message>
+    <message>
+        <source>feedback_unknown_title</source>
+        <translation>无法确定报告是否已发送</translation>
+    </message>
+    <message>
         <source>feedback_uploads_pending</source>
         <translation>附件上传完成后即可发送报告。</translation>
     </message>
