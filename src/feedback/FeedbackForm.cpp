@@ -28,6 +28,7 @@ FeedbackForm::FeedbackForm(const FeedbackBackend& backend, QWidget* parent)
     m_email->setInputMethodHints(Qt::ImhEmailCharactersOnly);
     m_email->setAcceptDrops(false); // files that are dropped on it are the page's
     m_descriptionTitle->setBuddy(m_description);
+    setFocusProxy(m_description);
     m_emailTitle->setBuddy(m_email);
 
     auto* column = new QVBoxLayout(this);

@@ -4,6 +4,7 @@
 
 #include <QFileInfo>
 #include <QSet>
+#include <QStorageInfo>
 #include <QTemporaryFile>
 
 namespace {
@@ -15,6 +16,20 @@ QString FreeName(const QString& name, QSet<QString>& taken) {
         free = QStringLiteral("%1-%2").arg(number).arg(name);
     taken.insert(free.toLower());
     return QStringLiteral("attachments/") + free;
+}
+
+/// Why an archive of these files has not come to its place, as far as that can be seen afterwards.
+ReportArchive::Result Reason(const QVector<NamedFile>& files, const QString& target) {
+    qint64 bytes = 0;
+    for (const NamedFile& file : files) {
+        const QFileInfo info(file.path);
+        if (file.isNeeded && !info.isReadable())
+            return ReportArchive::Result::NoAttachment;
+        bytes += info.size();
+    }
+    const QStorageInfo disk(QFileInfo(target).path());
+    return disk.isValid() && disk.bytesAvailable() < bytes ? ReportArchive::Result::NoRoom
+                                                           : ReportArchive::Result::Failed;
 }
 
 } // namespace
@@ -36,11 +51,11 @@ ReportArchive::Result ReportArchive::Save(const TaskControl& control) const {
     QFile place(target);
     const bool isOurs = place.open(QIODevice::WriteOnly | QIODevice::NewOnly);
     if (!isOurs && !mayReplace)
-        return place.exists() ? Result::Exists : Result::Failed;
+        return place.exists() ? Result::Exists : Result::NoPlace;
     place.close();
     if (ZipUtility::CreateZip(files, target.toStdWString(), control))
         return Result::Saved;
     if (isOurs)
         place.remove();
-    return Result::Failed;
+    return Reason(files, target);
 }

@@ -10,7 +10,10 @@
 struct ReportArchive {
     enum class Result {
         Saved,
-        Exists, ///< something stands there that may not be replaced
+        Exists,       ///< something stands there that may not be replaced
+        NoPlace,      ///< the target cannot be written
+        NoRoom,       ///< there is not room enough for it
+        NoAttachment, ///< one that cannot be read any more
         Failed,
     };
 

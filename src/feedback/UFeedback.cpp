@@ -95,10 +95,7 @@ void UFeedback::InitConnect() {
     connect(m_form, &FeedbackForm::Changed, this, &UFeedback::ValidateSubmit);
     connect(m_form, &FeedbackForm::Submitted, this, &UFeedback::OnSubmitButtonClicked);
     connect(m_submit, &QPushButton::clicked, this, &UFeedback::OnSubmitButtonClicked);
-    connect(m_cancel, &QPushButton::clicked, this, [this] {
-        m_cancellation.Cancel();
-        m_cancel->setEnabled(false);
-    });
+    connect(m_cancel, &QPushButton::clicked, this, [this] { m_cancellation.Cancel(); });
     connect(m_logFiles, &QPushButton::clicked, this, &UFeedback::ShowLogFiles);
     connect(&m_progressTimer, &QTimer::timeout, this, &UFeedback::ShowProgress);
     connect(&m_report, &QFutureWatcherBase::finished, this, &UFeedback::OnReportEnded);
@@ -111,7 +108,11 @@ void UFeedback::InitConnect() {
 }
 
 void UFeedback::ValidateSubmit() {
-    m_submit->setEnabled(m_form->IsComplete() && m_activity != Activity::Saving);
+    const bool can = m_form->IsComplete() && m_activity != Activity::Saving;
+    // Or else the focus would go to what comes next, the window's own buttons.
+    if (!can && window()->focusWidget() == m_submit)
+        (m_cancel->isHidden() ? static_cast<QWidget*>(m_form) : m_cancel)->setFocus();
+    m_submit->setEnabled(can);
     ShowTip();
 }
 
@@ -120,8 +121,6 @@ void UFeedback::SetActivity(Activity activity) {
     const bool isBusy = activity != Activity::None;
     m_form->SetLocked(isBusy);
     m_submit->SetLoading(activity == Activity::Reporting);
-    m_cancel->setVisible(isBusy);
-    m_cancel->setEnabled(true);
     m_progress->setVisible(isBusy);
     if (isBusy) {
         m_cancellation = Cancellation();
@@ -131,7 +130,14 @@ void UFeedback::SetActivity(Activity activity) {
         m_progressTimer.stop();
     }
     ShowProgress();
+    if (isBusy)
+        m_cancel->show();
     ValidateSubmit();
+    if (isBusy)
+        return;
+    if (window()->focusWidget() == m_cancel) // even while another window is active
+        m_submit->setFocus();
+    m_cancel->hide();
 }
 
 void UFeedback::ShowProgress() {
@@ -188,16 +194,20 @@ void UFeedback::OnLogReported(const QString&, bool ok) {
     SetActivity(Activity::None);
     if (ok)
         m_form->Clear();
-    const QString unknown = m_outcome.MayHaveArrived() ? tr("feedback_unknown_title") : QString();
     if (m_outcome.error == WebError::Cancelled)
-        Notify(NoticeKind::Info, unknown.isEmpty() ? tr("feedback_cancelled") : unknown);
+        Notify(NoticeKind::Info,
+               m_outcome.MayHaveArrived() ? tr("feedback_unknown_title") : tr("feedback_cancelled"));
     else if (!ok)
-        ShowNowOrOnReturn(&UFeedback::ShowFailure,
-                          unknown.isEmpty() ? tr("feedback_failed_notice") : unknown);
+        TellFailure();
     else if (IsSeen())
         ShowSuccess();
     else
         Notify(NoticeKind::Success, tr("feedback_sent_title"));
+}
+
+void UFeedback::TellFailure() {
+    ShowNowOrOnReturn(&UFeedback::ShowFailure, m_outcome.MayHaveArrived() ? tr("feedback_unknown_title")
+                                                                          : tr("feedback_failed_notice"));
 }
 
 void UFeedback::ShowNowOrOnReturn(void (UFeedback::*act)(), const QString& notice) {
@@ -263,21 +273,26 @@ void UFeedback::SaveArchive(const QString& target, bool mayReplace) {
 }
 
 void UFeedback::OnArchiveEnded() {
+    using Result = ReportArchive::Result;
     const bool cancelled = m_cancellation.IsCancelled();
     SetActivity(Activity::None);
-    switch (m_archive.result()) {
-    case ReportArchive::Result::Saved:
+    const Result result = m_archive.result();
+    if (result == Result::Saved) {
         Notify(NoticeKind::Success, tr("log_export_log_success"));
-        break;
-    case ReportArchive::Result::Exists:
-        ShowNowOrOnReturn(&UFeedback::AskToReplace, tr("log_export_log_failed"));
-        break;
-    case ReportArchive::Result::Failed:
-        if (!cancelled)
-            Notify(NoticeKind::Error, tr("log_export_log_failed"));
-        ShowNowOrOnReturn(&UFeedback::ShowFailure, tr("feedback_failed_notice")); // neither sent nor saved
-        break;
+        return;
     }
+    const QString reason = result == Result::NoPlace        ? tr("feedback_save_no_place")
+                           : result == Result::NoRoom       ? tr("feedback_save_no_room")
+                           : result == Result::NoAttachment ? tr("feedback_save_no_attachment")
+                                                            : QString();
+    const QString notice = (tr("log_export_log_failed") + QLatin1Char('\n') + reason).trimmed();
+    if (result == Result::Exists) {
+        ShowNowOrOnReturn(&UFeedback::AskToReplace, notice);
+        return;
+    }
+    if (!cancelled)
+        Notify(NoticeKind::Error, notice);
+    TellFailure(); // neither sent nor saved
 }
 
 void UFeedback::AskToReplace() {

@@ -59,6 +59,7 @@ private:
                                       const Cancellation& cancellation, const ProgressMeter& meter);
     void OnReportEnded();
     void OnLogReported(const QString& message, bool ok);
+    void TellFailure();
     void ShowNowOrOnReturn(void (UFeedback::*act)(), const QString& notice);
     bool IsSeen() const;
     void ShowSuccess();

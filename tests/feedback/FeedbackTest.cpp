@@ -260,6 +260,7 @@ TEST_F(Feedback, AnAttachmentIsCancelledRetriedAndRemovedOnItsOwn) {
 TEST_F(Feedback, AFailedReportIsRetriedAsItIsAndASentOneIsGone) {
     Write(QStringLiteral("It freezes"));
     Attach({QStringLiteral("a")}, 1);
+    Find<QPushButton>("submitButton").setFocus();
     Submit();
     Write(QStringLiteral("later words")); // whatever changes it meanwhile
     Submit();
@@ -281,8 +282,10 @@ TEST_F(Feedback, AFailedReportIsRetriedAsItIsAndASentOneIsGone) {
     emit dialog->fileSelected(Make(QStringLiteral("saved.zip")));
     delete dialog;
     EXPECT_FALSE(CanSubmit()) << "while it is saved";
+    EXPECT_EQ(window.focusWidget(), &Find<QPushButton>("cancelButton")) << "none of the window's";
     page->hide();
     EXPECT_TRUE(Comes([&] { return CanSubmit(); }));
+    EXPECT_EQ(window.focusWidget(), &Find<QPushButton>("submitButton"));
     EXPECT_FALSE(Alert()) << "over another page";
     EXPECT_EQ(window.notices.size(), 1);
     page->show();

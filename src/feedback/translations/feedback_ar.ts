@@ -136,6 +136,18 @@
         <translation>حفظ التقرير…</translation>
     </message>
     <message>
+        <source>feedback_save_no_attachment</source>
+        <translation>لم تعد قراءة أحد المرفقات ممكنة.</translation>
+    </message>
+    <message>
+        <source>feedback_save_no_place</source>
+        <translation>تتعذّر الكتابة في ذلك المكان.</translation>
+    </message>
+    <message>
+        <source>feedback_save_no_room</source>
+        <translation>لا توجد مساحة كافية في ذلك المكان.</translation>
+    </message>
+    <message>
         <source>feedback_save_type</source>
         <translation>أرشيف ZIP</translation>
     </message>

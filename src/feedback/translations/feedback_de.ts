@@ -136,6 +136,18 @@
         <translation>Speichern …</translation>
     </message>
     <message>
+        <source>feedback_save_no_attachment</source>
+        <translation>Ein Anhang lässt sich nicht mehr lesen.</translation>
+    </message>
+    <message>
+        <source>feedback_save_no_place</source>
+        <translation>Dorthin lässt sich nicht schreiben.</translation>
+    </message>
+    <message>
+        <source>feedback_save_no_room</source>
+        <translation>Dort ist nicht genug Platz.</translation>
+    </message>
+    <message>
         <source>feedback_save_type</source>
         <translation>ZIP-Archiv</translation>
     </message>

@@ -136,6 +136,18 @@
         <translation>Save report …</translation>
     </message>
     <message>
+        <source>feedback_save_no_attachment</source>
+        <translation>An attachment cannot be read any more.</translation>
+    </message>
+    <message>
+        <source>feedback_save_no_place</source>
+        <translation>That place cannot be written to.</translation>
+    </message>
+    <message>
+        <source>feedback_save_no_room</source>
+        <translation>There is not enough room in that place.</translation>
+    </message>
+    <message>
         <source>feedback_save_type</source>
         <translation>ZIP archive</translation>
     </message>

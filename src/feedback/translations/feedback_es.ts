@@ -136,6 +136,18 @@
         <translation>Guardar …</translation>
     </message>
     <message>
+        <source>feedback_save_no_attachment</source>
+        <translation>Un archivo adjunto ya no se puede leer.</translation>
+    </message>
+    <message>
+        <source>feedback_save_no_place</source>
+        <translation>No se puede escribir en ese lugar.</translation>
+    </message>
+    <message>
+        <source>feedback_save_no_room</source>
+        <translation>No hay espacio suficiente en ese lugar.</translation>
+    </message>
+    <message>
         <source>feedback_save_type</source>
         <translation>Archivo ZIP</translation>
     </message>

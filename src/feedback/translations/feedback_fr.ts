@@ -136,6 +136,18 @@
         <translation>Enregistrer …</translation>
     </message>
     <message>
+        <source>feedback_save_no_attachment</source>
+        <translation>Une pièce jointe n’est plus lisible.</translation>
+    </message>
+    <message>
+        <source>feedback_save_no_place</source>
+        <translation>Il est impossible d’écrire à cet endroit.</translation>
+    </message>
+    <message>
+        <source>feedback_save_no_room</source>
+        <translation>Il n’y a pas assez de place à cet endroit.</translation>
+    </message>
+    <message>
         <source>feedback_save_type</source>
         <translation>Archive ZIP</translation>
     </message>

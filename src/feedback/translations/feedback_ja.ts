@@ -136,6 +136,18 @@
         <translation>保存…</translation>
     </message>
     <message>
+        <source>feedback_save_no_attachment</source>
+        <translation>読み取れなくなった添付ファイルがあります。</translation>
+    </message>
+    <message>
+        <source>feedback_save_no_place</source>
+        <translation>その場所には書き込めません。</translation>
+    </message>
+    <message>
+        <source>feedback_save_no_room</source>
+        <translation>その場所に十分な空きがありません。</translation>
+    </message>
+    <message>
         <source>feedback_save_type</source>
         <translation>ZIP アーカイブ</translation>
     </message>

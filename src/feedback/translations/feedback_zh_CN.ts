@@ -136,6 +136,18 @@
         <translation>保存报告…</translation>
     </message>
     <message>
+        <source>feedback_save_no_attachment</source>
+        <translation>某个附件已无法读取。</translation>
+    </message>
+    <message>
+        <source>feedback_save_no_place</source>
+        <translation>无法写入该位置。</translation>
+    </message>
+    <message>
+        <source>feedback_save_no_room</source>
+        <translation>该位置空间不足。</translation>
+    </message>
+    <message>
         <source>feedback_save_type</source>
         <translation>ZIP 压缩文件</translation>
     </message>
