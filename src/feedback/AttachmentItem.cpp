@@ -26,6 +26,7 @@ AttachmentItem::AttachmentItem(AttachmentFile file, const FeedbackBackend& backe
       m_file(std::move(file)),
       m_backend(backend),
       m_workers(workers),
+      m_size(m_file.size),
       m_icon(new UIconLabel(28)),
       m_name(new UElidedLabel),
       m_status(new UTextLabel("attachmentStatus")),
@@ -101,6 +102,8 @@ void AttachmentItem::OnUploaded() {
         return;
     const FeedbackBackend::Upload upload = m_upload.result();
     m_uploaded = upload.file;
+    if (upload.error == WebError::None)
+        m_size = upload.size; // it may have changed since it was attached
     m_error = upload.error;
     SetState(m_error == WebError::None ? State::Uploaded : State::Failed);
 }
@@ -158,7 +161,7 @@ void AttachmentItem::Retranslate() {
 }
 
 void AttachmentItem::ShowStatus() {
-    const QString size = LanguageHelper::Instance()->SizeText(m_file.size);
+    const QString size = LanguageHelper::Instance()->SizeText(m_size);
     const int percent = m_meter.Percent();
     QString status;
     if (m_state == State::Uploaded)

@@ -61,6 +61,7 @@ private:
     const AttachmentFile m_file;
     const FeedbackBackend& m_backend;
     Workers& m_workers;
+    qint64 m_size;
     State m_state = State::Pending;
     WebError m_error = WebError::None;
     FileDto m_uploaded;

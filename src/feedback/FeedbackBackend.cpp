@@ -20,5 +20,6 @@ FeedbackBackend::Upload FeedbackBackend::UploadAttachment(const QString& path, c
         upload.file.url =
             client.GetDownloadUrlByFileKey(uploaded.data.fileKey, {control.cancellation, {}}, &failure);
     upload.error = failure.error;
+    upload.size = uploaded.data.fileSize;
     return upload;
 }

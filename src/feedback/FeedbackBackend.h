@@ -11,6 +11,7 @@ struct FeedbackBackend {
     struct Upload {
         FileDto file;
         WebError error = WebError::None;
+        qint64 size = 0; ///< as it was uploaded
     };
 
     std::function<Upload(const QString& path, const TaskControl&)> upload = UploadAttachment;

@@ -142,6 +142,7 @@ private:
             WaitUntilCancelled(control.cancellation);
         FeedbackBackend::Upload upload;
         upload.file.url = "https://files.example.com/1";
+        upload.size = QFileInfo(path).size();
         return upload;
     }
 
