@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QProcess>
 #include <algorithm>
 #include <chrono>
 #include <csignal>
@@ -336,18 +337,24 @@ TEST_F(EndToEndTest, AReportArrivesWithTheLogAndAFailedOneLeavesNothingBehind) {
         EXPECT_EQ(temporaryFiles(), 0);
         product.Tell("web upload ok");
     }
+    const std::string attachment = product.Folder() + "/seen.txt";
+    QFile seen(QString::fromStdString(attachment));
+    ASSERT_TRUE(seen.open(QIODevice::WriteOnly) && seen.write("a black screen") > 0 && seen.flush());
     openPage();
+    press("Tab", 1);
+    press("space", 1);
+    ASSERT_TRUE(screen->WaitForWindow("Choose attachments"));
+    screen->Type(product.PathForPrograms(attachment));
+    press("Return", 1);
+    EXPECT_TRUE(screen->WaitForNoWindow("Choose attachments"));
+    ASSERT_TRUE(product.AgentSays("/file/downloadUrl 0 bytes: 200"));
+    screen->Press("Tab", {"Shift_L"});
     screen->Type("cut");
     screen->Press("a", {"Control_L"});
     screen->Press("x", {"Control_L"});
     EXPECT_TRUE(WaitUntil([] { return screen->ClipboardText() == "cut"; })) << "for other programs";
     screen->Type("broken");
-    press("Tab", 1);
-    press("space", 1);
-    EXPECT_TRUE(screen->WaitForWindow("Choose attachments"));
-    press("Escape", 1);
-    EXPECT_TRUE(screen->WaitForNoWindow("Choose attachments"));
-    press("Tab", 3);
+    press("Tab", 5);
     product.Tell("web log 500");
     press("space", 1);
     EXPECT_TRUE(product.WaitForLog("UFeedback::ReportLog NotifyDeviceLogUpload failed."));
@@ -360,7 +367,17 @@ TEST_F(EndToEndTest, AReportArrivesWithTheLogAndAFailedOneLeavesNothingBehind) {
     EXPECT_TRUE(WaitUntil([&] { return temporaryFiles() == 0; }));
     QFile document(QString::fromStdString(store + "/feedback-1.json"));
     ASSERT_TRUE(document.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(document.readAll().contains("\"content\": \"broken\""));
+    const QByteArray sent = document.readAll();
+    EXPECT_TRUE(sent.contains("\"content\": \"broken\"") && sent.contains("\"name\": \"seen.txt\""))
+        << sent.constData();
+    const QDir kept(QString::fromStdString(store));
+    EXPECT_EQ(kept.entryList({QStringLiteral("*-seen.txt")}).size(), 1) << "a retry uploads it once more";
+    const QStringList logs = kept.entryList({QStringLiteral("*-RYXLOG-*.zip")});
+    EXPECT_GE(logs.size(), 2);
+    for (const QString& log : logs) // libzip's own tool tests it
+        EXPECT_EQ(QProcess::execute(QStringLiteral("zipcmp"),
+                                    {QStringLiteral("-tq"), kept.filePath(log), kept.filePath(log)}),
+                  0);
 }
 
 TEST_F(EndToEndTest, AnImpostorIsRefusedAndToldNothing) {
