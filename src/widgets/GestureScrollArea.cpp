@@ -1,5 +1,7 @@
 #include "widgets/GestureScrollArea.h"
 
+#include <QCoreApplication>
+#include <QLayout>
 #include <QScroller>
 #include <QTimer>
 
@@ -9,8 +11,14 @@ GestureScrollArea::GestureScrollArea(QWidget* parent) : QScrollArea(parent) {
 
 void GestureScrollArea::Reveal(QWidget* widget) {
     QTimer::singleShot(0, widget, [widget] {
-        for (QWidget* outer = widget->parentWidget(); outer; outer = outer->parentWidget())
-            if (auto* area = qobject_cast<GestureScrollArea*>(outer))
+        for (QWidget* outer = widget->parentWidget(); outer; outer = outer->parentWidget()) {
+            // By themselves nested layouts settle one level in each pass of the event loop.
+            if (outer->layout())
+                outer->layout()->activate();
+            if (auto* area = qobject_cast<GestureScrollArea*>(outer)) {
+                QCoreApplication::sendPostedEvents(area->viewport(), QEvent::LayoutRequest);
                 area->ensureWidgetVisible(widget);
+            }
+        }
     });
 }
