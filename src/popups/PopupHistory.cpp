@@ -66,13 +66,6 @@ PopupHistory* PopupHistory::OfApplication() {
     return QCoreApplication::instance()->findChild<PopupHistory*>(QString(), Qt::FindDirectChildrenOnly);
 }
 
-QString PopupHistory::Identity(const PopupsTypeParams& rule) {
-    QString fields;
-    for (const std::string* field : {&rule.appName, &rule.popProductName, &rule.popClassName, &rule.popName})
-        fields += QString::fromStdString(*field) + QLatin1Char('\n');
-    return fields.toCaseFolded();
-}
-
 int PopupHistory::CountOfToday() const {
     return m_day == Today() ? m_count : 0;
 }
@@ -106,14 +99,14 @@ void PopupHistory::SetPolicy(const SyncPopupsParams& policy) {
     if (!policy.popStatus || !policy.hasOne)
         m_rules.clear();
     if (policy.popStatus && policy.hasOne && !policy.popupsDetails.empty()) {
-        const QString rule = Identity(policy.popupsDetails.front());
+        const QString rule = PopupWindow::Of(policy.popupsDetails.front()).Identity();
         if (policy.enable)
             m_rules.insert(rule);
         else
             m_rules.remove(rule);
     } else if (policy.popStatus && !policy.hasOne) {
         for (const PopupsTypeParams& rule : policy.popupsDetails)
-            m_rules.insert(Identity(rule));
+            m_rules.insert(PopupWindow::Of(rule).Identity());
     }
     emit PolicyReceived();
 }
@@ -127,9 +120,9 @@ void PopupHistory::Add(const UploadPopupsParams& report) {
     now.rule.popSignName = report.popSignName;
     now.rule.popDirectory = report.popDirectory;
     now.last = m_clock.Now();
-    const QString identity = Identity(now.rule);
+    const QString identity = PopupWindow::Of(now.rule).Identity();
     const auto before = std::find_if(m_records.begin(), m_records.end(), [&](const PopupRecord& record) {
-        return record.last.date() == now.last.date() && Identity(record.rule) == identity;
+        return record.last.date() == now.last.date() && PopupWindow::Of(record.rule).Identity() == identity;
     });
     const bool isFirst = before == m_records.end();
     if (!isFirst) {

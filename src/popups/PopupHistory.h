@@ -1,7 +1,7 @@
 #pragma once
 
-#include "entity/AppEntities.h"
 #include "platform/application/Clock.h"
+#include "platform/application/PopupWindow.h"
 #include "platform/link/PipeKey.h"
 
 #include <QDateTime>
@@ -49,10 +49,9 @@ public:
     /// What the service has said last.
     Blocking State() const { return m_state; }
     int RuleCount() const { return m_rules.size(); }
-    bool IsInForce(const PopupsTypeParams& rule) const { return m_rules.contains(Identity(rule)); }
-
-    /// The same text for the same rule: four fields, in upper or lower case.
-    static QString Identity(const PopupsTypeParams& rule);
+    bool IsInForce(const PopupsTypeParams& rule) const {
+        return m_rules.contains(PopupWindow::Of(rule).Identity());
+    }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

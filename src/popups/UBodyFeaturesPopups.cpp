@@ -175,7 +175,7 @@ void UBodyFeaturesPopups::ShowRecords() {
     // Each record keeps its row: a press that was meant for one must not hit another that has moved there.
     for (int i = 0; i < qMin(count, m_mostRows); ++i) {
         const PopupRecord& record = records[static_cast<std::size_t>(i)];
-        const QString identity = PopupHistory::Identity(record.rule);
+        const QString identity = PopupWindow::Of(record.rule).Identity();
         const QString key = record.last.date().toString(Qt::ISODate) + identity;
         PopupRow* row = gone.take(key);
         if (!row)
@@ -243,7 +243,7 @@ void UBodyFeaturesPopups::OnReportedWrong(const PopupsTypeParams& rule) {
     command.popStatus = true;
     command.hasOne = true;
     command.popupsDetails = {rule};
-    m_doubted = PopupHistory::Identity(rule);
+    m_doubted = PopupWindow::Of(rule).Identity();
     Ask(command);
 }
 
