@@ -9,6 +9,7 @@
 #include <QJsonArray>
 #include <QJsonObject>
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace {
@@ -44,8 +45,8 @@ PopupRecord FromJson(const QJsonObject& json) {
 
 } // namespace
 
-PopupHistory::PopupHistory(const QString& file, IsOpen isOpen, const Clock& clock, QObject* parent)
-    : QObject(parent), m_file(file), m_isOpen(std::move(isOpen)), m_clock(clock) {
+PopupHistory::PopupHistory(const QString& file, OpenWindows openWindows, const Clock& clock, QObject* parent)
+    : QObject(parent), m_file(file), m_openWindows(std::move(openWindows)), m_clock(clock) {
     m_writeTimer.setSingleShot(true);
     m_writeTimer.setInterval(WriteAfterMs);
     connect(&m_writeTimer, &QTimer::timeout, this, &PopupHistory::Write);
@@ -127,6 +128,7 @@ void PopupHistory::Add(const UploadPopupsParams& report) {
     const bool isFirst = before == m_records.end();
     if (!isFirst) {
         now.times = before->times;
+        now.stillOpen = before->stillOpen;
         now.lookAgain = before->lookAgain;
         m_records.erase(before);
     }
@@ -149,13 +151,16 @@ void PopupHistory::Add(const UploadPopupsParams& report) {
 // Nobody tells when the other program has closed its window, or that it never will.
 void PopupHistory::LookAgain() {
     const QDateTime now = m_clock.Now();
+    std::optional<QSet<QString>> open;
     bool goesOn = false;
     bool changed = false;
     for (PopupRecord& record : m_records) {
         if (!record.lookAgain.isValid())
             continue;
         if (record.lookAgain <= now) {
-            const bool isOpen = m_isOpen && m_isOpen(record.rule);
+            if (!open)
+                open = m_openWindows();
+            const bool isOpen = open->contains(PopupWindow::Of(record.rule).Key());
             changed |= isOpen != record.stillOpen;
             record.stillOpen = isOpen;
             record.lookAgain = isOpen ? now.addMSecs(TimeToCloseMs) : QDateTime();

@@ -16,7 +16,7 @@ struct PopupRecord {
     PopupsTypeParams rule; ///< with the folder in which the program was found
     QDateTime last;
     int times = 0;
-    bool stillOpen = false; ///< the last one was asked to close, and is still there
+    bool stillOpen = false; ///< one of them was asked to close, and is still there
     QDateTime lookAgain;    ///< when to look whether it has gone; not valid: it has
 };
 
@@ -27,12 +27,12 @@ class PopupHistory : public QObject {
 
 public:
     enum class Blocking { Unknown, Off, On };
-    /// Whether a window that the rule means is on the screen.
-    using IsOpen = std::function<bool(const PopupsTypeParams& rule)>;
+    /// Tells the keys (PopupWindow) of the windows on the screen.
+    using OpenWindows = std::function<QSet<QString>()>;
 
     /// Reads what an earlier start has kept in `file`, and keeps the last 200 records there; without a name
     /// nothing is kept.
-    PopupHistory(const QString& file, IsOpen isOpen, const Clock& clock = Clock::System(),
+    PopupHistory(const QString& file, OpenWindows openWindows, const Clock& clock = Clock::System(),
                  QObject* parent = nullptr);
     /// Writes what is not written yet.
     ~PopupHistory() override;
@@ -72,7 +72,7 @@ private:
     void Touch();
 
     const QString m_file;
-    const IsOpen m_isOpen;
+    const OpenWindows m_openWindows;
     const Clock& m_clock;
     std::deque<PopupRecord> m_records;
     QDate m_day; // that m_count counts

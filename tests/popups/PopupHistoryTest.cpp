@@ -38,7 +38,7 @@ struct PopupHistoryFile : testing::Test {
     void Start() {
         history.reset(); // writes
         history = std::make_unique<PopupHistory>(
-            file, [this](const PopupsTypeParams&) { return isOpen; }, clock);
+            file, [this] { return open; }, clock);
         QObject::connect(history.get(), &PopupHistory::Noticed, [this] { ++notices; });
     }
     /// Times and programs, the latest first.
@@ -52,7 +52,7 @@ struct PopupHistoryFile : testing::Test {
     QTemporaryDir folder;
     const QString file = folder.filePath(QStringLiteral("data/popups.json"));
     TestClock clock;
-    bool isOpen = false;
+    QSet<QString> open;
     int notices = 0;
     std::unique_ptr<PopupHistory> history;
 };
@@ -101,11 +101,11 @@ TEST_F(PopupHistoryFile, SaysWhichWindowsAreStillOpenAfterFiveSeconds) {
         return Story();
     };
     EXPECT_FALSE(look.isActive());
-    isOpen = true;
+    open = {PopupWindow{QStringLiteral("A"), {}, QStringLiteral("offer"), {}}.Key()};
     Close("a");
     EXPECT_EQ(after(4999), "1a today 1");
     EXPECT_EQ(after(1), "1a! today 1");
-    isOpen = false;
+    open.clear();
     EXPECT_EQ(after(5000), "1a today 1");
     EXPECT_FALSE(look.isActive());
 }
