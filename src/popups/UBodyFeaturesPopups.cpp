@@ -194,7 +194,10 @@ void UBodyFeaturesPopups::ShowRecords() {
         setTabOrder(std::exchange(before, row->TabStop()), row->TabStop());
     }
     setTabOrder(before, m_older);
-    qDeleteAll(gone);
+    for (PopupRow* row : qAsConst(gone)) { // one of them may have been pressed just now
+        row->hide();
+        row->deleteLater();
+    }
     m_empty->setVisible(records.empty());
     m_older->setVisible(count > m_mostRows);
     m_older->setText(
