@@ -101,10 +101,10 @@ void PopupHistory::SetPolicy(const SyncPopupsParams& policy) {
         m_rules.clear();
     if (policy.popStatus && policy.hasOne && !policy.popupsDetails.empty()) {
         const QString rule = PopupWindow::Of(policy.popupsDetails.front()).Identity();
+        if (const auto same = m_rules.find(rule); same != m_rules.end())
+            m_rules.erase(same);
         if (policy.enable)
             m_rules.insert(rule);
-        else
-            m_rules.remove(rule);
     } else if (policy.popStatus && !policy.hasOne) {
         for (const PopupsTypeParams& rule : policy.popupsDetails)
             m_rules.insert(PopupWindow::Of(rule).Identity());

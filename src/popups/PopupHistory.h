@@ -10,6 +10,7 @@
 #include <QTimer>
 #include <deque>
 #include <functional>
+#include <unordered_set>
 
 /// The windows that one rule has asked to close on one day.
 struct PopupRecord {
@@ -48,9 +49,9 @@ public:
 
     /// What the service has said last.
     Blocking State() const { return m_state; }
-    int RuleCount() const { return m_rules.size(); }
+    int RuleCount() const { return static_cast<int>(m_rules.size()); }
     bool IsInForce(const PopupsTypeParams& rule) const {
-        return m_rules.contains(PopupWindow::Of(rule).Identity());
+        return m_rules.count(PopupWindow::Of(rule).Identity()) > 0;
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -78,7 +79,7 @@ private:
     QDate m_day; // that m_count counts
     int m_count = 0;
     Blocking m_state = Blocking::Unknown;
-    QSet<QString> m_rules; // identities
+    std::unordered_multiset<QString> m_rules; // identities
     QTimer m_writeTimer{this};
     QTimer m_lookTimer{this};
 };
