@@ -19,6 +19,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
+#include <QTransform>
 #include <QtMath>
 #include <glog/logging.h>
 #include <utility>
@@ -141,7 +142,7 @@ void UPopupBlockMask::Pick(const PickableWindow& window) {
     m_picked = window;
     m_report.window = std::make_shared<TempPicture>();
     m_panel->ShowBusy();
-    m_preview->setGeometry(FromPhysical(window.place));
+    m_preview->setGeometry(FromPhysical(window.place & m_place));
     m_preview->setPixmap({});
     m_preview->show();
     if (m_desktop.isNull())
@@ -193,15 +194,22 @@ void UPopupBlockMask::ShowPicked(const ProgramFacts& facts) {
     PlacePanel();
 }
 
+// Of the window's part on this screen: what another program makes reach beyond it may be of any size.
 QPixmap UPopupBlockMask::Preview() const {
+    const QRect& place = m_picked.place;
+    const QRect seen = place & m_place;
+    if (seen.isEmpty())
+        return {};
     const QString& path = m_report.window->Path();
     if (!m_desktop.isNull()) {
-        QPixmap part = m_desktop.copy(m_picked.place.translated(-m_place.topLeft()));
+        QPixmap part = m_desktop.copy(seen.translated(-m_place.topLeft()));
         part.save(path, "PNG");
         return part;
     }
     const QPixmap picture(path, "PNG");
-    return picture.isNull() ? picture : picture.scaled(m_picked.place.size());
+    return picture.copy(QTransform::fromScale(double(picture.width()) / place.width(),
+                                              double(picture.height()) / place.height())
+                            .mapRect(seen.translated(-place.topLeft())));
 }
 
 void UPopupBlockMask::SaveIcon() {
