@@ -6,6 +6,7 @@
 #include "platform/system/SystemProcesses.h"
 #include "platform/system/SystemPrograms.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <algorithm>
@@ -130,6 +131,18 @@ QSet<QString> PickableWindow::KeysOnScreen() {
         if (const auto window = system.desktop.IsVisible(id) ? Read(system, id) : std::nullopt)
             keys.insert(PopupWindow{window->FileName(), window->className, window->title, {}}.Key());
     return keys;
+}
+
+bool PickableWindow::IsUncovered(const PopupSystem& system) const {
+    const auto self = static_cast<quint32>(QCoreApplication::applicationPid());
+    for (const WId other : system.desktop.TopLevelWindows().value_or(std::vector<WId>())) {
+        if (other == id)
+            return true;
+        if (system.desktop.IsVisible(other) && system.desktop.ProcessOf(other) != self &&
+            system.desktop.PlaceOf(other).value_or(QRect()).intersects(place))
+            return false;
+    }
+    return false; // it has gone
 }
 
 QString PickableWindow::FileName() const {

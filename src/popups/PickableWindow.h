@@ -52,6 +52,9 @@ struct PickableWindow {
     /// The keys (PopupWindow) of all windows on the screen, those that cannot be picked as well.
     static QSet<QString> KeysOnScreen();
 
+    /// Whether no window of another program lies over a part of it.
+    bool IsUncovered(const PopupSystem& system) const;
+
     QString FileName() const;
     /// Of the program.
     QString Directory() const;

@@ -11,6 +11,7 @@
 #include "platform/system/SystemWindows.h"
 #include "popups/PopupPanel.h"
 #include "popups/ProgramIcon.h"
+#include "widgets/ReturnKey.h"
 #include "widgets/UToast.h"
 
 #include <QCoreApplication>
@@ -126,6 +127,11 @@ void UPopupBlockMask::mousePressEvent(QMouseEvent* event) {
             break;
 }
 
+void UPopupBlockMask::keyPressEvent(QKeyEvent* event) {
+    if (!PressFocusedButton(*this, *event))
+        QWidget::keyPressEvent(event);
+}
+
 void UPopupBlockMask::Reset() {
     GiveUpLook();
     m_report = {};
@@ -145,8 +151,7 @@ void UPopupBlockMask::Pick(const PickableWindow& window) {
     m_preview->setGeometry(FromPhysical(window.place & m_place));
     m_preview->setPixmap({});
     m_preview->show();
-    if (m_desktop.isNull())
-        m_capture.Start(window.id, m_report.window);
+    m_capture.Start(window.id, m_report.window);
     m_facts.setFuture(m_reader->Run(
         [&programs = m_system.programs, path = window.path] {
             return ProgramFacts{programs.ProductNameOf(path), programs.SignerOf(path)};
@@ -201,12 +206,12 @@ QPixmap UPopupBlockMask::Preview() const {
     if (seen.isEmpty())
         return {};
     const QString& path = m_report.window->Path();
-    if (!m_desktop.isNull()) {
+    const QPixmap picture(path, "PNG");
+    if (picture.isNull() && !m_desktop.isNull() && m_picked.IsUncovered(m_system)) {
         QPixmap part = m_desktop.copy(seen.translated(-m_place.topLeft()));
         part.save(path, "PNG");
         return part;
     }
-    const QPixmap picture(path, "PNG");
     return picture.copy(QTransform::fromScale(double(picture.width()) / place.width(),
                                               double(picture.height()) / place.height())
                             .mapRect(seen.translated(-place.topLeft())));
