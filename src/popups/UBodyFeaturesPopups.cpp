@@ -127,7 +127,7 @@ QWidget* UBodyFeaturesPopups::MakePickCard() {
 
 void UBodyFeaturesPopups::InitConnect() {
     connect(m_point, &QPushButton::clicked, this, [this] {
-        if (!m_picker.Start())
+        if (!m_picker.Start(window()))
             TellBusy();
     });
     connect(m_choose, &QPushButton::clicked, this, &UBodyFeaturesPopups::PickFromList);
@@ -212,8 +212,8 @@ PopupRow* UBodyFeaturesPopups::MakeRow() {
 
 void UBodyFeaturesPopups::PickFromList() {
     auto* dialog = new PopupWindowsDialog(m_picker.Windows(), this);
-    connect(dialog, &PopupWindowsDialog::Chosen, this, [this](const PickableWindow& window) {
-        if (!m_picker.Start(window))
+    connect(dialog, &PopupWindowsDialog::Chosen, this, [this](const PickableWindow& chosen) {
+        if (!m_picker.Start(window(), chosen))
             TellBusy();
     });
     dialog->show();

@@ -168,6 +168,7 @@ TEST_F(PopupsPage, ShowsWhatTheServiceSaysAndNotWhatWasClicked) {
     Close("A");
     Show();
     ASSERT_TRUE(Wrong());
+    Wrong()->setFocus();
     Wrong()->click();
     const SyncPopupsParams asked = Asked();
     EXPECT_TRUE(asked.popStatus && asked.hasOne && !asked.enable);
@@ -176,8 +177,19 @@ TEST_F(PopupsPage, ShowsWhatTheServiceSaysAndNotWhatWasClicked) {
     EXPECT_TRUE(Wrong());
     Policy(asked.WriteToString().c_str());
     EXPECT_FALSE(Wrong());
+    EXPECT_TRUE(stage.Window().focusWidget()->inherits("PopupRow"))
+        << "a second press hits no other row's button";
     Policy("no JSON");
     EXPECT_FALSE(Switch().isChecked());
+}
+
+TEST_F(PopupsPage, IsAwayWhileAWindowIsPointedAtAndBackBelowALock) {
+    Page().findChild<QPushButton*>(QStringLiteral("popupsPoint"))->click();
+    EXPECT_FALSE(stage.Window().isVisible());
+    QWidget lock;
+    lock.setProperty("TopLevel", 6);
+    lock.show();
+    EXPECT_TRUE(stage.Window().isVisible());
 }
 
 TEST_F(PopupsPage, IsWhereTheNoticeOfAClosingLeads) {
