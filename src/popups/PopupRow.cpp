@@ -2,6 +2,7 @@
 
 #include "platform/context/LanguageHelper.h"
 #include "popups/ProgramIcon.h"
+#include "popups/ShownText.h"
 #include "widgets/UElidedLabel.h"
 #include "widgets/UTextButton.h"
 #include "widgets/UTextLabel.h"
@@ -14,7 +15,7 @@ namespace {
 constexpr int IconSize = 32;
 
 QString Words(const std::string& utf8) {
-    return utf8.empty() ? PopupRow::tr("popups_none") : QString::fromStdString(utf8);
+    return utf8.empty() ? PopupRow::tr("popups_none") : ShownText(QString::fromStdString(utf8));
 }
 
 } // namespace
