@@ -9,7 +9,6 @@
 #include <QJsonArray>
 #include <QJsonObject>
 #include <algorithm>
-#include <optional>
 #include <utility>
 
 namespace {
@@ -53,6 +52,7 @@ PopupHistory::PopupHistory(const QString& file, OpenWindows openWindows, const C
     m_lookTimer.setObjectName(QStringLiteral("popupLookTimer"));
     m_lookTimer.setInterval(LookMs);
     connect(&m_lookTimer, &QTimer::timeout, this, &PopupHistory::LookAgain);
+    connect(&m_look, &QFutureWatcherBase::finished, this, &PopupHistory::OnLooked);
     Read();
     QCoreApplication::instance()->installEventFilter(this);
     new PipeEventWatcher(this, [this](PipeKey key, const std::string& body) { OnPipeReceive(key, body); });
@@ -150,25 +150,30 @@ void PopupHistory::Add(const UploadPopupsParams& report) {
 
 // Nobody tells when the other program has closed its window, or that it never will.
 void PopupHistory::LookAgain() {
+    if (!m_look.isFinished())
+        return;
     const QDateTime now = m_clock.Now();
-    std::optional<QSet<QString>> open;
-    bool goesOn = false;
+    const auto waits = [](const PopupRecord& record) { return record.lookAgain.isValid(); };
+    const auto isDue = [&](const PopupRecord& record) { return waits(record) && record.lookAgain <= now; };
+    if (std::none_of(m_records.begin(), m_records.end(), waits))
+        return m_lookTimer.stop();
+    if (std::none_of(m_records.begin(), m_records.end(), isDue))
+        return;
+    m_lookBegan = now;
+    m_look.setFuture(m_worker.Run(m_openWindows, {}));
+}
+
+void PopupHistory::OnLooked() {
+    const QSet<QString> open = m_look.result();
     bool changed = false;
     for (PopupRecord& record : m_records) {
-        if (!record.lookAgain.isValid())
+        if (!record.lookAgain.isValid() || record.lookAgain > m_lookBegan)
             continue;
-        if (record.lookAgain <= now) {
-            if (!open)
-                open = m_openWindows();
-            const bool isOpen = open->contains(PopupWindow::Of(record.rule).Key());
-            changed |= isOpen != record.stillOpen;
-            record.stillOpen = isOpen;
-            record.lookAgain = isOpen ? now.addMSecs(TimeToCloseMs) : QDateTime();
-        }
-        goesOn |= record.lookAgain.isValid();
+        const bool isOpen = open.contains(PopupWindow::Of(record.rule).Key());
+        changed |= isOpen != record.stillOpen;
+        record.stillOpen = isOpen;
+        record.lookAgain = isOpen ? m_clock.Now().addMSecs(TimeToCloseMs) : QDateTime();
     }
-    if (!goesOn)
-        m_lookTimer.stop();
     if (changed)
         emit RecordsChanged();
 }

@@ -2,9 +2,11 @@
 
 #include "platform/application/Clock.h"
 #include "platform/application/PopupWindow.h"
+#include "platform/files/Workers.h"
 #include "platform/link/PipeKey.h"
 
 #include <QDateTime>
+#include <QFutureWatcher>
 #include <QObject>
 #include <QSet>
 #include <QTimer>
@@ -28,7 +30,7 @@ class PopupHistory : public QObject {
 
 public:
     enum class Blocking { Unknown, Off, On };
-    /// Tells the keys (PopupWindow) of the windows on the screen.
+    /// Tells the keys (PopupWindow) of the windows on the screen. Worker threads: it asks about each of them.
     using OpenWindows = std::function<QSet<QString>()>;
 
     /// Reads what an earlier start has kept in `file`, and keeps the last 200 records there; without a name
@@ -68,6 +70,7 @@ private:
     void SetPolicy(const SyncPopupsParams& policy);
     void Add(const UploadPopupsParams& report);
     void LookAgain();
+    void OnLooked();
     void Read();
     void Write();
     void Touch();
@@ -82,4 +85,7 @@ private:
     std::unordered_multiset<QString> m_rules; // identities
     QTimer m_writeTimer{this};
     QTimer m_lookTimer{this};
+    Workers m_worker{1};
+    QFutureWatcher<QSet<QString>> m_look{this};
+    QDateTime m_lookBegan;
 };

@@ -98,6 +98,8 @@ TEST_F(PopupHistoryFile, SaysWhichWindowsAreStillOpenAfterFiveSeconds) {
     const auto after = [&](int milliseconds) {
         clock.now = clock.now.addMSecs(milliseconds);
         QMetaObject::invokeMethod(&look, "timeout");
+        const auto* looking = history->findChild<QFutureWatcherBase*>();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return looking->isFinished(); }));
         return Story();
     };
     EXPECT_FALSE(look.isActive());
@@ -107,6 +109,7 @@ TEST_F(PopupHistoryFile, SaysWhichWindowsAreStillOpenAfterFiveSeconds) {
     EXPECT_EQ(after(1), "1a! today 1");
     open.clear();
     EXPECT_EQ(after(5000), "1a today 1");
+    after(1000);
     EXPECT_FALSE(look.isActive());
 }
 
