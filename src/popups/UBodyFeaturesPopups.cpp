@@ -164,6 +164,11 @@ void UBodyFeaturesPopups::ShowSwitch() {
     m_switch->SetTexts(tr("popups_switch"), !canAsk                    ? tr("popups_switch_nobody")
                                             : m_answerTimer.isActive() ? tr("popups_switch_waiting")
                                                                        : tr("popups_switch_tip"));
+    const bool isLinked = AppContextData::Instance()->Linked();
+    for (UTextButton* button : {m_point, m_choose}) {
+        button->setEnabled(isLinked);
+        button->setToolTip(isLinked ? QString() : tr("popups_switch_nobody"));
+    }
 }
 
 void UBodyFeaturesPopups::ShowRecords() {
