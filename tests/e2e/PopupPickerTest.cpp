@@ -28,9 +28,6 @@ protected:
         return QDir(QString::fromStdString(product.Folder() + "/data/temp"))
             .entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
     }
-    bool Comes(bool (PopupsPage::*state)() const) {
-        return WaitUntil([&] { return (page.*state)(); });
-    }
 
     PopupsPage page{product};
 };
@@ -60,7 +57,7 @@ TEST_F(PopupPickerEndToEndTest, SurvivesAWindowThatVanishes) {
     ASSERT_TRUE(screen->WaitForWindow("Offer of the day"));
     ASSERT_TRUE(page.OpenPicker());
     screen->Click(Place.center());
-    EXPECT_TRUE(Comes(&PopupsPage::OffersReport));
+    EXPECT_TRUE(WaitUntil([this] { return page.OffersReport(); }));
     foreign.clear(); // what was picked goes
     ASSERT_TRUE(page.Report());
     EXPECT_TRUE(product.AgentSays("PopupBlockResult"));
