@@ -1,6 +1,7 @@
 #include "AgentPopups.h"
 
 #include "entity/IotEntities.h"
+#include "platform/application/PopupWindow.h"
 
 #include <algorithm>
 #include <utility>
@@ -8,15 +9,6 @@
 namespace {
 
 constexpr char Failure[] = "1";
-
-/// Whether they match the same windows.
-bool IsSame(const PopupsTypeParams& one, const PopupsTypeParams& other) {
-    const auto isSame = [](const std::string& left, const std::string& right) {
-        return QString::fromStdString(left).compare(QString::fromStdString(right), Qt::CaseInsensitive) == 0;
-    };
-    return isSame(one.appName, other.appName) && isSame(one.popProductName, other.popProductName) &&
-           isSame(one.popClassName, other.popClassName) && isSame(one.popName, other.popName);
-}
 
 /// On one line, whatever the other program has put into it.
 std::string OneLine(const std::string& text) {
@@ -59,8 +51,10 @@ void AgentPopups::TellAll() {
 
 void AgentPopups::Change(const PopupsTypeParams& rule, bool isEnabled) {
     std::vector<PopupsTypeParams>& rules = m_policy.popupsDetails;
-    const auto same = std::find_if(rules.begin(), rules.end(),
-                                   [&](const PopupsTypeParams& other) { return IsSame(other, rule); });
+    const QString identity = PopupWindow::Of(rule).Identity();
+    const auto same = std::find_if(rules.begin(), rules.end(), [&](const PopupsTypeParams& other) {
+        return PopupWindow::Of(other).Identity() == identity;
+    });
     if (same != rules.end())
         rules.erase(same);
     if (isEnabled)

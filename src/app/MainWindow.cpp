@@ -91,8 +91,11 @@ void MainWindow::InitConnect() {
     connect(Theme::Instance(), &Theme::Changed, this, &MainWindow::ApplyTheme);
     if (const PopupHistory* history = PopupHistory::OfApplication())
         connect(history, &PopupHistory::Noticed, this, [this](const QString& text) {
-            m_notifier.Notify(NoticeKind::Info, text, [this] {
-                m_navigator->GoTo(PageIndex(PageId::Features));
+            const int page = PageIndex(PageId::Features);
+            if (isActiveWindow() && m_ui->menu->isVisible() && m_ui->menu->Current() == page)
+                return; // it is there to be seen
+            m_notifier.Notify(NoticeKind::Info, text, [this, page] {
+                m_navigator->GoTo(page);
                 Open();
             });
         });

@@ -166,7 +166,7 @@ int UserApp::Run(int argc, char** argv) {
         controller->SetService(PipeClientService::Instance());
     const PopupHistory popupHistory(QString::fromStdWString(RyxPath::GetUserDataDir()) +
                                         QStringLiteral("/popups.json"),
-                                    &PickableWindow::IsOpen, Clock::System(), &application);
+                                    &PickableWindow::KeysOnScreen, Clock::System(), &application);
     const PipeLinkGuard link;
 
     MainWindow window;

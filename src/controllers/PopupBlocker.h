@@ -21,7 +21,7 @@ public:
     PopupBlocker(PopupRules& rules, const SystemDesktop& desktop, const SystemProcesses& processes,
                  const SystemPrograms& programs, const Clock& clock);
 
-    /// The window was shown. GUI thread; returns at once.
+    /// The window was shown. The thread that is told so; waits for nothing but what the system knows.
     void Look(WId window);
 
 private:

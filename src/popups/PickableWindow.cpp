@@ -1,13 +1,14 @@
 #include "popups/PickableWindow.h"
 
+#include "platform/application/PopupWindow.h"
 #include "platform/context/AppConfigData.h"
 #include "platform/system/SystemDesktop.h"
 #include "platform/system/SystemProcesses.h"
 #include "platform/system/SystemPrograms.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QSet>
 #include <algorithm>
 
 namespace {
@@ -122,19 +123,26 @@ std::optional<PickableWindow> PickableWindow::Read(const PopupSystem& system, WI
     return window;
 }
 
-bool PickableWindow::IsOpen(const PopupsTypeParams& rule) {
-    const auto equal = [](const QString& text, const std::string& utf8) {
-        return text.compare(QString::fromStdString(utf8), Qt::CaseInsensitive) == 0;
-    };
+// A window whose program asks "Save changes?" is disabled meanwhile, and open all the same.
+QSet<QString> PickableWindow::KeysOnScreen() {
     const PopupSystem system = PopupSystem::Native();
-    const std::vector<WId> windows = Candidates(system, 0);
-    return std::any_of(windows.begin(), windows.end(), [&](WId id) {
-        if (!equal(system.desktop.ClassNameOf(id), rule.popClassName) ||
-            !equal(system.desktop.TitleOf(id), rule.popName))
+    QSet<QString> keys;
+    for (const WId id : system.desktop.TopLevelWindows().value_or(std::vector<WId>()))
+        if (const auto window = system.desktop.IsVisible(id) ? Read(system, id) : std::nullopt)
+            keys.insert(PopupWindow{window->FileName(), window->className, window->title, {}}.Key());
+    return keys;
+}
+
+bool PickableWindow::IsUncovered(const PopupSystem& system) const {
+    const auto self = static_cast<quint32>(QCoreApplication::applicationPid());
+    for (const WId other : system.desktop.TopLevelWindows().value_or(std::vector<WId>())) {
+        if (other == id)
+            return true;
+        if (system.desktop.IsVisible(other) && system.desktop.ProcessOf(other) != self &&
+            system.desktop.PlaceOf(other).value_or(QRect()).intersects(place))
             return false;
-        const std::optional<PickableWindow> window = Read(system, id);
-        return window && equal(window->FileName(), rule.appName);
-    });
+    }
+    return false; // it has gone
 }
 
 QString PickableWindow::FileName() const {

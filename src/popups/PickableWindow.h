@@ -1,8 +1,7 @@
 #pragma once
 
-#include "entity/AppEntities.h"
-
 #include <QRect>
+#include <QSet>
 #include <QString>
 #include <optional>
 #include <qwindowdefs.h>
@@ -50,8 +49,11 @@ struct PickableWindow {
     /// Nothing when it is none that can be picked, or has gone.
     static std::optional<PickableWindow> Read(const PopupSystem& system, WId id);
 
-    /// Whether a window on the screen is one that the rule means, as far as that can be told at once.
-    static bool IsOpen(const PopupsTypeParams& rule);
+    /// The keys (PopupWindow) of all windows on the screen, those that cannot be picked as well.
+    static QSet<QString> KeysOnScreen();
+
+    /// Whether no window of another program lies over a part of it.
+    bool IsUncovered(const PopupSystem& system) const;
 
     QString FileName() const;
     /// Of the program.

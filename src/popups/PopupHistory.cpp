@@ -44,14 +44,15 @@ PopupRecord FromJson(const QJsonObject& json) {
 
 } // namespace
 
-PopupHistory::PopupHistory(const QString& file, IsOpen isOpen, const Clock& clock, QObject* parent)
-    : QObject(parent), m_file(file), m_isOpen(std::move(isOpen)), m_clock(clock) {
+PopupHistory::PopupHistory(const QString& file, OpenWindows openWindows, const Clock& clock, QObject* parent)
+    : QObject(parent), m_file(file), m_openWindows(std::move(openWindows)), m_clock(clock) {
     m_writeTimer.setSingleShot(true);
     m_writeTimer.setInterval(WriteAfterMs);
     connect(&m_writeTimer, &QTimer::timeout, this, &PopupHistory::Write);
     m_lookTimer.setObjectName(QStringLiteral("popupLookTimer"));
     m_lookTimer.setInterval(LookMs);
     connect(&m_lookTimer, &QTimer::timeout, this, &PopupHistory::LookAgain);
+    connect(&m_look, &QFutureWatcherBase::finished, this, &PopupHistory::OnLooked);
     Read();
     QCoreApplication::instance()->installEventFilter(this);
     new PipeEventWatcher(this, [this](PipeKey key, const std::string& body) { OnPipeReceive(key, body); });
@@ -64,13 +65,6 @@ PopupHistory::~PopupHistory() {
 
 PopupHistory* PopupHistory::OfApplication() {
     return QCoreApplication::instance()->findChild<PopupHistory*>(QString(), Qt::FindDirectChildrenOnly);
-}
-
-QString PopupHistory::Identity(const PopupsTypeParams& rule) {
-    QString fields;
-    for (const std::string* field : {&rule.appName, &rule.popProductName, &rule.popClassName, &rule.popName})
-        fields += QString::fromStdString(*field) + QLatin1Char('\n');
-    return fields.toCaseFolded();
 }
 
 int PopupHistory::CountOfToday() const {
@@ -106,14 +100,14 @@ void PopupHistory::SetPolicy(const SyncPopupsParams& policy) {
     if (!policy.popStatus || !policy.hasOne)
         m_rules.clear();
     if (policy.popStatus && policy.hasOne && !policy.popupsDetails.empty()) {
-        const QString rule = Identity(policy.popupsDetails.front());
+        const QString rule = PopupWindow::Of(policy.popupsDetails.front()).Identity();
+        if (const auto same = m_rules.find(rule); same != m_rules.end())
+            m_rules.erase(same);
         if (policy.enable)
             m_rules.insert(rule);
-        else
-            m_rules.remove(rule);
     } else if (policy.popStatus && !policy.hasOne) {
         for (const PopupsTypeParams& rule : policy.popupsDetails)
-            m_rules.insert(Identity(rule));
+            m_rules.insert(PopupWindow::Of(rule).Identity());
     }
     emit PolicyReceived();
 }
@@ -127,13 +121,14 @@ void PopupHistory::Add(const UploadPopupsParams& report) {
     now.rule.popSignName = report.popSignName;
     now.rule.popDirectory = report.popDirectory;
     now.last = m_clock.Now();
-    const QString identity = Identity(now.rule);
+    const QString identity = PopupWindow::Of(now.rule).Identity();
     const auto before = std::find_if(m_records.begin(), m_records.end(), [&](const PopupRecord& record) {
-        return record.last.date() == now.last.date() && Identity(record.rule) == identity;
+        return record.last.date() == now.last.date() && PopupWindow::Of(record.rule).Identity() == identity;
     });
     const bool isFirst = before == m_records.end();
     if (!isFirst) {
         now.times = before->times;
+        now.stillOpen = before->stillOpen;
         now.lookAgain = before->lookAgain;
         m_records.erase(before);
     }
@@ -155,22 +150,30 @@ void PopupHistory::Add(const UploadPopupsParams& report) {
 
 // Nobody tells when the other program has closed its window, or that it never will.
 void PopupHistory::LookAgain() {
+    if (!m_look.isFinished())
+        return;
     const QDateTime now = m_clock.Now();
-    bool goesOn = false;
+    const auto waits = [](const PopupRecord& record) { return record.lookAgain.isValid(); };
+    const auto isDue = [&](const PopupRecord& record) { return waits(record) && record.lookAgain <= now; };
+    if (std::none_of(m_records.begin(), m_records.end(), waits))
+        return m_lookTimer.stop();
+    if (std::none_of(m_records.begin(), m_records.end(), isDue))
+        return;
+    m_lookBegan = now;
+    m_look.setFuture(m_worker.Run(m_openWindows, {}));
+}
+
+void PopupHistory::OnLooked() {
+    const QSet<QString> open = m_look.result();
     bool changed = false;
     for (PopupRecord& record : m_records) {
-        if (!record.lookAgain.isValid())
+        if (!record.lookAgain.isValid() || record.lookAgain > m_lookBegan)
             continue;
-        if (record.lookAgain <= now) {
-            const bool isOpen = m_isOpen && m_isOpen(record.rule);
-            changed |= isOpen != record.stillOpen;
-            record.stillOpen = isOpen;
-            record.lookAgain = isOpen ? now.addMSecs(TimeToCloseMs) : QDateTime();
-        }
-        goesOn |= record.lookAgain.isValid();
+        const bool isOpen = open.contains(PopupWindow::Of(record.rule).Key());
+        changed |= isOpen != record.stillOpen;
+        record.stillOpen = isOpen;
+        record.lookAgain = isOpen ? m_clock.Now().addMSecs(TimeToCloseMs) : QDateTime();
     }
-    if (!goesOn)
-        m_lookTimer.stop();
     if (changed)
         emit RecordsChanged();
 }

@@ -1,22 +1,25 @@
 #pragma once
 
-#include "entity/AppEntities.h"
 #include "platform/application/Clock.h"
+#include "platform/application/PopupWindow.h"
+#include "platform/files/Workers.h"
 #include "platform/link/PipeKey.h"
 
 #include <QDateTime>
+#include <QFutureWatcher>
 #include <QObject>
 #include <QSet>
 #include <QTimer>
 #include <deque>
 #include <functional>
+#include <unordered_set>
 
 /// The windows that one rule has asked to close on one day.
 struct PopupRecord {
     PopupsTypeParams rule; ///< with the folder in which the program was found
     QDateTime last;
     int times = 0;
-    bool stillOpen = false; ///< the last one was asked to close, and is still there
+    bool stillOpen = false; ///< one of them was asked to close, and is still there
     QDateTime lookAgain;    ///< when to look whether it has gone; not valid: it has
 };
 
@@ -27,12 +30,12 @@ class PopupHistory : public QObject {
 
 public:
     enum class Blocking { Unknown, Off, On };
-    /// Whether a window that the rule means is on the screen.
-    using IsOpen = std::function<bool(const PopupsTypeParams& rule)>;
+    /// Tells the keys (PopupWindow) of the windows on the screen. Worker threads: it asks about each of them.
+    using OpenWindows = std::function<QSet<QString>()>;
 
     /// Reads what an earlier start has kept in `file`, and keeps the last 200 records there; without a name
     /// nothing is kept.
-    PopupHistory(const QString& file, IsOpen isOpen, const Clock& clock = Clock::System(),
+    PopupHistory(const QString& file, OpenWindows openWindows, const Clock& clock = Clock::System(),
                  QObject* parent = nullptr);
     /// Writes what is not written yet.
     ~PopupHistory() override;
@@ -48,11 +51,10 @@ public:
 
     /// What the service has said last.
     Blocking State() const { return m_state; }
-    int RuleCount() const { return m_rules.size(); }
-    bool IsInForce(const PopupsTypeParams& rule) const { return m_rules.contains(Identity(rule)); }
-
-    /// The same text for the same rule: four fields, in upper or lower case.
-    static QString Identity(const PopupsTypeParams& rule);
+    int RuleCount() const { return static_cast<int>(m_rules.size()); }
+    bool IsInForce(const PopupsTypeParams& rule) const {
+        return m_rules.count(PopupWindow::Of(rule).Identity()) > 0;
+    }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -68,18 +70,22 @@ private:
     void SetPolicy(const SyncPopupsParams& policy);
     void Add(const UploadPopupsParams& report);
     void LookAgain();
+    void OnLooked();
     void Read();
     void Write();
     void Touch();
 
     const QString m_file;
-    const IsOpen m_isOpen;
+    const OpenWindows m_openWindows;
     const Clock& m_clock;
     std::deque<PopupRecord> m_records;
     QDate m_day; // that m_count counts
     int m_count = 0;
     Blocking m_state = Blocking::Unknown;
-    QSet<QString> m_rules; // identities
+    std::unordered_multiset<QString> m_rules; // identities
     QTimer m_writeTimer{this};
     QTimer m_lookTimer{this};
+    Workers m_worker{1};
+    QFutureWatcher<QSet<QString>> m_look{this};
+    QDateTime m_lookBegan;
 };

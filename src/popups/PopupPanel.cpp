@@ -1,5 +1,6 @@
 #include "popups/PopupPanel.h"
 
+#include "popups/ShownText.h"
 #include "widgets/AccessibleRole.h"
 #include "widgets/UElidedLabel.h"
 #include "widgets/UIconLabel.h"
@@ -95,8 +96,8 @@ void PopupPanel::ShowBusy() {
 
 void PopupPanel::ShowWindow(const QPixmap& icon, const QString& program, const QString& title) {
     m_icon->setPixmap(icon);
-    m_program->SetText(program);
-    m_title->SetText(title);
+    m_program->SetText(ShownText(program));
+    m_title->SetText(ShownText(title));
     m_title->setVisible(!title.isEmpty());
     setAccessibleName(m_of->text() + QLatin1Char(' ') + program);
     setAccessibleDescription(title);

@@ -9,11 +9,20 @@
 #include <algorithm>
 #include <utility>
 
+namespace {
+
+constexpr int RepaintMs = 300;
+
+} // namespace
+
 PopupPicker::PopupPicker(PopupSystem system, PopupReport::Upload upload, QObject* parent)
     : QObject(parent), m_system(system), m_upload(std::move(upload)) {
+    m_opening.setSingleShot(true);
+    m_opening.setInterval(RepaintMs);
+    connect(&m_opening, &QTimer::timeout, this, &PopupPicker::Open);
     // Masks that do not fit any more are made anew, and what was picked is dropped.
     const auto showAgain = [this] {
-        if (IsOpen())
+        if (IsOpen() && !m_opening.isActive())
             ShowMasks();
     };
     const auto watch = [this, showAgain](QScreen* screen) {
@@ -32,26 +41,34 @@ PopupPicker::PopupPicker(PopupSystem system, PopupReport::Upload upload, QObject
 PopupPicker::~PopupPicker() = default;
 
 bool PopupPicker::IsOpen() const {
-    return std::any_of(m_masks.begin(), m_masks.end(), [](const auto& mask) { return mask->isVisible(); });
+    return m_opening.isActive() ||
+           std::any_of(m_masks.begin(), m_masks.end(), [](const auto& mask) { return mask->isVisible(); });
 }
 
-bool PopupPicker::Start() {
+bool PopupPicker::Start(QWidget* aside, const std::optional<PickableWindow>& picked) {
     if (std::any_of(m_masks.begin(), m_masks.end(), [](const auto& mask) { return mask->IsReporting(); }))
         return false;
-    m_before = QApplication::activeWindow();
-    ShowMasks();
+    m_aside = aside;
+    m_picked = picked;
+    if (!aside) {
+        Open();
+        return true;
+    }
+    m_asideGeometry = aside->saveGeometry();
+    aside->hide();
+    m_opening.start(); // what was covered has yet to be painted
     return true;
 }
 
-bool PopupPicker::Start(const PickableWindow& picked) {
-    if (!Start())
-        return false;
-    const auto holds = [&](const auto& mask) { return mask->Place().contains(picked.place.center()); };
+void PopupPicker::Open() {
+    ShowMasks();
+    if (!m_picked)
+        return;
+    const auto holds = [&](const auto& mask) { return mask->Place().contains(m_picked->place.center()); };
     const auto found = std::find_if(m_masks.begin(), m_masks.end(), holds);
     UPopupBlockMask& mask = found == m_masks.end() ? *m_masks.front() : **found;
     SystemWindows::Native().Activate(mask);
-    mask.Pick(picked);
-    return true;
+    mask.Pick(*m_picked);
 }
 
 void PopupPicker::ShowMasks() {
@@ -75,10 +92,18 @@ void PopupPicker::ShowMasks() {
 void PopupPicker::Close() {
     if (!IsOpen())
         return;
+    m_opening.stop();
     for (const auto& mask : m_masks)
         mask->hide();
-    if (m_before && !WindowStack::Instance()->Highest())
-        m_before->activateWindow();
+    if (!m_aside)
+        return;
+    m_aside->restoreGeometry(m_asideGeometry); // some window managers would place it anew
+    const bool isCovered = WindowStack::Instance()->Highest();
+    m_aside->setAttribute(Qt::WA_ShowWithoutActivating, isCovered);
+    m_aside->show();
+    m_aside->setAttribute(Qt::WA_ShowWithoutActivating, false);
+    if (!isCovered)
+        m_aside->activateWindow();
 }
 
 std::vector<PickableWindow> PopupPicker::Windows() const {
@@ -86,7 +111,9 @@ std::vector<PickableWindow> PopupPicker::Windows() const {
     const QVector<QRect> screens = SystemWindows::Native().ScreenPlaces();
     for (const WId id : PickableWindow::Candidates(m_system, 0)) {
         const std::optional<PickableWindow> window = PickableWindow::Read(m_system, id);
+        const auto shows = [&](const QRect& screen) { return screen.intersects(window->place); };
         if (window && !screens.contains(window->place) &&
+            std::any_of(screens.begin(), screens.end(), shows) &&
             !window->IsRefused({}, OwnPublisher::Configured(),
                                static_cast<quint32>(QCoreApplication::applicationPid())))
             windows.push_back(*window);

@@ -4,7 +4,9 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QTimer>
 #include <memory>
+#include <optional>
 #include <vector>
 
 /// Lets the user pick a window to report: covers every screen with a mask until one is reported or the user
@@ -17,10 +19,9 @@ public:
                          PopupReport::Upload upload = PopupReport::UploadToStore, QObject* parent = nullptr);
     ~PopupPicker() override;
 
-    /// Lets the user point at a window; false while a report is on its way.
-    bool Start();
-    /// The same with a window that is picked already.
-    bool Start(const PickableWindow& picked);
+    /// Lets the user point at a window, or begins with one that is picked already; false while a report is on
+    /// its way. The program's own window `aside` is away meanwhile, as what is to be picked may lie below it.
+    bool Start(QWidget* aside = nullptr, const std::optional<PickableWindow>& picked = {});
     void Close();
 
     /// What the user may choose from, the topmost first. Some of them may still be refused.
@@ -29,11 +30,15 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void Open();
     void ShowMasks();
     bool IsOpen() const;
 
     const PopupSystem m_system;
     const PopupReport::Upload m_upload;
-    QPointer<QWidget> m_before; // had the focus
+    QPointer<QWidget> m_aside;
+    QByteArray m_asideGeometry;
+    std::optional<PickableWindow> m_picked; // before it was opened
+    QTimer m_opening{this};
     std::vector<std::unique_ptr<UPopupBlockMask>> m_masks;
 };

@@ -8,12 +8,6 @@
 #include <QUuid>
 #include <utility>
 
-namespace {
-
-constexpr int CaptureMs = 3000;
-
-} // namespace
-
 TempPicture::TempPicture()
     : m_path(QDir(QString::fromStdWString(RyxPath::GetRyxTempDir()))
                  .filePath(QUuid::createUuid().toString(QUuid::WithoutBraces) + QStringLiteral(".png"))) {}
@@ -22,52 +16,46 @@ TempPicture::~TempPicture() {
     QFile::remove(m_path);
 }
 
-PopupCapture::PopupCapture(QObject* parent) : QObject(parent) {
-    m_limit.setObjectName(QStringLiteral("captureLimitTimer"));
-    m_limit.setSingleShot(true);
-    m_limit.setInterval(CaptureMs);
-    connect(&m_limit, &QTimer::timeout, this, &PopupCapture::End);
+PopupCapture::PopupCapture(QObject* parent) : QObject(parent) {}
+
+PopupCapture::~PopupCapture() {
+    Cancel();
 }
 
-void PopupCapture::Start(WId window, std::shared_ptr<TempPicture> picture) {
+void PopupCapture::Start(WId window, const std::shared_ptr<TempPicture>& picture) {
     Cancel();
-    m_picture = std::move(picture);
-    m_process = std::make_unique<QProcess>();
-    // The process must not go while it tells of its end, and another may run by the time that is heard.
+    m_process = new QProcess(this);
+    // The picture outlives the process that writes it.
+    connect(m_process, &QObject::destroyed, [held = picture]() mutable { held.reset(); });
+    // Another one may run by the time its end is heard.
     const auto end = [this, run = m_run] {
         if (run == m_run)
             End();
     };
-    connect(m_process.get(), qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this, end,
+    connect(m_process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this, end,
             Qt::QueuedConnection);
-    connect(m_process.get(), &QProcess::errorOccurred, this, end, Qt::QueuedConnection);
+    connect(m_process, &QProcess::errorOccurred, this, end, Qt::QueuedConnection);
     m_process->setProgram(
         QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("ryx-capture")));
-    m_process->setArguments({QString::number(window), QDir::toNativeSeparators(m_picture->Path())});
+    m_process->setArguments({QString::number(window), QDir::toNativeSeparators(picture->Path())});
     m_process->setStandardOutputFile(QProcess::nullDevice());
     m_process->setStandardErrorFile(QProcess::nullDevice());
     m_process->start();
-    m_limit.start();
 }
 
 void PopupCapture::Cancel() {
     ++m_run;
-    m_limit.stop();
-    if (m_process) {
-        m_process->disconnect(this);
-        m_process->kill();
-        m_process.reset(); // waits for its end, which is near
-    }
-    m_picture.reset();
+    QProcess* process = std::exchange(m_process, nullptr);
+    if (!process)
+        return;
+    if (process->state() == QProcess::NotRunning)
+        return process->deleteLater();
+    connect(process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), process,
+            &QObject::deleteLater);
+    process->kill();
 }
 
 void PopupCapture::End() {
-    if (!m_process)
-        return;
-    const std::shared_ptr<TempPicture> picture = m_picture;
-    const bool isCut = m_process->state() != QProcess::NotRunning;
     Cancel();
-    if (isCut)
-        QFile::remove(picture->Path()); // it may be half of one
     emit Finished();
 }

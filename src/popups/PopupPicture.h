@@ -1,10 +1,7 @@
 #pragma once
 
-#include "platform/files/TaskControl.h"
-
 #include <QObject>
 #include <QProcess>
-#include <QTimer>
 #include <memory>
 #include <qwindowdefs.h>
 
@@ -24,15 +21,17 @@ private:
     QString m_path;
 };
 
-/// Takes the picture of a window, beside the event loop and for a limited time. GUI thread.
+/// Takes the picture of a window, beside the event loop. GUI thread.
 class PopupCapture : public QObject {
     Q_OBJECT
 
 public:
     explicit PopupCapture(QObject* parent = nullptr);
+    ~PopupCapture() override;
 
     /// Starts the program for it, which is to write into `picture`. What was under way before is given up.
-    void Start(WId window, std::shared_ptr<TempPicture> picture);
+    void Start(WId window, const std::shared_ptr<TempPicture>& picture);
+    /// Gives it up. What is written so far goes once the program has ended, which is not waited for.
     void Cancel();
     bool IsRunning() const { return m_process != nullptr; }
 
@@ -43,8 +42,6 @@ signals:
 private:
     void End();
 
-    std::unique_ptr<QProcess> m_process;
-    std::shared_ptr<TempPicture> m_picture; // outlives the process that writes it
-    int m_run = 0;                          // number of the process
-    QTimer m_limit{this};
+    QProcess* m_process = nullptr;
+    int m_run = 0; // number of the process
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "entity/AppEntities.h"
+#include "platform/files/TaskControl.h"
 #include "popups/PickableWindow.h"
 #include "popups/PopupPicture.h"
 

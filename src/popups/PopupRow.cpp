@@ -2,6 +2,7 @@
 
 #include "platform/context/LanguageHelper.h"
 #include "popups/ProgramIcon.h"
+#include "popups/ShownText.h"
 #include "widgets/UElidedLabel.h"
 #include "widgets/UTextButton.h"
 #include "widgets/UTextLabel.h"
@@ -14,7 +15,7 @@ namespace {
 constexpr int IconSize = 32;
 
 QString Words(const std::string& utf8) {
-    return utf8.empty() ? PopupRow::tr("popups_none") : QString::fromStdString(utf8);
+    return utf8.empty() ? PopupRow::tr("popups_none") : ShownText(QString::fromStdString(utf8));
 }
 
 } // namespace
@@ -87,8 +88,16 @@ void PopupRow::ShowRecord() {
     m_rule->setText(tr("popups_rule").arg(Words(rule.popClassName), Words(rule.popProductName)));
     m_time->setText(m_record.times == 1 ? time
                                         : tr("popups_times").arg(time, locale.toString(m_record.times)));
-    m_state->setText(m_record.stillOpen ? tr("popups_still_open") : tr("popups_dropped"));
-    m_state->setVisible(m_record.stillOpen || m_ruleState == Rule::Dropped);
+    QStringList states;
+    if (m_record.stillOpen)
+        states += tr("popups_still_open");
+    if (m_ruleState == Rule::Dropped)
+        states += tr("popups_dropped");
+    m_state->setText(states.join(QLatin1Char('\n')));
+    m_state->setVisible(!states.isEmpty());
+    // The focus would go to another row's button, the page to that row, and a second press would hit it.
+    if (m_ruleState != Rule::InForce && window()->focusWidget() == m_wrong)
+        setFocus();
     m_wrong->setVisible(m_ruleState == Rule::InForce);
     m_wrong->setText(tr("popups_wrong"));
     m_wrong->setAccessibleName(tr("popups_wrong_name").arg(m_program->Text(), m_title->Text()));

@@ -6,7 +6,6 @@
 
 class QLabel;
 class UElidedLabel;
-class UIconLabel;
 class UTextButton;
 
 /// One record of the history: which program's window was asked to close, when, how often, and by which rule.

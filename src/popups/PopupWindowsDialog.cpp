@@ -1,6 +1,7 @@
 #include "popups/PopupWindowsDialog.h"
 
 #include "popups/ProgramIcon.h"
+#include "popups/ShownText.h"
 #include "widgets/AccessibleRole.h"
 #include "widgets/UTextButton.h"
 #include "widgets/UTextLabel.h"
@@ -28,9 +29,9 @@ PopupWindowsDialog::PopupWindowsDialog(const std::vector<PickableWindow>& window
         auto* button = new UTextButton;
         button->setObjectName(QStringLiteral("popupWindow"));
         button->setIcon(ProgramIcon::Shown(window.path));
-        const QString name = window.title.isEmpty()
-                                 ? window.FileName()
-                                 : window.FileName() + QStringLiteral(" – ") + window.title;
+        const QString name =
+            ShownText(window.title.isEmpty() ? window.FileName()
+                                             : window.FileName() + QStringLiteral(" – ") + window.title);
         button->setText(button->fontMetrics()
                             .elidedText(name, Qt::ElideRight, TextWidth)
                             .replace(QLatin1Char('&'), QStringLiteral("&&")));

@@ -127,7 +127,7 @@ QWidget* UBodyFeaturesPopups::MakePickCard() {
 
 void UBodyFeaturesPopups::InitConnect() {
     connect(m_point, &QPushButton::clicked, this, [this] {
-        if (!m_picker.Start())
+        if (!m_picker.Start(window()))
             TellBusy();
     });
     connect(m_choose, &QPushButton::clicked, this, &UBodyFeaturesPopups::PickFromList);
@@ -164,6 +164,11 @@ void UBodyFeaturesPopups::ShowSwitch() {
     m_switch->SetTexts(tr("popups_switch"), !canAsk                    ? tr("popups_switch_nobody")
                                             : m_answerTimer.isActive() ? tr("popups_switch_waiting")
                                                                        : tr("popups_switch_tip"));
+    const bool isLinked = AppContextData::Instance()->Linked();
+    for (UTextButton* button : {m_point, m_choose}) {
+        button->setEnabled(isLinked);
+        button->setToolTip(isLinked ? QString() : tr("popups_switch_nobody"));
+    }
 }
 
 void UBodyFeaturesPopups::ShowRecords() {
@@ -175,7 +180,7 @@ void UBodyFeaturesPopups::ShowRecords() {
     // Each record keeps its row: a press that was meant for one must not hit another that has moved there.
     for (int i = 0; i < qMin(count, m_mostRows); ++i) {
         const PopupRecord& record = records[static_cast<std::size_t>(i)];
-        const QString identity = PopupHistory::Identity(record.rule);
+        const QString identity = PopupWindow::Of(record.rule).Identity();
         const QString key = record.last.date().toString(Qt::ISODate) + identity;
         PopupRow* row = gone.take(key);
         if (!row)
@@ -194,7 +199,10 @@ void UBodyFeaturesPopups::ShowRecords() {
         setTabOrder(std::exchange(before, row->TabStop()), row->TabStop());
     }
     setTabOrder(before, m_older);
-    qDeleteAll(gone);
+    for (PopupRow* row : qAsConst(gone)) { // one of them may have been pressed just now
+        row->hide();
+        row->deleteLater();
+    }
     m_empty->setVisible(records.empty());
     m_older->setVisible(count > m_mostRows);
     m_older->setText(
@@ -209,8 +217,8 @@ PopupRow* UBodyFeaturesPopups::MakeRow() {
 
 void UBodyFeaturesPopups::PickFromList() {
     auto* dialog = new PopupWindowsDialog(m_picker.Windows(), this);
-    connect(dialog, &PopupWindowsDialog::Chosen, this, [this](const PickableWindow& window) {
-        if (!m_picker.Start(window))
+    connect(dialog, &PopupWindowsDialog::Chosen, this, [this](const PickableWindow& chosen) {
+        if (!m_picker.Start(window(), chosen))
             TellBusy();
     });
     dialog->show();
@@ -243,7 +251,7 @@ void UBodyFeaturesPopups::OnReportedWrong(const PopupsTypeParams& rule) {
     command.popStatus = true;
     command.hasOne = true;
     command.popupsDetails = {rule};
-    m_doubted = PopupHistory::Identity(rule);
+    m_doubted = PopupWindow::Of(rule).Identity();
     Ask(command);
 }
 

@@ -11,6 +11,7 @@
 #include "platform/system/SystemWindows.h"
 #include "popups/PopupPanel.h"
 #include "popups/ProgramIcon.h"
+#include "widgets/ReturnKey.h"
 #include "widgets/UToast.h"
 
 #include <QCoreApplication>
@@ -19,13 +20,16 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
-#include <QtConcurrent>
+#include <QTransform>
+#include <QtMath>
 #include <glog/logging.h>
 #include <utility>
 
 namespace {
 
+constexpr int LookMs = 3000;
 constexpr int ReplyMs = 15000;
+constexpr int EndMs = 1500;
 constexpr int IconSize = 32;
 constexpr int Margin = 24;
 constexpr QRgb Veil = qRgba(16, 24, 34, 90);
@@ -71,6 +75,9 @@ UPopupBlockMask::UPopupBlockMask(const QScreen& screen, const PopupSystem& syste
     m_preview->setScaledContents(true);
     m_preview->setAttribute(Qt::WA_TransparentForMouseEvents); // it can be picked again
     m_preview->hide();
+    m_lookLimit.setObjectName(QStringLiteral("pickerLookLimit"));
+    m_lookLimit.setSingleShot(true);
+    m_lookLimit.setInterval(LookMs);
     m_replyTimer.setObjectName(QStringLiteral("popupReplyTimer"));
     m_replyTimer.setSingleShot(true);
     m_replyTimer.setInterval(ReplyMs);
@@ -79,6 +86,7 @@ UPopupBlockMask::UPopupBlockMask(const QScreen& screen, const PopupSystem& syste
     connect(m_panel, &PopupPanel::CancelPressed, this, &UPopupBlockMask::Cancelled);
     connect(&m_capture, &PopupCapture::Finished, this, &UPopupBlockMask::OnLooked);
     connect(&m_facts, &QFutureWatcherBase::finished, this, &UPopupBlockMask::OnLooked);
+    connect(&m_lookLimit, &QTimer::timeout, this, &UPopupBlockMask::EndLook);
     connect(&m_upload, &QFutureWatcherBase::finished, this, &UPopupBlockMask::Send);
     connect(&m_replyTimer, &QTimer::timeout, this, [this] { TellResult(false); });
     QCoreApplication::instance()->installEventFilter(this);
@@ -87,6 +95,7 @@ UPopupBlockMask::UPopupBlockMask(const QScreen& screen, const PopupSystem& syste
 
 UPopupBlockMask::~UPopupBlockMask() {
     m_cancellation.Cancel();
+    m_uploader.Join(QDeadlineTimer(EndMs));
 }
 
 bool UPopupBlockMask::EnumWindowsCallback(WId window, UPopupBlockMask& mask) {
@@ -101,7 +110,7 @@ bool UPopupBlockMask::EnumWindowsCallback(WId window, UPopupBlockMask& mask) {
         log("Hited window, full screen: ");
         return true;
     }
-    if (!QRectF(read->place).contains(mask.m_click))
+    if (!read->place.contains(qFloor(mask.m_click.x()), qFloor(mask.m_click.y())))
         return true;
     log("Hited window: ");
     mask.Pick(*read);
@@ -118,12 +127,15 @@ void UPopupBlockMask::mousePressEvent(QMouseEvent* event) {
             break;
 }
 
+void UPopupBlockMask::keyPressEvent(QKeyEvent* event) {
+    if (!PressFocusedButton(*this, *event))
+        QWidget::keyPressEvent(event);
+}
+
 void UPopupBlockMask::Reset() {
-    m_capture.Cancel();
-    m_facts.setFuture({});
+    GiveUpLook();
     m_report = {};
     m_picked = {};
-    m_busy = false;
     m_preview->hide();
     m_panel->ShowHint();
     PlacePanel();
@@ -136,22 +148,40 @@ void UPopupBlockMask::Pick(const PickableWindow& window) {
     m_picked = window;
     m_report.window = std::make_shared<TempPicture>();
     m_panel->ShowBusy();
-    m_preview->setGeometry(FromPhysical(window.place));
+    m_preview->setGeometry(FromPhysical(window.place & m_place));
     m_preview->setPixmap({});
     m_preview->show();
-    if (m_desktop.isNull())
-        m_capture.Start(window.id, m_report.window);
-    m_facts.setFuture(QtConcurrent::run([&programs = m_system.programs, path = window.path] {
-        return ProgramFacts{programs.ProductNameOf(path), programs.SignerOf(path)};
-    }));
+    m_capture.Start(window.id, m_report.window);
+    m_facts.setFuture(m_reader->Run(
+        [&programs = m_system.programs, path = window.path] {
+            return ProgramFacts{programs.ProductNameOf(path), programs.SignerOf(path)};
+        },
+        {}));
+    m_lookLimit.start();
 }
 
 // Both what the program's file tells and the picture are there, or what there will be of them.
 void UPopupBlockMask::OnLooked() {
-    if (!m_busy || m_capture.IsRunning() || !m_facts.isFinished())
-        return;
+    if (m_busy && !m_capture.IsRunning() && m_facts.isFinished())
+        EndLook();
+}
+
+// What is not there by now counts as missing: a window may hang, and a program may lie on a slow network.
+void UPopupBlockMask::EndLook() {
+    const ProgramFacts facts = m_facts.isFinished() ? m_facts.result() : ProgramFacts();
+    if (m_capture.IsRunning())
+        m_report.window = std::make_shared<TempPicture>(); // the other may be half of one
+    GiveUpLook();
+    ShowPicked(facts);
+}
+
+void UPopupBlockMask::GiveUpLook() {
+    m_lookLimit.stop();
+    m_capture.Cancel();
+    if (m_facts.isRunning())
+        m_reader.emplace(1);
+    m_facts.setFuture({});
     m_busy = false;
-    ShowPicked(m_facts.result());
 }
 
 void UPopupBlockMask::ShowPicked(const ProgramFacts& facts) {
@@ -169,15 +199,22 @@ void UPopupBlockMask::ShowPicked(const ProgramFacts& facts) {
     PlacePanel();
 }
 
+// Of the window's part on this screen: what another program makes reach beyond it may be of any size.
 QPixmap UPopupBlockMask::Preview() const {
+    const QRect& place = m_picked.place;
+    const QRect seen = place & m_place;
+    if (seen.isEmpty())
+        return {};
     const QString& path = m_report.window->Path();
-    if (!m_desktop.isNull()) {
-        QPixmap part = m_desktop.copy(m_picked.place.translated(-m_place.topLeft()));
+    const QPixmap picture(path, "PNG");
+    if (picture.isNull() && !m_desktop.isNull() && m_picked.IsUncovered(m_system)) {
+        QPixmap part = m_desktop.copy(seen.translated(-m_place.topLeft()));
         part.save(path, "PNG");
         return part;
     }
-    const QPixmap picture(path, "PNG");
-    return picture.isNull() ? picture : picture.scaled(m_picked.place.size());
+    return picture.copy(QTransform::fromScale(double(picture.width()) / place.width(),
+                                              double(picture.height()) / place.height())
+                            .mapRect(seen.translated(-place.topLeft())));
 }
 
 void UPopupBlockMask::SaveIcon() {
@@ -196,10 +233,12 @@ void UPopupBlockMask::Report() {
     emit Reporting();
     hide();
     m_cancellation = Cancellation();
-    m_upload.setFuture(QtConcurrent::run(
+    const UploadPopupsParams withoutPictures = report.params;
+    m_upload.setFuture(m_uploader.Run(
         [report = std::move(report), upload = m_uploadPicture, cancellation = m_cancellation]() mutable {
             return PopupReport::UploadPictures(std::move(report), upload, cancellation);
-        }));
+        },
+        withoutPictures));
 }
 
 void UPopupBlockMask::Send() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/files/Workers.h"
 #include "platform/link/PipeKey.h"
 #include "popups/PopupReport.h"
 
@@ -53,6 +54,7 @@ protected:
     void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -61,6 +63,8 @@ protected:
 private:
     void Retranslate();
     void OnLooked();
+    void EndLook();
+    void GiveUpLook();
     void ShowPicked(const ProgramFacts& facts);
     QPixmap Preview() const;
     void SaveIcon();
@@ -80,7 +84,10 @@ private:
     PickableWindow m_picked;
     PopupReport m_report;
     PopupCapture m_capture;
+    std::optional<Workers> m_reader{1}; // one that hangs is left behind
     QFutureWatcher<ProgramFacts> m_facts;
+    QTimer m_lookLimit{this};
+    Workers m_uploader{1};
     QFutureWatcher<UploadPopupsParams> m_upload;
     Cancellation m_cancellation;
     QTimer m_replyTimer{this};

@@ -177,6 +177,15 @@ TEST_F(Popups, ThatDoNotAnswerHoldNobodyUp) {
 } // namespace
 
 TEST(PopupsController, SendsWhatOtherThreadsPostAndLetsOthersWatch) {
+    struct Watcher : QObject {
+        bool eventFilter(QObject* watched, QEvent* event) override {
+            seen += watched == qApp && event->type() == PipeSendEvent::eventType();
+            return false;
+        }
+        int seen = 0;
+    } watcher;
+    QCoreApplication::instance()->installEventFilter(
+        &watcher); // before the controller: filters work the last one first
     FakeService service;
     PipeClientService link;
     PopupsController controller;
@@ -185,15 +194,6 @@ TEST(PopupsController, SendsWhatOtherThreadsPostAndLetsOthersWatch) {
     link.Start();
     ASSERT_TRUE(service.WaitForClient());
     ASSERT_TRUE(QTest::qWaitFor([&] { return link.IsConnected(); }));
-
-    struct Watcher : QObject {
-        bool eventFilter(QObject* watched, QEvent* event) override {
-            seen += watched == qApp && event->type() == PipeSendEvent::eventType();
-            return false;
-        }
-        int seen = 0;
-    } watcher;
-    QCoreApplication::instance()->installEventFilter(&watcher);
 
     IotStatusEntity entity;
     entity.status = 4;

@@ -5,7 +5,7 @@
 
 namespace {
 
-const QRect Place(800, 250, 300, 200); // above the main window, beside its menu
+const QRect Place(800, 250, 300, 200); // within the main window
 
 class PopupPickerEndToEndTest : public EndToEndTest {
 protected:
@@ -27,9 +27,6 @@ protected:
     QStringList TemporaryFiles() {
         return QDir(QString::fromStdString(product.Folder() + "/data/temp"))
             .entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
-    }
-    bool Comes(bool (PopupsPage::*state)() const) {
-        return WaitUntil([&] { return (page.*state)(); });
     }
 
     PopupsPage page{product};
@@ -54,16 +51,13 @@ TEST_F(PopupPickerEndToEndTest, ReportsAWindowWithItsPicturesOrWithout) {
     }
 }
 
-TEST_F(PopupPickerEndToEndTest, LooksThroughFullScreensRefusesItsOwnWindowsAndSurvivesThoseThatVanish) {
+TEST_F(PopupPickerEndToEndTest, SurvivesAWindowThatVanishes) {
     ASSERT_TRUE(StartBoth());
     foreign.emplace_back(product, "Offer of the day", Place);
     ASSERT_TRUE(screen->WaitForWindow("Offer of the day"));
-    const QRect window = screen->Find(MainPage::Title)->place;
     ASSERT_TRUE(page.OpenPicker());
-    screen->Click(window.topLeft() + QPoint(100, 450));
-    EXPECT_TRUE(Comes(&PopupsPage::Refuses));
     screen->Click(Place.center());
-    EXPECT_TRUE(Comes(&PopupsPage::OffersReport));
+    EXPECT_TRUE(WaitUntil([this] { return page.OffersReport(); }));
     foreign.clear(); // what was picked goes
     ASSERT_TRUE(page.Report());
     EXPECT_TRUE(product.AgentSays("PopupBlockResult"));

@@ -121,9 +121,12 @@ TEST(SystemContract, WindowsOfOtherProgramsAreToldOfDescribedAndAskedToClose) {
     };
     std::vector<WId> shown; // of the program
     auto* const watch = desktop.WatchShown([&](WId window) {
-        EXPECT_NE(window, own.winId());
-        if (desktop.ProcessOf(window) == program.processId())
-            shown.push_back(window);
+        const auto note = [&, window] {
+            EXPECT_NE(window, own.winId());
+            if (desktop.ProcessOf(window) == program.processId())
+                shown.push_back(window);
+        };
+        QMetaObject::invokeMethod(&own, note, Qt::QueuedConnection);
     });
     ASSERT_TRUE(watch);
     own.show();

@@ -16,6 +16,7 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <future>
 #include <gtest/gtest.h>
 #include <numeric>
 
@@ -48,9 +49,15 @@ struct FakeSystem : SystemDesktop, SystemProcesses, SystemPrograms {
     bool IsVisible(WId id) const override { return Of(id).visible; }
     bool IsEnabled(WId id) const override { return Of(id).enabled; }
     QString ProductNameOf(const QString&) const override { return QStringLiteral("Player"); }
-    QString SignerOf(const QString&) const override { return QStringLiteral("Example Software Ltd."); }
+    QString SignerOf(const QString& file) const override {
+        if (file.startsWith(QLatin1String("//slow/")))
+            std::shared_future<void>(answer).wait();
+        return QStringLiteral("Example Software Ltd.");
+    }
 
     std::vector<Window> windows; // the topmost first
+    std::promise<void> release;
+    std::shared_future<void> answer = release.get_future().share();
 };
 
 const QRect Place(200, 150, 300, 200);
@@ -86,6 +93,11 @@ struct Picker : testing::Test {
         };
         EXPECT_TRUE(QTest::qWaitFor([&] { return Button("reportButton") || refusal(); }, 10000));
         return Button("reportButton") ? "picks" : "refuses";
+    }
+    static void Fire(const char* name) {
+        for (QWidget* mask : QApplication::topLevelWidgets())
+            if (auto* timer = mask->findChild<QTimer*>(QLatin1String(name)); timer && timer->isActive())
+                QMetaObject::invokeMethod(timer, "timeout");
     }
     QString TempFiles() {
         return QDir(folder.filePath(QStringLiteral("temp"))).entryList(QDir::Files).join(QLatin1Char(' '));
@@ -236,12 +248,22 @@ TEST_F(Picker, ReportsWithPicturesAndTellsTheAnswer) {
         if (test.answer)
             link.Deliver(PipeKey::PopupBlockResult, test.answer);
         else
-            for (QWidget* mask : QApplication::topLevelWidgets())
-                if (auto* timer = mask->findChild<QTimer*>(QStringLiteral("popupReplyTimer"));
-                    timer && timer->isActive())
-                    QMetaObject::invokeMethod(timer, "timeout");
+            Fire("popupReplyTimer");
         EXPECT_EQ(Toast(), QLatin1String(test.toast));
     }
+}
+
+TEST_F(Picker, LeavesAProgramBehindWhoseFileCannotBeReadInTime) {
+    system.windows = {{QStringLiteral("//slow/player.exe"), {}, {}, Place}};
+    QTest::mouseClick(&Mask(), Qt::LeftButton, {}, Place.center());
+    EXPECT_FALSE(Button("reportButton"));
+    Fire("pickerLookLimit");
+    EXPECT_TRUE(Button("reportButton"));
+    system.windows = {{player, {}, {}, Place}};
+    EXPECT_EQ(Click(), "picks");
+    Button("reportButton")->click();
+    EXPECT_EQ(Reported().popSignName, "Example Software Ltd.");
+    system.release.set_value();
 }
 
 TEST_F(Picker, ClosesOnEscapeAndBelowALockAndLeavesNoFile) {

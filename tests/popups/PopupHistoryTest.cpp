@@ -38,7 +38,7 @@ struct PopupHistoryFile : testing::Test {
     void Start() {
         history.reset(); // writes
         history = std::make_unique<PopupHistory>(
-            file, [this](const PopupsTypeParams&) { return isOpen; }, clock);
+            file, [this] { return open; }, clock);
         QObject::connect(history.get(), &PopupHistory::Noticed, [this] { ++notices; });
     }
     /// Times and programs, the latest first.
@@ -52,7 +52,7 @@ struct PopupHistoryFile : testing::Test {
     QTemporaryDir folder;
     const QString file = folder.filePath(QStringLiteral("data/popups.json"));
     TestClock clock;
-    bool isOpen = false;
+    QSet<QString> open;
     int notices = 0;
     std::unique_ptr<PopupHistory> history;
 };
@@ -98,15 +98,18 @@ TEST_F(PopupHistoryFile, SaysWhichWindowsAreStillOpenAfterFiveSeconds) {
     const auto after = [&](int milliseconds) {
         clock.now = clock.now.addMSecs(milliseconds);
         QMetaObject::invokeMethod(&look, "timeout");
+        const auto* looking = history->findChild<QFutureWatcherBase*>();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return looking->isFinished(); }));
         return Story();
     };
     EXPECT_FALSE(look.isActive());
-    isOpen = true;
+    open = {PopupWindow{QStringLiteral("A"), {}, QStringLiteral("offer"), {}}.Key()};
     Close("a");
     EXPECT_EQ(after(4999), "1a today 1");
     EXPECT_EQ(after(1), "1a! today 1");
-    isOpen = false;
+    open.clear();
     EXPECT_EQ(after(5000), "1a today 1");
+    after(1000);
     EXPECT_FALSE(look.isActive());
 }
 
@@ -168,6 +171,7 @@ TEST_F(PopupsPage, ShowsWhatTheServiceSaysAndNotWhatWasClicked) {
     Close("A");
     Show();
     ASSERT_TRUE(Wrong());
+    Wrong()->setFocus();
     Wrong()->click();
     const SyncPopupsParams asked = Asked();
     EXPECT_TRUE(asked.popStatus && asked.hasOne && !asked.enable);
@@ -176,8 +180,19 @@ TEST_F(PopupsPage, ShowsWhatTheServiceSaysAndNotWhatWasClicked) {
     EXPECT_TRUE(Wrong());
     Policy(asked.WriteToString().c_str());
     EXPECT_FALSE(Wrong());
+    EXPECT_TRUE(stage.Window().focusWidget()->inherits("PopupRow"))
+        << "a second press hits no other row's button";
     Policy("no JSON");
     EXPECT_FALSE(Switch().isChecked());
+}
+
+TEST_F(PopupsPage, IsAwayWhileAWindowIsPointedAtAndBackBelowALock) {
+    Page().findChild<QPushButton*>(QStringLiteral("popupsPoint"))->click();
+    EXPECT_FALSE(stage.Window().isVisible());
+    QWidget lock;
+    lock.setProperty("TopLevel", 6);
+    lock.show();
+    EXPECT_TRUE(stage.Window().isVisible());
 }
 
 TEST_F(PopupsPage, IsWhereTheNoticeOfAClosingLeads) {

@@ -254,7 +254,8 @@ Stage::Stage(bool enrolled) : m_controller(std::make_unique<MainController>()) {
     m_controller->SetService(PipeClientService::Instance());
     const QMap<QString, ControllerBase*> controllers{{QStringLiteral("ryx"), m_controller.get()}};
     qApp->setProperty("controllers", QVariant::fromValue(controllers));
-    m_popups = std::make_unique<PopupHistory>(QString(), nullptr, Clock::System(), qApp);
+    m_popups = std::make_unique<PopupHistory>(
+        QString(), [] { return QSet<QString>(); }, Clock::System(), qApp);
     m_window = std::make_unique<MainWindow>();
     m_window->resize(1280, 720); // also where the screen is smaller
     m_window->show();

@@ -22,6 +22,7 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QMessageBox>
+#include <QRegularExpression>
 #include <QThread>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -138,6 +139,10 @@ int main(int argc, char** argv) {
     if (commands.removeAll(QStringLiteral("--rules")) > 0) {
         PrintRules();
         return 0;
+    }
+    if (!commands.filter(QRegularExpression(QStringLiteral("^-"))).isEmpty()) {
+        Say(QStringLiteral("ryx-popups [--rules] [closes|asks|refuses|hangs [COUNT][: TITLE]]... [quit]"));
+        return 2;
     }
     application.setQuitOnLastWindowClosed(!commands.isEmpty());
     for (const QString& command : commands)

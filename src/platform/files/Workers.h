@@ -19,7 +19,7 @@ public:
     template <class Work, class Result = std::invoke_result_t<Work>>
     QFuture<Result> Run(Work work, std::invoke_result_t<Work> failed) {
         return QtConcurrent::run(m_pool.get(),
-                                 [work = std::move(work), failed = std::move(failed)]() -> Result {
+                                 [work = std::move(work), failed = std::move(failed)]() mutable -> Result {
                                      try {
                                          return work();
                                      } catch (const std::exception& exception) {

@@ -24,9 +24,9 @@ public:
 
     virtual ~SystemDesktop() = default;
 
-    /// From now on `shown` is called, by this thread's event loop, for each top-level window that another
-    /// program shows, as often as it is shown. A process has one watch at a time. Null when the system
-    /// refuses.
+    /// From now on `shown` is called for each top-level window that another program shows, as often as it is
+    /// shown: by this thread's event loop or on a thread of the watch's own, and perhaps once more when the
+    /// watch has ended. A process has one watch at a time. Null when the system refuses.
     virtual Watch WatchShown(const std::function<void(WId window)>& /*shown*/) const { return nullptr; }
     /// On the thread that began it.
     virtual void EndWatch(Watch /*watch*/) const {}

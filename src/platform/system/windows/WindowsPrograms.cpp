@@ -1,5 +1,6 @@
 #include "platform/system/SystemPrograms.h"
 
+#include <algorithm>
 #include <memory>
 #include <type_traits>
 #include <vector>
@@ -28,7 +29,9 @@ struct Translation {
     WORD codePage;
 };
 
-/// The resource's text for `name`, in the first of its languages.
+constexpr DWORD LargestResource = 1 << 20;
+
+/// The resource's text for `name`, in the first of its languages. The program may have put in what it likes.
 QString VersionText(const std::vector<BYTE>& resource, const wchar_t* name) {
     Translation* translation = nullptr;
     UINT size = 0;
@@ -40,11 +43,13 @@ QString VersionText(const std::vector<BYTE>& resource, const wchar_t* name) {
                              .arg(translation->language, 4, 16, QLatin1Char('0'))
                              .arg(translation->codePage, 4, 16, QLatin1Char('0'))
                              .arg(QString::fromWCharArray(name));
-    const wchar_t* text = nullptr;
-    if (!VerQueryValueW(resource.data(), path.toStdWString().c_str(),
-                        const_cast<void**>(reinterpret_cast<const void**>(&text)), &size))
+    void* value = nullptr;
+    if (!VerQueryValueW(resource.data(), path.toStdWString().c_str(), &value, &size))
         return {};
-    return QString::fromWCharArray(text);
+    const auto* text = static_cast<const wchar_t*>(value);
+    const auto* limit = reinterpret_cast<const wchar_t*>(resource.data()) + resource.size() / sizeof(wchar_t);
+    const auto* end = std::find(text, std::min(text + size, limit), L'\0');
+    return QString::fromWCharArray(text, static_cast<int>(end - text));
 }
 
 /// The certificate of the message's first signer; null when it has none.
@@ -64,8 +69,10 @@ public:
     QString ProductNameOf(const QString& file) const override {
         const std::wstring path = file.toStdWString();
         const DWORD size = GetFileVersionInfoSizeW(path.c_str(), nullptr);
+        if (size == 0 || size > LargestResource)
+            return {};
         std::vector<BYTE> resource(size);
-        if (size == 0 || !GetFileVersionInfoW(path.c_str(), 0, size, resource.data()))
+        if (!GetFileVersionInfoW(path.c_str(), 0, size, resource.data()))
             return {};
         return VersionText(resource, L"ProductName");
     }

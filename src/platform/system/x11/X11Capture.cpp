@@ -69,7 +69,7 @@ public:
             nullptr));
         if (!pixels)
             return {Result::NoWindow, {}};
-        if (xcb_get_image_data_length(pixels.get()) < size.width() * size.height() * BytesPerPixel)
+        if (xcb_get_image_data_length(pixels.get()) < qint64(size.width()) * size.height() * BytesPerPixel)
             return {};
         return {Result::Done,
                 QImage(xcb_get_image_data(pixels.get()), size.width(), size.height(), QImage::Format_RGB32)

@@ -3,8 +3,6 @@
 #include "platform/system/x11/X11Facts.h"
 #include "platform/system/x11/X11ShownWindows.h"
 
-#include <memory>
-
 namespace {
 
 xcb_window_t Id(WId window) {
@@ -15,11 +13,10 @@ xcb_window_t Id(WId window) {
 class X11Desktop final : public SystemDesktop {
 public:
     Watch WatchShown(const std::function<void(WId)>& shown) const override {
-        auto watch = std::make_unique<X11ShownWindows>(shown);
-        return watch->IsUsable() ? watch.release() : nullptr;
+        return X11ShownWindows::Begin(shown);
     }
 
-    void EndWatch(Watch watch) const override { delete static_cast<X11ShownWindows*>(watch); }
+    void EndWatch(Watch watch) const override { static_cast<X11ShownWindows*>(watch)->End(); }
 
     /// There is nothing to wait for: a program does not tell that it has handled a message.
     void Close(WId window) const override { RequestClose(window); }

@@ -3,31 +3,38 @@
 #include "platform/system/x11/X11Facts.h"
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
-#include <QTimer>
 #include <glog/logging.h>
+#include <poll.h>
+#include <sys/eventfd.h>
+#include <thread>
+#include <unistd.h>
 #include <utility>
 
-namespace {
-
-constexpr qint64 SliceMs = 8;
-
-} // namespace
-
-X11ShownWindows::X11ShownWindows(std::function<void(WId)> shown)
-    : m_shown(std::move(shown)), m_server(xcb_connect(nullptr, nullptr)) {
-    if (!X11Connection::Get() || xcb_connection_has_error(m_server))
-        return;
-    m_notifier =
-        std::make_unique<QSocketNotifier>(xcb_get_file_descriptor(m_server), QSocketNotifier::Read, nullptr);
-    QObject::connect(m_notifier.get(), &QSocketNotifier::activated, m_notifier.get(),
-                     [this] { ReadEvents(); });
-    BeginWithWindowsThere();
+X11ShownWindows* X11ShownWindows::Begin(std::function<void(WId)> shown) {
+    auto* watch = new X11ShownWindows(std::move(shown));
+    if (!X11Connection::Get() || xcb_connection_has_error(watch->m_server)) {
+        delete watch;
+        return nullptr;
+    }
+    watch->BeginWithWindowsThere();
+    std::thread([watch] {
+        watch->Run();
+        delete watch;
+    }).detach();
+    return watch;
 }
 
+void X11ShownWindows::End() {
+    m_hasEnded = true;
+    eventfd_write(m_wakeUp, 1);
+}
+
+X11ShownWindows::X11ShownWindows(std::function<void(WId)> shown)
+    : m_shown(std::move(shown)), m_server(xcb_connect(nullptr, nullptr)), m_wakeUp(eventfd(0, EFD_CLOEXEC)) {}
+
 X11ShownWindows::~X11ShownWindows() {
-    m_notifier.reset();
     xcb_disconnect(m_server);
+    close(m_wakeUp);
 }
 
 void X11ShownWindows::BeginWithWindowsThere() {
@@ -42,8 +49,6 @@ void X11ShownWindows::BeginWithWindowsThere() {
         if (IsViewable(x11, window))
             m_showing.insert(window);
     }
-    // What came while the server answered waits in the connection, and the notifier does not see it.
-    QTimer::singleShot(0, m_notifier.get(), [this] { ReadEvents(); });
 }
 
 void X11ShownWindows::Listen(xcb_window_t window) {
@@ -51,22 +56,22 @@ void X11ShownWindows::Listen(xcb_window_t window) {
     xcb_change_window_attributes(m_server, window, XCB_CW_EVENT_MASK, &events);
 }
 
-// In slices, so that a burst of windows leaves room for painting and input.
-void X11ShownWindows::ReadEvents() {
-    QElapsedTimer clock;
-    clock.start();
-    while (const auto event = Own(xcb_poll_for_event(m_server))) {
-        Handle(*event);
-        if (clock.elapsed() >= SliceMs) {
-            QTimer::singleShot(0, m_notifier.get(), [this] { ReadEvents(); });
-            break;
+void X11ShownWindows::Run() {
+    pollfd sources[] = {{xcb_get_file_descriptor(m_server), POLLIN, 0}, {m_wakeUp, POLLIN, 0}};
+    while (!m_hasEnded) {
+        if (const auto event = Own(xcb_poll_for_event(m_server))) {
+            Handle(*event);
+            continue;
         }
+        xcb_flush(m_server);
+        if (sources[0].fd >= 0 && xcb_connection_has_error(m_server)) {
+            LOG(ERROR) << "X11ShownWindows::Run the server has ended the connection";
+            sources[0].fd = -1; // nothing comes from there any more
+        }
+        poll(sources, 2, -1);
     }
-    xcb_flush(m_server);
-    if (xcb_connection_has_error(m_server)) {
-        LOG(ERROR) << "X11ShownWindows::ReadEvents the server has ended the connection";
-        m_notifier->setEnabled(false);
-    }
+    eventfd_t calls = 0;
+    eventfd_read(m_wakeUp, &calls); // End is through with this object
 }
 
 // A window that is mapped may still lie in a frame that is not: it is seen when its visibility is told of.
