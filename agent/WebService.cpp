@@ -1,8 +1,8 @@
 #include "WebService.h"
 
+#include "entity/JsonText.h"
 #include "platform/security/LogText.h"
 #include "platform/web/WebEndpoints.h"
-#include "platform/web/WebJson.h"
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -231,7 +231,7 @@ WebService::Answer WebService::TakeFile(const std::string& fileKey, Receipt& rec
 }
 
 WebService::Answer WebService::TakeNotice(const httplib::Request& request) {
-    const auto notice = ReadObject(QByteArray::fromStdString(request.body));
+    const auto notice = ParseJsonObject(request.body);
     const std::string fileKey = notice ? TextAt(*notice, "fileKey") : std::string();
     const Json::Value fields = notice ? (*notice)["headerFields"] : Json::Value();
     const std::string tag =
@@ -250,7 +250,7 @@ WebService::Answer WebService::TellAddress(const httplib::Request& request) {
 }
 
 WebService::Answer WebService::ListLog(const httplib::Request& request) {
-    const auto notice = ReadObject(QByteArray::fromStdString(request.body));
+    const auto notice = ParseJsonObject(request.body);
     if (!notice || TextAt(*notice, "device").empty() || !m_store.Has(TextAt(*notice, "fileKey")))
         return Refusal(404, "there is no such device or file");
     m_log.Line("web log of " + LogText(TextAt(*notice, "device")) + ": " +
@@ -262,7 +262,7 @@ WebService::Answer WebService::ListLog(const httplib::Request& request) {
 }
 
 WebService::Answer WebService::TakeFeedback(const httplib::Request& request) {
-    const auto document = ReadObject(QByteArray::fromStdString(request.body));
+    const auto document = ParseJsonObject(request.body);
     if (!document || TextAt(*document, "method") != "sendFeedBack")
         return Refusal(400, "this is no feedback");
     const std::string name = m_store.KeepFeedback(request.body);

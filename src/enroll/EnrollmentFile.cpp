@@ -1,6 +1,7 @@
 #include "enroll/EnrollmentFile.h"
 
 #include "enroll/TagRules.h"
+#include "entity/JsonText.h"
 #include "platform/context/Text.h"
 #include "platform/security/LogText.h"
 
@@ -8,7 +9,6 @@
 #include <QDir>
 #include <algorithm>
 #include <glog/logging.h>
-#include <memory>
 
 namespace {
 
@@ -45,18 +45,12 @@ EnrollmentFile::State Parse(const QByteArray& text, UsbEnrollmentFile& content) 
     const QByteArray json = text.startsWith(ByteOrderMark) ? text.mid(3) : text;
     if (QString::fromUtf8(json).toUtf8() != json) // the parser does not look
         return EnrollmentFile::State::NotJson;
-    const std::unique_ptr<Json::CharReader> reader(Json::CharReaderBuilder().newCharReader());
-    Json::Value root;
-    std::string errors;
+    const auto root = ParseJson(json.toStdString());
+    if (!root)
+        return EnrollmentFile::State::NotJson;
     // A file has nobody who catches for it, as a message of the service has.
     try {
-        if (!reader->parse(json.begin(), json.end(), &root, &errors))
-            return EnrollmentFile::State::NotJson;
-    } catch (const Json::Exception&) {
-        return EnrollmentFile::State::NotJson; // nested too deeply
-    }
-    try {
-        content.ReadFromJson(root);
+        content.ReadFromJson(*root);
     } catch (const Json::Exception& error) {
         LOG(INFO) << "EnrollmentFile::FindOn " << LogText(std::string(error.what()));
         return EnrollmentFile::State::WrongFormat;

@@ -2,15 +2,13 @@
 // the rest is the body.
 
 #include "EntityCatalogue.h"
-
-#include <json/json.h>
+#include "entity/JsonText.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <iostream>
-#include <memory>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -25,17 +23,6 @@ std::vector<BodyEntity> FamilyEntities() {
             family.push_back(entity);
     }
     return family;
-}
-
-bool Parses(const std::string& text) {
-    const std::unique_ptr<Json::CharReader> reader(Json::CharReaderBuilder().newCharReader());
-    Json::Value root;
-    std::string errors;
-    try {
-        return reader->parse(text.data(), text.data() + text.size(), &root, &errors) && errors.empty();
-    } catch (const Json::Exception&) {
-        return false;
-    }
 }
 
 /// What a new entity that has read the body writes, or nothing when the body is of the wrong types.
@@ -66,14 +53,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string body(reinterpret_cast<const char*>(data) + 1, size - 1);
 
     const std::optional<std::string> written = TryRewrite(entity, body);
-    if (!Parses(body)) {
+    if (!ParseJson(body)) {
         Demand(written == entity.make()->WriteToString(), "a body that does not parse changed it", entity,
                body);
         return 0;
     }
     if (!written)
         return 0;
-    Demand(Parses(*written), "wrote what does not parse", entity, *written);
+    Demand(ParseJson(*written).has_value(), "wrote what does not parse", entity, *written);
 
     const std::optional<std::string> again = TryRewrite(entity, *written);
     if (!again)

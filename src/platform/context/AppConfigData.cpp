@@ -1,10 +1,10 @@
 #include "platform/context/AppConfigData.h"
 
+#include "entity/JsonText.h"
 #include "platform/system/SystemSession.h"
 
 #include <QFile>
 #include <algorithm>
-#include <json/json.h>
 #include <memory>
 
 namespace {
@@ -53,22 +53,15 @@ std::vector<std::string> AppConfigData::Load(const std::string& path) {
     QFile file(QString::fromStdString(path));
     if (!file.open(QIODevice::ReadOnly))
         return defaults(file.errorString().toStdString());
-    const QByteArray text = file.readAll();
-    Json::Value root;
-    std::string errors;
-    const std::unique_ptr<Json::CharReader> reader(Json::CharReaderBuilder().newCharReader());
-    try {
-        if (!reader->parse(text.begin(), text.end(), &root, &errors))
-            return defaults(errors);
-    } catch (const Json::Exception& error) { // nesting beyond the parser's limit
-        return defaults(error.what());
-    }
-    if (!root.isObject())
-        return defaults("no JSON object");
+    const std::string text = file.readAll().toStdString();
+    std::string why;
+    const auto root = ParseJsonObject(text, &why);
+    if (!root)
+        return defaults(why);
 
     std::vector<std::string> notes;
     const auto read = [&](const char* key, auto& field) {
-        const Json::Value& value = root[key];
+        const Json::Value& value = (*root)[key];
         if (!value.isNull() && !Read(value, field))
             notes.push_back("ignores \"" + std::string(key) + "\" in " + path + ": wrong type");
     };

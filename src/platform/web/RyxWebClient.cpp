@@ -1,8 +1,8 @@
 #include "platform/web/RyxWebClient.h"
 
+#include "entity/JsonText.h"
 #include "platform/security/LogText.h"
 #include "platform/web/WebEndpoints.h"
-#include "platform/web/WebJson.h"
 #include "platform/web/WebSession.h"
 
 #include <QCryptographicHash>
@@ -40,7 +40,7 @@ WebFailure Carry(const char* function, const WebSettings& settings, const TaskCo
 }
 
 Json::Value ObjectOf(const WebAnswer& answer) {
-    std::optional<Json::Value> object = ReadObject(answer.body);
+    std::optional<Json::Value> object = ParseJsonObject(answer.body.toStdString());
     if (!object)
         RefuseAnswer("the answer is no JSON object");
     return *std::move(object);

@@ -1,7 +1,7 @@
 #include "platform/web/WebExchange.h"
 
+#include "entity/JsonText.h"
 #include "platform/security/LogText.h"
-#include "platform/web/WebJson.h"
 
 #include <QRegularExpression>
 #include <QSet>
@@ -156,7 +156,7 @@ int WebExchange::Status() const {
 
 void WebExchange::ThrowFailure() {
     if (const int status = Status(); status != 0 && !IsSuccess()) {
-        const std::optional<Json::Value> answer = ReadObject(m_answer.body);
+        const std::optional<Json::Value> answer = ParseJsonObject(m_answer.body.toStdString());
         const Json::Value message = answer ? answer->get("message", Json::Value()) : Json::Value();
         const std::string said = message.isString() ? message.asString() : std::string();
         throw WebException(WebError::Refused,
