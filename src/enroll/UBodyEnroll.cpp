@@ -1,17 +1,13 @@
 #include "enroll/UBodyEnroll.h"
 
 #include "enroll/EnrollAgreement.h"
+#include "enroll/EnrollDialogs.h"
 #include "enroll/EnrollForm.h"
 #include "enroll/EnrollNameField.h"
 #include "enroll/EnrollStateMachine.h"
-#include "enroll/UBodyEnrollModal.h"
-#include "enroll/UBodyEnrollPermissionsModal.h"
 #include "enroll/UBodyEnrollTags.h"
-#include "enroll/UBodyEnrollTip.h"
-#include "enroll/UBodyEnrollUsbAlert.h"
 #include "enroll/UEnrollToast.h"
 #include "enroll/UsbEnrollment.h"
-#include "lock/UBodyEnrollUnModal.h"
 #include "platform/application/RyxWindow.h"
 #include "platform/application/UsbDetector.h"
 #include "platform/context/AppContextData.h"
@@ -47,6 +43,7 @@ Result ReadResult(const std::string& body) {
 
 UBodyEnroll::UBodyEnroll(QWidget* parent, const SystemDrives& drives)
     : EnrollView(parent),
+      m_dialogs(new EnrollDialogs(this)),
       m_detector(new UsbDetector(drives, this)),
       m_usb(new UsbEnrollment(this)),
       m_machine(new EnrollStateMachine(*this, *m_detector, this)) {
@@ -59,6 +56,9 @@ void UBodyEnroll::InitConnect() {
         if (!connected)
             FailWait();
     });
+    connect(m_dialogs, &EnrollDialogs::RetryWanted, this, &UBodyEnroll::Press);
+    connect(m_dialogs, &EnrollDialogs::UnenrolmentRequested, this, &UBodyEnroll::OnUnBindingDevice);
+    connect(m_dialogs, &EnrollDialogs::UnenrolmentNotSent, this, &UBodyEnroll::FailWait);
     connect(m_usb, &UsbEnrollment::Found, this, &UBodyEnroll::OnEnrollJsonFound);
     installEventFilter(this);
 }
@@ -124,9 +124,7 @@ bool UBodyEnroll::CheckIsAgreePrivacyPolicy() {
     if (Form().Agreement().IsAgreed())
         return true;
     ScrollToEnd();
-    if (!m_tip)
-        m_tip = new UBodyEnrollTip(this);
-    m_tip->ShowAt(&Form().Agreement().Box());
+    m_dialogs->ShowAgreementTip();
     return false;
 }
 
@@ -167,14 +165,7 @@ bool UBodyEnroll::InvokeEnrollComplete(const std::string& body) {
     }
     TakeOver(m_request);
     AppContextData::Instance()->SetPermissionList(result.permissionList);
-    if (!result.permissionList.empty()) {
-        if (!m_permissions)
-            m_permissions = new UBodyEnrollPermissionsModal(this);
-        m_permissions->SetPermissions(result.permissionList);
-        if (IsInView())
-            m_permissions->show();
-        m_permissions->EnrollSuccessfullyToast();
-    }
+    m_dialogs->ShowPermissions(result.permissionList);
     return true;
 }
 
@@ -228,10 +219,11 @@ void UBodyEnroll::CheckDeviceBindingResult(const std::string& code, bool fromBin
     if (code == "error")
         told = tr("error .");
     else if (code == NetError)
-        ShowFailure(fromBind ? ButtonState::Bind : ButtonState::Unbind, QT_TR_NOOP("dialog_bind_fail_text"),
-                    QT_TR_NOOP("dialog_disconnect_content_text"),
-                    fromBind ? QT_TR_NOOP("view_register_windows_title_bind_state")
-                             : QT_TR_NOOP("view_register_windows_title_unbind_state"));
+        m_dialogs->ShowFailure(fromBind ? ButtonState::Bind : ButtonState::Unbind,
+                               QT_TR_NOOP("dialog_bind_fail_text"),
+                               QT_TR_NOOP("dialog_disconnect_content_text"),
+                               fromBind ? QT_TR_NOOP("view_register_windows_title_bind_state")
+                                        : QT_TR_NOOP("view_register_windows_title_unbind_state"));
     else if (code == "170002" || code == "170004")
         told = tr("bind_result_no_net_error_tip");
     // The later word counts, and that of an unenrolment is the last.
@@ -295,16 +287,12 @@ void UBodyEnroll::GetConfigTags() {
 
 void UBodyEnroll::InvokeBindingUI() {
     SetEnrollUI();
-    SetButton(ButtonState::Unbind);
-    ShowEnrolled(true);
-    HideDialogs(ButtonState::Unbind);
+    ShowButton(ButtonState::Unbind);
 }
 
 void UBodyEnroll::InvokeDisConnectedUI() {
     SetEnrollUI();
-    SetButton(ButtonState::Connect);
-    ShowEnrolled(false);
-    HideDialogs(ButtonState::Connect);
+    ShowButton(ButtonState::Connect);
 }
 
 void UBodyEnroll::InvokeNoBindUI() {
@@ -319,9 +307,13 @@ void UBodyEnroll::InvokeNoBindUI() {
     Form().ClearErrors();
     SetErrorAreaVisible(false);
     SetReadOnly(false);
-    SetButton(ButtonState::Bind);
-    ShowEnrolled(false);
-    HideDialogs(ButtonState::Bind);
+    ShowButton(ButtonState::Bind);
+}
+
+void UBodyEnroll::ShowButton(ButtonState button) {
+    SetButton(button);
+    ShowEnrolled(button == ButtonState::Unbind);
+    m_dialogs->HideOthers(button, m_machine->IsIn(EnrollStates::Connecting()));
 }
 
 void UBodyEnroll::InvokeWindowHided() {
@@ -331,48 +323,13 @@ void UBodyEnroll::InvokeWindowHided() {
 }
 
 void UBodyEnroll::InvokeConnected() {
-    if (!m_unModal) {
-        m_unModal = new UBodyEnrollUnModal(this);
-        connect(m_unModal, &UBodyEnrollUnModal::UnEnrollingState, this, &UBodyEnroll::OnUnBindingDevice);
-        connect(m_unModal, &UBodyEnrollUnModal::NotSent, this, &UBodyEnroll::FailWait);
-    }
-    m_unModal->show();
+    m_dialogs->ShowUnenrolment();
 }
 
 void UBodyEnroll::InvokeDisConnected() {
-    ShowFailure(ButtonState::Connect, QT_TR_NOOP("bind_result_disconnect_error_tip"),
-                QT_TR_NOOP("dialog_connect_fail_content_text"),
-                QT_TR_NOOP("view_register_windows_button_connect"));
-}
-
-void UBodyEnroll::ShowFailure(ButtonState retry, const char* title, const char* content, const char* cancel) {
-    if (!IsInView())
-        return; // it goes with the page
-    if (!m_modal) {
-        m_modal = new UBodyEnrollModal(this);
-        connect(m_modal, &UBodyEnrollModal::OnOk, this, [this] {
-            if (m_retry != ButtonState::Connect) // which would open this dialog again
-                Press(m_retry);
-        });
-    }
-    m_retry = retry;
-    m_modal->setTitle(title);
-    m_modal->setContent(content);
-    m_modal->setOkText(QT_TR_NOOP("dialog_detect_text"));
-    m_modal->setCancelText(cancel);
-    m_modal->show();
-}
-
-void UBodyEnroll::HideDialogs(ButtonState button) {
-    const bool connecting = m_machine->IsIn(EnrollStates::Connecting());
-    if (m_modal && (m_retry != button || connecting))
-        m_modal->hide();
-    if (m_permissions && button != ButtonState::Unbind)
-        m_permissions->hide();
-    if (m_usbAlert && button != ButtonState::Bind)
-        m_usbAlert->hide();
-    if (m_tip && button != ButtonState::Bind)
-        m_tip->hide();
+    m_dialogs->ShowFailure(ButtonState::Connect, QT_TR_NOOP("bind_result_disconnect_error_tip"),
+                           QT_TR_NOOP("dialog_connect_fail_content_text"),
+                           QT_TR_NOOP("view_register_windows_button_connect"));
 }
 
 void UBodyEnroll::InvokeDeviceNameChanged(const std::string& body) {
@@ -431,11 +388,6 @@ void UBodyEnroll::FillFromUsbEnrollmentFile(const UsbEnrollmentFile& file) {
         return;
     }
     Form().Fill(file);
-    if (!m_usbAlert)
-        m_usbAlert = new UBodyEnrollUsbAlert(this);
-    m_usbAlert->SetFile(m_usb->Path());
-    if (IsInView())
-        m_usbAlert->show();
-    else // the user has left the page while the drive was read
+    if (!m_dialogs->ShowUsbFile(m_usb->Path())) // the user has left the page while the drive was read
         Window().Notify(NoticeKind::Success, tr("usb_enroll_alert_title"));
 }

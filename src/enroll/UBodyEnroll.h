@@ -5,13 +5,9 @@
 #include "entity/EnrollEntities.h"
 #include "platform/system/SystemDrives.h"
 
+class EnrollDialogs;
 class EnrollStateMachine;
 class RyxWindow;
-class UBodyEnrollModal;
-class UBodyEnrollPermissionsModal;
-class UBodyEnrollTip;
-class UBodyEnrollUnModal;
-class UBodyEnrollUsbAlert;
 class UsbDetector;
 class UsbEnrollment;
 struct EnrollmentFile;
@@ -53,6 +49,8 @@ private:
     void InvokeWindowHided() override;
 
     void InitConnect();
+    /// The state is that of `button` now.
+    void ShowButton(ButtonState button);
     /// Enters the state, and looks at the drives, when the page is needed first.
     void BeginOnce();
     void OnClickedBindButton();
@@ -70,28 +68,16 @@ private:
     void SetEnrollUI();
     void GetConfigTags();
 
-    /// The dialog for when the service cannot be reached; it offers another try of `retry`.
-    void ShowFailure(ButtonState retry, const char* title, const char* content, const char* cancel);
-    /// The state has changed: what is about another one than that of `button` goes.
-    void HideDialogs(ButtonState button);
-
     void OnEnrollJsonFound(const EnrollmentFile& file, bool mayEnroll);
     void FillFromUsbEnrollmentFile(const UsbEnrollmentFile& file);
 
     RyxWindow& Window() const;
-    bool IsInView() const { return isVisibleTo(window()); }
-
-    UBodyEnrollModal* m_modal = nullptr; // these are made when they are first needed
-    UBodyEnrollUnModal* m_unModal = nullptr;
-    UBodyEnrollPermissionsModal* m_permissions = nullptr;
-    UBodyEnrollTip* m_tip = nullptr;
-    UBodyEnrollUsbAlert* m_usbAlert = nullptr;
 
     Wait m_wait = Wait::ForNothing;
-    ButtonState m_retry = ButtonState::Bind; // what m_modal offers
     DeviceBindingParam m_request;
     bool m_firstShowDone = false;
 
+    EnrollDialogs* m_dialogs;
     UsbDetector* m_detector;
     UsbEnrollment* m_usb;
     EnrollStateMachine* m_machine;

@@ -1,5 +1,6 @@
 target_sources(ryx_user_objects PRIVATE
     ${CMAKE_CURRENT_LIST_DIR}/EnrollAgreement.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/EnrollDialogs.cpp
     ${CMAKE_CURRENT_LIST_DIR}/EnrollField.cpp
     ${CMAKE_CURRENT_LIST_DIR}/EnrollForm.cpp
     ${CMAKE_CURRENT_LIST_DIR}/EnrollNameField.cpp
