@@ -2,7 +2,6 @@
 #include "enroll/EnrollStateMachine.h"
 #include "enroll/EnrollPage.h"
 #include "platform/application/UsbDetector.h"
-#include "platform/context/AppContextData.h"
 #include "platform/link/PipeClientService.h"
 
 #include <gtest/gtest.h>
@@ -145,14 +144,6 @@ TEST_F(Machine, FollowsTheServicesMessages) {
             "status " + body, [&] { PipeClientService::Instance()->Deliver(PipeKey::IotStatusNotify, body); },
             outcomes);
     }
-}
-
-TEST_F(Machine, BeginsAsTheContextSaysAndEntersNothing) {
-    for (const bool enrolled : {true, false}) {
-        AppContextData::Instance()->SetEnrolled(enrolled);
-        EXPECT_TRUE(EnrollStateMachine(page, detector).IsIn(StateOf(enrolled ? Connected : NoEnrollYet)));
-    }
-    EXPECT_EQ(page.asked, "");
 }
 
 } // namespace
