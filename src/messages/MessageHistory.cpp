@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr qint64 LargestFile = 16 * 1024 * 1024;
+constexpr qint64 LargestFile = 64 * 1024 * 1024; // above what the longest messages take
 
 QString Utf16(const std::string& text) {
     return QString::fromStdString(text);
@@ -62,10 +62,16 @@ const Message* MessageHistory::Find(int id) const {
 }
 
 int MessageHistory::Add(Message message) {
+    if (m_messages.size() >= std::size_t(Most)) {
+        const auto seen = std::find_if(m_messages.begin(), m_messages.end(),
+                                       [](const Message& old) { return old.state != MessageState::New; });
+        const auto gone = seen == m_messages.end() ? m_messages.begin() : seen;
+        const int goneId = gone->id;
+        m_messages.erase(gone);
+        emit Removed(goneId);
+    }
     message.id = ++m_lastId;
     m_messages.push_back(message);
-    if (m_messages.size() > std::size_t(Most))
-        m_messages.erase(m_messages.begin());
     Write();
     emit Changed();
     return message.id;
@@ -84,6 +90,7 @@ void MessageHistory::Update(int id, Change change) {
 
 void MessageHistory::Remove(int id) {
     Update(id, [this](auto message) { m_messages.erase(message); });
+    emit Removed(id);
 }
 
 void MessageHistory::SetState(int id, MessageState state) {

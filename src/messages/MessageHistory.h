@@ -20,7 +20,7 @@ public:
     /// Null when it is not there any more; valid until the next change.
     const Message* Find(int id) const;
 
-    /// Takes a message, which may cost the oldest its place; returns its id.
+    /// Takes a message; returns its id. The oldest one that is not new any more may lose its place to it.
     int Add(Message message);
     void Remove(int id);
     void SetState(int id, MessageState state);
@@ -28,6 +28,8 @@ public:
 
 signals:
     void Changed();
+    /// The message is not there any more.
+    void Removed(int id);
 
 private:
     template <class Change>

@@ -4,10 +4,11 @@
 
 void MessageQueue::Add(const Turn& turn) {
     const auto rank = [](const Turn& other) {
-        return other.isAgain ? 2 : static_cast<int>(other.isEmergency);
+        return other.isEmergency ? 2 : static_cast<int>(other.isAgain);
     };
-    const auto place = std::find_if(m_turns.begin(), m_turns.end(),
-                                    [&](const Turn& other) { return rank(other) < rank(turn); });
+    const auto place = std::find_if(m_turns.begin(), m_turns.end(), [&](const Turn& other) {
+        return rank(other) < rank(turn) + static_cast<int>(turn.isAgain);
+    });
     m_turns.insert(place, turn);
 }
 

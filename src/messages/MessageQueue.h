@@ -4,7 +4,7 @@
 #include <optional>
 
 /// Whose turn it is among the messages that are to be shown: emergencies come first, and before what is shown
-/// already; else the earlier one does.
+/// already; then what the user wants to read once more, the latest wish first; then the earlier one.
 class MessageQueue {
 public:
     struct Turn {
@@ -12,7 +12,7 @@ public:
         bool isEmergency = false;
         int seconds = 0; ///< of each showing; 0: until it is closed
         int showings = 1;
-        bool isAgain = false; ///< the user wants to read it once more: it comes first, and may be closed
+        bool isAgain = false; ///< the user wants to read it once more, and may close it
         int secondsOver = 0;  ///< of this showing
     };
 

@@ -45,6 +45,7 @@ UMessageFileDialog::UMessageFileDialog(MessageHistory& history, MessageFiles& fi
     m_second.setObjectName(QStringLiteral("messageTimer"));
     m_second.setInterval(SecondMs);
     connect(&m_second, &QTimer::timeout, this, &UMessageFileDialog::OnSecond);
+    connect(&m_history, &MessageHistory::Removed, this, &UMessageFileDialog::Drop);
 }
 
 void UMessageFileDialog::Initialization() {
@@ -174,14 +175,17 @@ void UMessageFileDialog::ShowUnread() {
 }
 
 void UMessageFileDialog::ShowAgain(int id) {
-    if (!m_history.Find(id))
+    const Message* message = m_history.Find(id);
+    if (!message)
         return;
-    if (!m_queue.Contains(id)) {
+    if (!m_queue.Contains(id) || message->mayBeClosed) { // else it stays until its turns are over
         MessageQueue::Turn turn;
         turn.id = id;
+        turn.isEmergency = message->isEmergency && message->state == MessageState::New;
         turn.isAgain = true;
+        m_queue.Remove(id);
         m_queue.Add(turn);
-        if (!m_history.Find(id)->savedAs.isEmpty())
+        if (!message->savedAs.isEmpty())
             m_files.Fetch(id);
     }
     ShowCurrent();
@@ -220,10 +224,8 @@ void UMessageFileDialog::Withdraw(int operationId) {
 void UMessageFileDialog::Replace(int operationId) {
     const std::vector<Message> messages = m_history.Messages();
     for (const Message& message : messages) {
-        if (operationId == 0 || message.operationId != operationId)
-            continue;
-        Drop(message.id);
-        m_history.Remove(message.id);
+        if (operationId != 0 && message.operationId == operationId)
+            m_history.Remove(message.id);
     }
 }
 
@@ -240,11 +242,6 @@ void UMessageFileDialog::OnSecond() {
 void UMessageFileDialog::ShowCurrent() {
     const MessageQueue::Turn* turn = m_queue.Current();
     const Message* message = turn ? m_history.Find(turn->id) : nullptr;
-    if (turn && !message) { // newer ones have taken its place
-        m_queue.Remove(turn->id);
-        ShowCurrent();
-        return;
-    }
     if (!message) {
         m_second.stop();
         m_shown = 0;
