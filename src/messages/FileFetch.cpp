@@ -3,12 +3,15 @@
 #include "messages/FileNames.h"
 #include "platform/system/SystemSession.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QImageReader>
+#include <QRegularExpression>
 #include <QSet>
 #include <QStorageInfo>
 #include <QUuid>
+#include <algorithm>
 #include <glog/logging.h>
 
 namespace {
@@ -16,17 +19,29 @@ namespace {
 constexpr qint64 LargestPicture = 64 * 1024 * 1024; // in bytes
 constexpr qint64 MostPixels = 50 * 1000 * 1000;
 constexpr QSize ShownSize(1920, 1080);
+constexpr std::int64_t Piece = 1024 * 1024; // no more is written at once
+
+/// Removes what a program that was ended has left of its downloads. None of them takes a day.
+void RemoveLeftOvers(const QDir& folder) {
+    static const QRegularExpression part(QStringLiteral("^\\.[0-9a-f-]{36}\\.part"));
+    const QDateTime oldest = QDateTime::currentDateTime().addDays(-1);
+    for (const QFileInfo& file :
+         folder.entryInfoList({QStringLiteral(".*.part*")}, QDir::Files | QDir::Hidden))
+        if (part.match(file.fileName()).hasMatch() && file.lastModified() < oldest)
+            QFile::remove(file.filePath());
+}
 
 } // namespace
 
 FileFetchOutcome FetchFile(const FileFetchRequest& request, const TaskControl& control) {
     const QDir folder(request.folder);
     QDir().mkpath(request.folder);
+    RemoveLeftOvers(folder);
     const QString part =
         folder.filePath(QStringLiteral(".%1.part").arg(QUuid::createUuid().toString(QUuid::WithoutBraces)));
-    std::int64_t size = -1;
+    std::int64_t needed = Piece; // what was written is gone again when the room is looked at
     const TaskControl watched{control.cancellation, [&](std::int64_t done, std::int64_t total) {
-                                  size = total;
+                                  needed = std::max(total, done + Piece);
                                   control.Tell(done, total);
                               }};
     FileFetchOutcome outcome;
@@ -35,17 +50,16 @@ FileFetchOutcome FetchFile(const FileFetchRequest& request, const TaskControl& c
             {request.file.url, part.toStdWString(), request.maxBytes, request.file.md5}, watched, &failure)) {
         outcome.error = failure.error;
         const qint64 room = QStorageInfo(folder).bytesAvailable();
-        outcome.diskFull = failure.error == WebError::File && room >= 0 && room < qMax<qint64>(size, 4096);
+        outcome.diskFull = failure.error == WebError::File && room >= 0 && room < needed;
         return outcome;
     }
     LOG_IF(WARNING, !SystemSession::Native().MarkFromInternet(part))
         << "FetchFile could not mark a file as one from the internet";
-    outcome.path = FileNames::Place(part, FileNames::Safe(QString::fromStdString(request.file.name)));
+    if (!control.IsCancelled())
+        outcome.path = FileNames::Place(part, FileNames::Safe(QString::fromStdString(request.file.name)));
     if (outcome.path.isEmpty()) {
         QFile::remove(part);
-        outcome.error = WebError::File;
-    } else {
-        outcome.picture = ReadPicture(outcome.path);
+        outcome.error = control.IsCancelled() ? WebError::Cancelled : WebError::File;
     }
     return outcome;
 }

@@ -18,7 +18,6 @@ struct FileFetchOutcome {
     QString path;
     WebError error = WebError::None;
     bool diskFull = false;
-    QImage picture; ///< what is shown of it; null when it is no picture, or none that may be shown
 };
 
 /// Downloads the file beside its place, marks it as one from the internet, and renames it then: nothing

@@ -128,6 +128,8 @@ QString MessageFilePanel::StatusText(const MessageFile& file) const {
     case MessageFile::Stage::Saved:
         break;
     }
+    if (file.copyFailed)
+        return tr("message_file_unwritable");
     const QString& latest = file.copy.isEmpty() ? file.outcome.path : file.copy;
     const QString saved = tr("message_file_saved").arg(Breakable(QDir::toNativeSeparators(latest)));
     return m_hasDigest ? saved : saved + QLatin1Char(' ') + tr("message_file_unverified");
@@ -138,7 +140,7 @@ void MessageFilePanel::Show() {
     const bool saved = file.stage == MessageFile::Stage::Saved;
     const bool loading = file.stage == MessageFile::Stage::Loading;
     m_status->setText(StatusText(file));
-    Theme::SetProperty(m_status, "failed", file.stage == MessageFile::Stage::Failed);
+    Theme::SetProperty(m_status, "failed", file.copyFailed || file.stage == MessageFile::Stage::Failed);
     m_progress->setVisible(loading);
     m_progress->setValue(file.percent);
     m_progress->setAccessibleName(m_name->Text());
@@ -149,7 +151,7 @@ void MessageFilePanel::Show() {
     m_open->setVisible(saved && !FileNames::IsProgram(file.outcome.path));
     for (auto* button : findChildren<UTextButton*>())
         button->setText(tr(button->property("textKey").toByteArray().constData()));
-    m_image = file.outcome.picture;
+    m_image = file.picture;
     m_picture->setVisible(!m_image.isNull());
     m_picture->setAccessibleName(m_name->Text());
     ShowPicture();

@@ -15,67 +15,108 @@ constexpr int EndMs = 400; // cancelled work ends within a tenth of a second
 MessageFiles::MessageFiles(MessageHistory& history, const QString& folder, std::int64_t maxBytes)
     : m_history(history), m_folder(folder), m_maxBytes(maxBytes) {
     m_progress.setInterval(ProgressMs);
-    connect(&m_progress, &QTimer::timeout, this, &MessageFiles::LookAtProgress);
+    connect(&m_progress, &QTimer::timeout, this, &MessageFiles::TellProgress);
 }
 
 MessageFiles::~MessageFiles() {
     for (const Job& job : qAsConst(m_jobs))
         job.cancellation.Cancel();
-    m_workers.Join(QDeadlineTimer(EndMs));
+    const QDeadlineTimer end(EndMs);
+    m_downloaders.Join(end);
+    m_disk.Join(end);
 }
 
 template <class Work, class Then>
-void MessageFiles::Run(Work work, const std::invoke_result_t<Work>& failed, Then then) {
+void MessageFiles::Run(Workers& workers, Work work, const std::invoke_result_t<Work>& failed, Then then) {
     auto* watcher = new QFutureWatcher<std::invoke_result_t<Work>>(this);
     connect(watcher, &QFutureWatcherBase::finished, this, [watcher, then] {
         watcher->deleteLater();
         then(watcher->result());
     });
-    watcher->setFuture(m_workers.Run(work, failed));
+    watcher->setFuture(workers.Run(work, failed));
 }
 
 void MessageFiles::Fetch(int id) {
     const Message* message = m_history.Find(id);
     const MessageFile::Stage stage = m_jobs.value(id).file.stage;
-    if (message && message->HasFile() && stage != MessageFile::Stage::Loading &&
-        stage != MessageFile::Stage::Saved)
-        Start(id, *message);
-}
-
-void MessageFiles::Start(int id, const Message& message) {
+    if (!message || !message->HasFile() || stage == MessageFile::Stage::Loading ||
+        stage == MessageFile::Stage::Saved)
+        return;
     Job job;
     job.file.stage = MessageFile::Stage::Loading;
     m_jobs[id] = job;
+    if (const QString saved = message->savedAs; saved.isEmpty())
+        Download(id);
+    else
+        Run(
+            m_disk, [saved] { return QFileInfo(saved).isFile(); }, false,
+            [this, id, saved, cancellation = job.cancellation](bool isThere) {
+                if (cancellation.IsCancelled())
+                    return;
+                if (isThere)
+                    Settle(id, {saved});
+                else
+                    Download(id);
+            });
+    emit Changed(id);
+}
+
+void MessageFiles::Download(int id) {
+    const Message* message = m_history.Find(id);
+    if (!message)
+        return;
+    const Job job = m_jobs.value(id);
     const TaskControl control{job.cancellation,
                               [percent = job.percent](std::int64_t done, std::int64_t total) {
                                   if (total > 0)
                                       *percent = static_cast<int>(done * 100 / total);
                               }};
-    const FileFetchRequest request{message.file, m_folder, m_maxBytes};
-    const QString saved = message.savedAs;
+    const FileFetchRequest request{message->file, m_folder, m_maxBytes};
     m_progress.start();
     Run(
-        [request, control, saved] {
-            if (saved.isEmpty() || !QFileInfo(saved).isFile())
-                return FetchFile(request, control);
-            FileFetchOutcome there;
-            there.path = saved;
-            there.picture = ReadPicture(saved);
-            return there;
-        },
-        {{}, WebError::Internal, false, {}},
+        m_downloaders, [request, control] { return FetchFile(request, control); },
+        {{}, WebError::Internal, false},
         [this, id, cancellation = job.cancellation](const FileFetchOutcome& outcome) {
-            const auto mine = m_jobs.find(id);
-            if (mine == m_jobs.end() || (cancellation.IsCancelled() && outcome.path.isEmpty()))
+            if (cancellation.IsCancelled())
                 return;
-            mine->file.outcome = outcome;
-            mine->file.stage =
-                outcome.path.isEmpty() ? MessageFile::Stage::Failed : MessageFile::Stage::Saved;
             if (!outcome.path.isEmpty())
                 m_history.SetSavedAs(id, outcome.path);
+            Settle(id, outcome);
+        });
+}
+
+void MessageFiles::Settle(int id, const FileFetchOutcome& outcome) {
+    MessageFile& file = m_jobs[id].file;
+    file.outcome = outcome;
+    file.stage = outcome.path.isEmpty() ? MessageFile::Stage::Failed : MessageFile::Stage::Saved;
+    if (id == m_lookedAt)
+        FindPicture();
+    emit Changed(id);
+}
+
+// A picture takes megabytes, and many messages may wait: it is kept for the one that is on screen.
+void MessageFiles::LookAt(int id) {
+    if (id == m_lookedAt)
+        return;
+    if (const auto before = m_jobs.find(m_lookedAt); before != m_jobs.end())
+        before->file.picture = {};
+    m_lookedAt = id;
+    FindPicture();
+}
+
+void MessageFiles::FindPicture() {
+    const QString path = Of(m_lookedAt).outcome.path;
+    if (path.isEmpty())
+        return;
+    Run(
+        m_disk, [path] { return ReadPicture(path); }, {},
+        [this, id = m_lookedAt](const QImage& picture) {
+            const auto job = m_jobs.find(id);
+            if (id != m_lookedAt || job == m_jobs.end())
+                return;
+            job->file.picture = picture;
             emit Changed(id);
         });
-    emit Changed(id);
 }
 
 void MessageFiles::Cancel(int id) {
@@ -98,17 +139,20 @@ MessageFile MessageFiles::Of(int id) const {
 }
 
 void MessageFiles::CopyTo(int id, const QString& target) {
-    Run([from = Of(id).outcome.path, target] { return FileNames::Copy(from, target); }, {},
+    Run(
+        m_disk, [from = Of(id).outcome.path, target] { return FileNames::Copy(from, target); }, {},
         [this, id](const QString& copy) {
             const auto job = m_jobs.find(id);
             if (job == m_jobs.end())
                 return;
-            job->file.copy = copy;
+            job->file.copyFailed = copy.isEmpty();
+            if (!copy.isEmpty())
+                job->file.copy = copy;
             emit Changed(id);
         });
 }
 
-void MessageFiles::LookAtProgress() {
+void MessageFiles::TellProgress() {
     bool loading = false;
     for (auto job = m_jobs.begin(); job != m_jobs.end(); ++job) {
         if (job->file.stage != MessageFile::Stage::Loading)

@@ -16,11 +16,14 @@ struct MessageFile {
     Stage stage = Stage::Absent;
     int percent = 0; ///< while loading
     FileFetchOutcome outcome;
-    QString copy; ///< path of the copy that was made last
+    QImage picture;          ///< what the file shows, while it is looked at; null when it is no picture
+    QString copy;            ///< path of the copy that was made last
+    bool copyFailed = false; ///< the last wish for a copy
 };
 
-/// Fetches the files of messages on threads of its own, and keeps in the history where they are. What still
-/// runs at the end of the program is cancelled, and left behind if it does not end soon. GUI thread.
+/// Fetches the files of messages on threads of its own, and keeps in the history where they are. What is on
+/// the disk waits for no download. What still runs at the end of the program is cancelled, and left behind if
+/// it does not end soon. GUI thread.
 class MessageFiles : public QObject {
     Q_OBJECT
 
@@ -35,6 +38,8 @@ public:
     /// The message is no more; its file stays if it is there.
     void Forget(int id);
     MessageFile Of(int id) const;
+    /// The one message whose file the user sees; 0: none.
+    void LookAt(int id);
 
     /// Copies the saved file to `target` without overwriting anything.
     void CopyTo(int id, const QString& target);
@@ -50,14 +55,18 @@ private:
     };
 
     template <class Work, class Then>
-    void Run(Work work, const std::invoke_result_t<Work>& failed, Then then);
-    void Start(int id, const Message& message);
-    void LookAtProgress();
+    void Run(Workers& workers, Work work, const std::invoke_result_t<Work>& failed, Then then);
+    void Download(int id);
+    void Settle(int id, const FileFetchOutcome& outcome);
+    void FindPicture();
+    void TellProgress();
 
     MessageHistory& m_history;
     QString m_folder;
     std::int64_t m_maxBytes;
-    Workers m_workers{2};
+    Workers m_downloaders{2};
+    Workers m_disk{1};
     QHash<int, Job> m_jobs;
+    int m_lookedAt = 0;
     QTimer m_progress{this};
 };

@@ -245,6 +245,7 @@ void UMessageFileDialog::ShowCurrent() {
     if (!message) {
         m_second.stop();
         m_shown = 0;
+        m_files.LookAt(0);
         hide();
         return;
     }
@@ -284,6 +285,7 @@ void UMessageFileDialog::Fill(const Message& message) {
     m_text->setAccessibleName(title);
     m_text->setVisible(!message.text.isEmpty());
     m_file->setVisible(message.HasFile());
+    m_files.LookAt(message.HasFile() ? message.id : 0);
     if (message.HasFile())
         m_file->SetMessage(message);
     m_note->setText(MayBeClosed() ? QString() : tr("message_kept_open"));

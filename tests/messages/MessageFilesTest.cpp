@@ -88,6 +88,11 @@ TEST(FileNames, NamesFromElsewhereAreHarmless) {
 
 TEST_F(MessageFilesTest, EveryFaultIsToldAndLeavesNothingBehind) {
     Write(QStringLiteral("a"), QByteArray(300000, 'a') + QByteArray(300000, 'b'));
+    QDir(folder.path()).mkdir(QStringLiteral("in"));
+    QFile left(Path(QStringLiteral("in/.01234567-89ab-cdef-0123-456789abcdef.part.Xy")));
+    ASSERT_TRUE(left.open(QIODevice::WriteOnly));
+    left.setFileTime(QDateTime::currentDateTime().addDays(-2), QFileDevice::FileModificationTime);
+    left.close();
     const struct {
         const char* fault;
         WebError error;
@@ -123,6 +128,8 @@ TEST_F(MessageFilesTest, EveryFaultIsToldAndLeavesNothingBehind) {
     EXPECT_EQ(saved, Path(QStringLiteral("in/a.pdf")));
     files.CopyTo(1, saved);
     EXPECT_TRUE(QTest::qWaitFor([&] { return files.Of(1).copy == Path(QStringLiteral("in/a (4).pdf")); }));
+    files.CopyTo(1, Path(QStringLiteral("nowhere/a.pdf")));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return files.Of(1).copyFailed; }));
 }
 
 TEST_F(MessageFilesTest, ADownloadIsCancelledAndBegunAgain) {
@@ -154,15 +161,14 @@ TEST_F(MessageFilesTest, APictureIsKnownByItsContent) {
     const struct {
         const char* file;
         QSize size;
-    } cases[] = {{"picture", {1920, 960}}, {"broken", {}}, {"bomb", {}}, {"text", {}}};
-    for (const auto& row : cases) {
-        const MessageFile fetched = Fetch(Offer(QLatin1String(row.file), "a.pdf"));
-        EXPECT_EQ(fetched.stage, MessageFile::Stage::Saved) << row.file;
-        EXPECT_EQ(fetched.outcome.picture.size().isEmpty(), row.size.isEmpty()) << row.file;
-        if (!row.size.isEmpty()) {
-            EXPECT_EQ(fetched.outcome.picture.size(), row.size);
-        }
-    }
+    } cases[] = {{"picture", {1920, 960}}, {"broken", {0, 0}}, {"bomb", {0, 0}}, {"text", {0, 0}}};
+    for (const auto& row : cases)
+        EXPECT_EQ(ReadPicture(Path(QLatin1String(row.file))).size(), row.size) << row.file;
+    files.LookAt(1);
+    Fetch(Offer(QStringLiteral("picture"), "a.pdf"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !files.Of(1).picture.isNull(); }));
+    files.LookAt(0);
+    EXPECT_TRUE(files.Of(1).picture.isNull()) << "kept while it is seen";
 }
 
 } // namespace

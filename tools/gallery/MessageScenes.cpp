@@ -8,6 +8,7 @@
 #include <QImage>
 #include <QLinearGradient>
 #include <QPainter>
+#include <QTimer>
 #include <QUuid>
 
 namespace {
@@ -45,8 +46,10 @@ public:
         }
         m_history.Add(message);
         m_dialog.ShowUnread();
-        WaitFor(
-            [&] { return m_files.Of(m_history.Messages().back().id).stage != MessageFile::Stage::Loading; });
+        WaitFor([&] {
+            const MessageFile file = m_files.Of(m_history.Messages().back().id);
+            return file.stage != MessageFile::Stage::Loading && file.picture.isNull() != isPicture;
+        });
     }
     UMessageFileDialog& Dialog() { return m_dialog; }
     MessageHistory& History() { return m_history; }
@@ -109,6 +112,8 @@ QVector<Scene> MessageScenes() {
              auto messages = std::make_shared<MessageStage>();
              messages->Send("The library closes at six today.");
              messages->Send("The network is being repaired.", false, true, 7);
+             QMetaObject::invokeMethod(messages->Dialog().findChild<QTimer*>(QStringLiteral("messageTimer")),
+                                       "timeout");
              messages->Dialog().close();
              messages->Send(LongText);
              MessageRequest withdrawal;
