@@ -4,6 +4,7 @@
 
 #include <QRegularExpression>
 #include <QScroller>
+#include <QTextBoundaryFinder>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextOption>
@@ -11,12 +12,22 @@
 namespace {
 
 constexpr int LowestHeight = 88;
+constexpr int LongestWord = 1000;
 
 /// What ends a sentence or a bracket does not belong to the address before it.
 QString WithoutPunctuation(QString address) {
     while (!address.isEmpty() && QStringLiteral(".,;:!?)]}'\"").contains(address.back()))
         address.chop(1);
     return address;
+}
+
+/// Whether there is a word so long that looking for its end on each line takes seconds.
+bool HasEndlessWord(const QString& text) {
+    QTextBoundaryFinder ends(QTextBoundaryFinder::Line, text);
+    for (int begin = 0, end = 0; (end = ends.toNextBoundary()) >= 0; begin = end)
+        if (end - begin > LongestWord)
+            return true;
+    return false;
 }
 
 bool IsWebPage(const QUrl& address) {
@@ -33,7 +44,6 @@ MessageText::MessageText(QWidget* parent) : QTextBrowser(parent) {
     setUndoRedoEnabled(false);
     QTextOption option = document()->defaultTextOption();
     option.setTextDirection(Qt::LayoutDirectionAuto);
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     document()->setDefaultTextOption(option);
     QScroller::grabGesture(viewport(), QScroller::TouchGesture);
     connect(this, &QTextBrowser::anchorClicked, this, [this](const QUrl& address) {
@@ -47,10 +57,16 @@ QSize MessageText::sizeHint() const {
 }
 
 void MessageText::SetText(const QString& text) {
-    static const QRegularExpression addresses(QStringLiteral("\\bhttps?://[^\\s<>\"]+"),
-                                              QRegularExpression::CaseInsensitiveOption);
+    // Languages without blanks go on behind an address: their punctuation ends it, and so does what is
+    // unseen.
+    static const QRegularExpression addresses(
+        QStringLiteral(R"(\bhttps?://(?:[^\s<>"\x{80}-\x{10FFFF}]|[\p{L}\p{M}\p{N}])++)"),
+        QRegularExpression::CaseInsensitiveOption);
     clear();
+    setWordWrapMode(HasEndlessWord(text) ? QTextOption::WrapAnywhere
+                                         : QTextOption::WrapAtWordBoundaryOrAnywhere);
     QTextCursor cursor(document());
+    cursor.beginEditBlock(); // else each piece would lay its whole paragraph out again
     int written = 0;
     for (auto matches = addresses.globalMatch(text); matches.hasNext();) {
         const QRegularExpressionMatch match = matches.next();
@@ -68,5 +84,6 @@ void MessageText::SetText(const QString& text) {
         written = match.capturedStart() + words.size();
     }
     cursor.insertText(text.mid(written), QTextCharFormat());
+    cursor.endEditBlock();
     moveCursor(QTextCursor::Start);
 }
