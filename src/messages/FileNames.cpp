@@ -95,17 +95,14 @@ QString FileNames::Safe(const QString& name) {
 bool FileNames::IsProgram(const QString& name) {
     static const QSet<QString> suffixes = [] {
         const QString all = QStringLiteral(
-            "exe com scr pif bat cmd ps1 psm1 psd1 ps1xml vb vbs vbe js jse mjs ws wsf wsh wsc sct hta msi "
-            "msp mst msc "
-            "msu cpl dll ocx sys drv jar jnlp lnk url reg inf ins isp scf job chm hlp mht mhtml html htm "
-            "xhtml svg shb "
-            "shs application appref-ms settingcontent-ms library-ms search-ms searchconnector-ms theme "
-            "themepack "
-            "deskthemepack diagcab diagcfg gadget appx appxbundle msix msixbundle appinstaller xll xlam ppam "
-            "iqy rdp "
+            "exe com scr pif bat cmd ps1 ps2 psm1 psd1 psc1 ps1xml vb vbs vbe js jse mjs ws wsf wsh wsc sct "
+            "hta msi msp mst msc msu cpl dll ocx sys drv jar jnlp lnk url website reg inf ins isp scf job "
+            "chm hlp mht mhtml html htm xhtml svg shb shs application appref-ms appcontent-ms cab cdxml "
+            "settingcontent-ms library-ms search-ms searchconnector-ms theme themepack deskthemepack udl "
+            "diagcab diagcfg diagpkg gadget appx appxbundle msix msixbundle appinstaller xbap xll xla xlam "
+            "ppa ppam wll docm dotm xlsm xltm pptm potm slk iqy oqy one mde mdb ade adp accdb accde rdp wsb "
             "iso img vhd vhdx wim sh bash zsh csh ksh fish run bin out py pyc pyw pyz pl pm rb tcl lua php "
-            "desktop "
-            "service deb rpm apk appimage snap flatpak flatpakref docm dotm xlsm xltm pptm potm");
+            "desktop service deb rpm apk appimage snap flatpak flatpakref");
         const QStringList list = all.split(QLatin1Char(' '));
         return QSet<QString>(list.begin(), list.end());
     }();

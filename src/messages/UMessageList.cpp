@@ -63,7 +63,8 @@ void UMessageList::Fill() {
     m_list->setAccessibleName(title);
     m_none->setText(tr("messages_none"));
     m_none->setVisible(m_history.Messages().empty());
-    const int row = m_list->currentRow();
+    const QListWidgetItem* current = m_list->currentItem();
+    const int currentId = current ? current->data(Qt::UserRole).toInt() : 0;
     m_list->clear();
     for (const Message& message : m_history.Messages()) {
         const QString time =
@@ -72,8 +73,11 @@ void UMessageList::Fill() {
             QStringLiteral("%1 · %2\n%3").arg(time, tr(StateKey(message.state)), Words(message)));
         item->setData(Qt::UserRole, message.id);
         m_list->insertItem(0, item);
+        if (message.id == currentId)
+            m_list->setCurrentItem(item);
     }
-    m_list->setCurrentRow(qMin(qMax(row, 0), m_list->count() - 1));
+    if (m_list->currentRow() < 0)
+        m_list->setCurrentRow(0);
 }
 
 void UMessageList::changeEvent(QEvent* event) {
