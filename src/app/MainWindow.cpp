@@ -57,7 +57,7 @@ void MainWindow::Initialize() {
     m_tray->show();
 
     setWindowTitle(QString::fromLatin1(Product::Name));
-    setWindowIcon(m_tray->icon());
+    QApplication::setWindowIcon(m_tray->icon()); // messages and their list have it, too
     setMinimumSize(SmallestWindow);
     FitScreen();
     ApplyTheme();

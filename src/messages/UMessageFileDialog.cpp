@@ -1,5 +1,6 @@
 #include "messages/UMessageFileDialog.h"
 
+#include "messages/FileNames.h"
 #include "messages/MessageFilePanel.h"
 #include "messages/MessageText.h"
 #include "platform/application/WindowStack.h"
@@ -90,7 +91,6 @@ void UMessageFileDialog::Initialization() {
     connect(m_text, &MessageText::AddressChosen, this, &UMessageFileDialog::ShowAddress);
     connect(Theme::Instance(), &Theme::Changed, this, &UMessageFileDialog::LanguageChanges);
     WindowStack::Instance()->PushWindow(this);
-    PlaceOnScreen();
 }
 
 QWidget* UMessageFileDialog::MakeHead() {
@@ -230,9 +230,10 @@ void UMessageFileDialog::Replace(int operationId) {
 }
 
 void UMessageFileDialog::OnSecond() {
+    m_isFresh = false;
     if (WindowStack::Instance()->IsLocked())
         return;
-    if (isVisible())
+    if (isVisible() && !isMinimized())
         if (const auto over = m_queue.PassSecond())
             m_history.SetState(*over, MessageState::Read);
     ShowCurrent();
@@ -256,26 +257,38 @@ void UMessageFileDialog::ShowCurrent() {
     if (!m_text)
         Initialization();
     const bool isNew = m_shown != message->id;
-    if (isNew)
+    if (isNew) {
         m_addressPanel->hide();
+        m_isFresh = true;
+        m_second.start();
+    }
     m_shown = message->id;
     if (isNew || !isVisible())
         Fill(*message);
+    ShowCount();
+    if (!isVisible()) {
+        PlaceOnScreen(); // the screens may have changed
+        show();
+    }
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    if (isNew) {
+        raise();
+        AnnounceAlert(this);
+    }
+}
+
+void UMessageFileDialog::ShowCount() {
     m_count->setText(
         tr("message_count").arg(LanguageHelper::Instance()->Locale().toString(m_queue.Waiting())));
     m_count->setVisible(m_queue.Waiting() > 0);
-    if (!isVisible())
-        show();
-    if (isNew)
-        AnnounceAlert(this);
 }
 
 void UMessageFileDialog::Fill(const Message& message) {
     const QString title = message.isEmergency ? tr("message_title_emergency") : tr("message_title");
     setWindowTitle(title);
     setAccessibleName(title);
-    setAccessibleDescription(message.text.isEmpty() ? QString::fromStdString(message.file.name)
-                                                    : message.text);
+    setAccessibleDescription(
+        message.text.isEmpty() ? FileNames::Safe(QString::fromStdString(message.file.name)) : message.text);
     m_icon->SetIcon(message.isEmergency ? QStringLiteral("warning") : QStringLiteral("message"),
                     message.isEmergency ? QStringLiteral("danger") : QStringLiteral("accent"));
     m_title->setText(title);
@@ -319,7 +332,7 @@ bool UMessageFileDialog::MayBeClosed() const {
 
 void UMessageFileDialog::CloseCurrent() {
     const MessageQueue::Turn* turn = m_queue.Current();
-    if (!turn || !MayBeClosed())
+    if (!turn || m_isFresh || !MayBeClosed())
         return;
     const int id = turn->id;
     m_queue.Remove(id);
@@ -342,9 +355,11 @@ void UMessageFileDialog::keyPressEvent(QKeyEvent* event) {
 }
 
 void UMessageFileDialog::LanguageChanges() {
-    m_shown = 0;
-    if (isVisible())
-        ShowCurrent();
+    const Message* message = isVisible() ? m_history.Find(m_shown) : nullptr;
+    if (!message)
+        return;
+    Fill(*message);
+    ShowCount();
 }
 
 void UMessageFileDialog::changeEvent(QEvent* event) {

@@ -53,6 +53,7 @@ private:
     void Drop(int id);
     void OnSecond();
     void ShowCurrent();
+    void ShowCount();
     void Fill(const Message& message);
     void ShowAddress(const QUrl& address);
     void PlaceOnScreen();
@@ -65,7 +66,8 @@ private:
     const Clock& m_clock;
     MessageQueue m_queue;
     QTimer m_second{this};
-    int m_shown = 0; // the message that the parts show
+    int m_shown = 0;        // the message that the parts show
+    bool m_isFresh = false; // it came within the last second: what is pressed now may be meant for another
     QUrl m_address;
     UIconLabel* m_icon = nullptr;
     QLabel* m_title = nullptr;

@@ -42,6 +42,11 @@ protected:
             if (timer->isActive())
                 QMetaObject::invokeMethod(timer, "timeout");
     }
+    /// As the user does who has seen the message.
+    void Close() {
+        PassSeconds(1);
+        dialog->close();
+    }
     /// The text on screen; "-" when there is no window.
     std::string Shown() const {
         auto* text = dialog->findChild<QTextBrowser*>();
@@ -95,6 +100,9 @@ TEST_F(MessageDialog, WhatIsThereDecidesWhatABodyIs) {
         EXPECT_EQ(Find<QWidget>("messageFileName").isVisible(), row.hasFile) << row.body;
         EXPECT_EQ(Find<QPushButton>("okButton").isVisible(), row.closable) << row.body;
         QTest::keyClick(dialog.get(), Qt::Key_Escape);
+        EXPECT_EQ(Shown(), row.text) << "it has just come";
+        PassSeconds(1);
+        QTest::keyClick(dialog.get(), Qt::Key_Escape);
         EXPECT_EQ(dialog->isVisible(), !row.closable) << row.body;
         dialog->close();
         EXPECT_EQ(dialog->isVisible(), !row.closable) << row.body;
@@ -139,6 +147,9 @@ TEST_F(MessageDialog, UnderALockNothingIsShownAndNoTimePasses) {
     PassSeconds(9);
     EXPECT_EQ(Shown(), "before");
     lock.hide();
+    dialog->showMinimized();
+    PassSeconds(1);
+    EXPECT_FALSE(dialog->isMinimized());
     PassSeconds(2);
     EXPECT_EQ(Shown(), "-");
     lock.show();
@@ -155,7 +166,7 @@ TEST_F(MessageDialog, TheLastFiftyAreKeptAndAnUnreadOneIsShownAfterARestart) {
     for (int i = 0; i < 52; ++i) {
         Send(R"({"jobStatus": true, "text": "no. )" + std::to_string(i) + "\"}");
         if (i < 51)
-            dialog->close();
+            Close();
     }
     EXPECT_EQ(history->Messages().size(), 50u);
     EXPECT_EQ(history->Messages().front().text, QStringLiteral("no. 2"));
@@ -170,22 +181,34 @@ TEST_F(MessageDialog, TheLastFiftyAreKeptAndAnUnreadOneIsShownAfterARestart) {
     EXPECT_TRUE(rows->item(5)->text().contains(QStringLiteral("Read\nno. 47")));
     emit rows->itemActivated(rows->item(5));
     EXPECT_EQ(Shown(), "no. 47");
-    dialog->close();
-    EXPECT_EQ(Shown(), "no. 51");
+    Send(R"({"text": "fire"})");
+    EXPECT_EQ(Shown(), "fire");
+    Close();
+    emit rows->itemActivated(rows->item(2)); // which waits
+    for (const char* next : {"no. 51", "no. 47", "مرحبا 123 😀"}) {
+        EXPECT_EQ(Shown(), next);
+        Close();
+    }
+    Message old;
+    old.state = MessageState::Read;
+    for (int i = 0; i < 60; ++i)
+        history->Add(old);
+    EXPECT_EQ(Shown(), "مرحبا 123 😀") << "what was not read is kept";
     Send(R"({"operationId": 9, "jobStatus": false})");
-    EXPECT_TRUE(rows->item(0)->text().contains(QStringLiteral("Withdrawn")));
+    EXPECT_TRUE(rows->item(49)->text().contains(QStringLiteral("Withdrawn")));
 }
 
 TEST_F(MessageDialog, AnAddressIsFollowedOnlyAfterAllOfItWasShown) {
     Send(
-        R"({"text": "See https://a.example/x?y=1, (HTTP://B.example) file:///etc/passwd javascript:x https://bücher.example/a."})");
+        R"({"text": "See https://a.example/x?y=1, (HTTP://B.example) file:///etc/passwd javascript:x https://bücher.example/a. 看https://c.example/d。谢"})");
     QStringList addresses;
     const QTextDocument* document = dialog->findChild<QTextBrowser*>()->document();
     for (auto part = document->begin().begin(); !part.atEnd(); ++part)
         if (part.fragment().charFormat().isAnchor())
             addresses.append(part.fragment().charFormat().anchorHref());
-    EXPECT_EQ(addresses.join(QLatin1Char(' ')), QStringLiteral("https://a.example/x?y=1 http://b.example "
-                                                               "https://xn--bcher-kva.example/a"));
+    EXPECT_EQ(addresses.join(QLatin1Char(' ')),
+              QStringLiteral("https://a.example/x?y=1 http://b.example "
+                             "https://xn--bcher-kva.example/a https://c.example/d"));
     auto& panel = Find<QWidget>("messageAddress");
     for (const char* address : {"file:///etc/passwd", "https://a.example/x?y=1"}) {
         EXPECT_FALSE(panel.isVisible());

@@ -5,6 +5,8 @@
 #include <QColor>
 
 void MessageWindow::PressOk() const {
+    // A message that has just come cannot be closed yet.
+    WaitUntil([this] { return !IsThere(); }, std::chrono::milliseconds(1500));
     WaitUntil([this] {
         const auto window = m_desktop.Find(Title);
         if (!window)
