@@ -145,7 +145,7 @@ void MessageFilePanel::Show() {
     m_progress->setValue(file.percent);
     m_progress->setAccessibleName(m_name->Text());
     m_cancel->setVisible(loading);
-    m_again->setVisible(!saved && !loading);
+    m_again->setVisible(!saved && !loading && file.outcome.error != WebError::NotAllowed);
     m_showInFolder->setVisible(saved);
     m_saveAs->setVisible(saved);
     m_open->setVisible(saved && !FileNames::IsProgram(file.outcome.path));

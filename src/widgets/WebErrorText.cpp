@@ -12,6 +12,8 @@ QString WebErrorText(WebError error) {
         return Text("web_error_unreachable");
     case WebError::NotTrusted:
         return Text("web_error_not_trusted");
+    case WebError::NotAllowed:
+        return Text("web_error_not_allowed");
     case WebError::TimedOut:
         return Text("web_error_timed_out");
     case WebError::Refused:

@@ -123,7 +123,7 @@ TEST_F(MessageFilesTest, EveryFaultIsToldAndLeavesNothingBehind) {
     interpreter.Add("web file ok");
     Message message = Offer(QStringLiteral("a"), "b");
     message.file.url = "http://198.51.100.7/b";
-    EXPECT_EQ(Fetch(message).outcome.error, WebError::NotTrusted);
+    EXPECT_EQ(Fetch(message).outcome.error, WebError::NotAllowed);
     const QString saved = history.Messages().front().savedAs;
     EXPECT_EQ(saved, Path(QStringLiteral("in/a.pdf")));
     files.CopyTo(1, saved);

@@ -13,7 +13,8 @@ enum class WebError {
     Cancelled,     ///< the caller's wish
     NotConfigured, ///< the configuration names no service, or not how it can be reached
     Unreachable,   ///< no connection, or it broke
-    NotTrusted,    ///< the server could not prove who it is, or an address is neither https nor allowed
+    NotTrusted,    ///< the server could not prove who it is
+    NotAllowed,    ///< an address is neither https nor allowed, or the server redirects to another host
     TimedOut,      ///< silence, or the call's time was over
     Refused,       ///< the service answered with an error
     BadAnswer,     ///< the answer is not what it should be, or is too large

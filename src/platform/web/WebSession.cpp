@@ -208,7 +208,7 @@ WebAnswer WebSession::FollowRedirects(WebRequest request, const Sink& sink, WebP
             throw WebException(WebError::Refused, "the server redirects without end");
         if (target.host() != request.url.host() ||
             (request.url.scheme() == QLatin1String("https") && target.scheme() != QLatin1String("https")))
-            throw WebException(WebError::NotTrusted,
+            throw WebException(WebError::NotAllowed,
                                "the server redirects to another host, or to one without TLS");
         if (request.method != "GET" && !exchange.KeepsMethod())
             throw WebException(WebError::Refused, "the server redirects in a way that loses what is sent");
@@ -218,7 +218,7 @@ WebAnswer WebSession::FollowRedirects(WebRequest request, const Sink& sink, WebP
 
 QNetworkReply* WebSession::Start(const WebRequest& request) {
     if (!m_settings.Allow(request.url))
-        throw WebException(WebError::NotTrusted,
+        throw WebException(WebError::NotAllowed,
                            "the address is not allowed: " +
                                LogText(request.url.toString(QUrl::RemoveUserInfo | QUrl::RemoveQuery)));
     QNetworkRequest head(request.url);

@@ -80,6 +80,10 @@
         <translation>تعذّرت قراءة الملف أو تغيّر أثناء ذلك.</translation>
     </message>
     <message>
+        <source>web_error_not_allowed</source>
+        <translation>هذا العنوان غير مسموح به.</translation>
+    </message>
+    <message>
         <source>web_error_not_configured</source>
         <translation>لم يُضبط الاتصال بالخدمة على هذا الجهاز ضبطًا صحيحًا.</translation>
     </message>

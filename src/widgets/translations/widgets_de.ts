@@ -80,6 +80,10 @@
         <translation>Die Datei ließ sich nicht lesen oder hat sich währenddessen geändert.</translation>
     </message>
     <message>
+        <source>web_error_not_allowed</source>
+        <translation>Diese Adresse ist nicht erlaubt.</translation>
+    </message>
+    <message>
         <source>web_error_not_configured</source>
         <translation>Die Verbindung zum Dienst ist auf diesem Gerät nicht richtig eingerichtet.</translation>
     </message>

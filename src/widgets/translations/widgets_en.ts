@@ -80,6 +80,10 @@
         <translation>The file could not be read, or changed meanwhile.</translation>
     </message>
     <message>
+        <source>web_error_not_allowed</source>
+        <translation>This address is not allowed.</translation>
+    </message>
+    <message>
         <source>web_error_not_configured</source>
         <translation>The connection to the service is not set up correctly on this device.</translation>
     </message>

@@ -80,6 +80,10 @@
         <translation>El archivo no se pudo leer o cambió mientras tanto.</translation>
     </message>
     <message>
+        <source>web_error_not_allowed</source>
+        <translation>Esta dirección no está permitida.</translation>
+    </message>
+    <message>
         <source>web_error_not_configured</source>
         <translation>La conexión con el servicio no está bien configurada en este dispositivo.</translation>
     </message>

@@ -80,6 +80,10 @@
         <translation>Le fichier n’a pas pu être lu ou a changé entre-temps.</translation>
     </message>
     <message>
+        <source>web_error_not_allowed</source>
+        <translation>Cette adresse n’est pas autorisée.</translation>
+    </message>
+    <message>
         <source>web_error_not_configured</source>
         <translation>La connexion au service n’est pas configurée correctement sur cet appareil.</translation>
     </message>

@@ -80,6 +80,10 @@
         <translation>ファイルを読み取れないか、途中で変更されました。</translation>
     </message>
     <message>
+        <source>web_error_not_allowed</source>
+        <translation>このアドレスは許可されていません。</translation>
+    </message>
+    <message>
         <source>web_error_not_configured</source>
         <translation>このデバイスでは、サービスへの接続が正しく設定されていません。</translation>
     </message>

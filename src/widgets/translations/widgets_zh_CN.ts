@@ -80,6 +80,10 @@
         <translation>无法读取文件，或文件在此期间已更改。</translation>
     </message>
     <message>
+        <source>web_error_not_allowed</source>
+        <translation>不允许使用此地址。</translation>
+    </message>
+    <message>
         <source>web_error_not_configured</source>
         <translation>此设备未正确配置与服务的连接。</translation>
     </message>
