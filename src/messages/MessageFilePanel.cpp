@@ -81,6 +81,7 @@ MessageFilePanel::MessageFilePanel(MessageFiles& files, QWidget* parent)
     column->addWidget(m_status);
     column->addWidget(m_progress);
     column->addLayout(buttons);
+    column->addStretch();
     connect(&m_files, &MessageFiles::Changed, this, [this](int id) {
         if (id == m_id)
             Show();
