@@ -46,6 +46,7 @@ UMessageFileDialog::UMessageFileDialog(MessageHistory& history, MessageFiles& fi
     m_second.setObjectName(QStringLiteral("messageTimer"));
     m_second.setInterval(SecondMs);
     connect(&m_second, &QTimer::timeout, this, &UMessageFileDialog::OnSecond);
+    connect(&m_files, &MessageFiles::Changed, this, &UMessageFileDialog::OnFileChanged);
     connect(&m_history, &MessageHistory::Removed, this, &UMessageFileDialog::Drop);
 }
 
@@ -215,8 +216,8 @@ void UMessageFileDialog::Withdraw(int operationId) {
         if (operationId == 0 || message.operationId != operationId ||
             message.state == MessageState::Withdrawn)
             continue;
-        Drop(message.id);
         m_history.SetState(message.id, MessageState::Withdrawn);
+        Drop(message.id);
     }
     ShowCurrent();
 }
@@ -235,7 +236,7 @@ void UMessageFileDialog::OnSecond() {
         return;
     if (isVisible() && !isMinimized())
         if (const auto over = m_queue.PassSecond())
-            m_history.SetState(*over, MessageState::Read);
+            MarkRead(*over);
     ShowCurrent();
 }
 
@@ -336,10 +337,27 @@ void UMessageFileDialog::CloseCurrent() {
         return;
     const int id = turn->id;
     m_queue.Remove(id);
-    const Message* message = m_history.Find(id);
-    if (message && message->state == MessageState::New)
-        m_history.SetState(id, MessageState::Read);
+    MarkRead(id);
     ShowCurrent();
+}
+
+// While its file is on its way a message stays new: it comes back when that fails, and at the next start.
+void UMessageFileDialog::MarkRead(int id) {
+    const Message* message = m_history.Find(id);
+    if (message && message->state == MessageState::New && m_files.Of(id).stage != MessageFile::Stage::Loading)
+        m_history.SetState(id, MessageState::Read);
+}
+
+void UMessageFileDialog::OnFileChanged(int id) {
+    const Message* message = m_history.Find(id);
+    if (!message || message->state != MessageState::New || m_queue.Contains(id))
+        return;
+    if (m_files.Of(id).stage == MessageFile::Stage::Failed) {
+        Enqueue(*message);
+        ShowCurrent();
+    } else {
+        MarkRead(id);
+    }
 }
 
 void UMessageFileDialog::closeEvent(QCloseEvent* event) {

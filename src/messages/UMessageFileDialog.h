@@ -59,6 +59,8 @@ private:
     void PlaceOnScreen();
     bool MayBeClosed() const;
     void CloseCurrent();
+    void MarkRead(int id);
+    void OnFileChanged(int id);
     void LanguageChanges();
 
     MessageHistory& m_history;
