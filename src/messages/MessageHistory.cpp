@@ -5,6 +5,7 @@
 #include <QJsonArray>
 #include <QJsonObject>
 #include <algorithm>
+#include <glog/logging.h>
 
 namespace {
 
@@ -61,12 +62,20 @@ const Message* MessageHistory::Find(int id) const {
     return found == m_messages.end() ? nullptr : &*found;
 }
 
-int MessageHistory::Add(Message message) {
+int MessageHistory::Add(Message message, int shown) {
     if (m_messages.size() >= std::size_t(Most)) {
-        const auto seen = std::find_if(m_messages.begin(), m_messages.end(),
-                                       [](const Message& old) { return old.state != MessageState::New; });
-        const auto gone = seen == m_messages.end() ? m_messages.begin() : seen;
+        const auto rank = [shown](const Message& old) {
+            return old.id == shown                  ? 4
+                   : old.state != MessageState::New ? 0
+                   : old.isEmergency                ? 3
+                   : old.mayBeClosed                ? 1
+                                                    : 2;
+        };
+        const auto gone =
+            std::min_element(m_messages.begin(), m_messages.end(),
+                             [&](const Message& a, const Message& b) { return rank(a) < rank(b); });
         const int goneId = gone->id;
+        LOG_IF(WARNING, gone->state == MessageState::New) << "MessageHistory::Add gives up an unread message";
         m_messages.erase(gone);
         emit Removed(goneId);
     }
@@ -108,6 +117,8 @@ void MessageHistory::Read() {
     const QJsonArray messages = document.array();
     for (int i = std::max(0, messages.size() - Most); i < messages.size(); ++i) {
         Message message = FromJson(messages[i].toObject());
+        if (message.text.isEmpty() && !message.HasFile())
+            continue;
         message.id = ++m_lastId;
         m_messages.push_back(message);
     }

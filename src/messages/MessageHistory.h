@@ -20,8 +20,9 @@ public:
     /// Null when it is not there any more; valid until the next change.
     const Message* Find(int id) const;
 
-    /// Takes a message; returns its id. The oldest one that is not new any more may lose its place to it.
-    int Add(Message message);
+    /// Takes a message; returns its id. The oldest one may lose its place to it, first of those that are not
+    /// new any more, last of the emergencies; never `shown`.
+    int Add(Message message, int shown = 0);
     void Remove(int id);
     void SetState(int id, MessageState state);
     void SetSavedAs(int id, const QString& path);

@@ -158,7 +158,8 @@ void UMessageFileDialog::SetDataRequest(const MessageRequest& request, const Fil
     message.showings = std::max(1, request.loopTime);
     message.text = TextOf(request);
     message.file = file;
-    message.id = m_history.Add(message);
+    const MessageQueue::Turn* turn = m_queue.Current();
+    message.id = m_history.Add(message, turn ? turn->id : 0);
     m_files.Fetch(message.id);
     Enqueue(message);
     ShowCurrent();

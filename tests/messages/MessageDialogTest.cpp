@@ -194,6 +194,12 @@ TEST_F(MessageDialog, TheLastFiftyAreKeptAndAnUnreadOneIsShownAfterARestart) {
     for (int i = 0; i < 60; ++i)
         history->Add(old);
     EXPECT_EQ(Shown(), "مرحبا 123 😀") << "what was not read is kept";
+    Send(R"({"text": "flood"})");
+    for (int i = 0; i < 60; ++i)
+        Send(R"({"jobStatus": true, "text": "x"})");
+    EXPECT_EQ(Shown(), "flood");
+    Close();
+    EXPECT_EQ(Shown(), "مرحبا 123 😀");
     Send(R"({"operationId": 9, "jobStatus": false})");
     EXPECT_TRUE(rows->item(49)->text().contains(QStringLiteral("Withdrawn")));
 }
