@@ -79,7 +79,7 @@ void MessageController::ProcessDeviceSettingWallpaper(const std::string& body) c
     const QString file = chosen.empty() ? m_preferences.DefaultWallpaper() : QString::fromStdString(chosen);
     if (file.isEmpty())
         LogWallpaper("changes nothing: no file is named, and there is no default one here");
-    else if (!QFileInfo::exists(file))
+    else if (!QFileInfo(file).isFile())
         LogWallpaper("SetWallpaper failed, file not exists: " + LogText(file));
     else
         m_preferences.SetWallpaper(file, Placement(request.displayMode), LogWallpaper);
@@ -88,7 +88,7 @@ void MessageController::ProcessDeviceSettingWallpaper(const std::string& body) c
 void MessageController::ProcessMessageFile(const std::string& body) {
     MessageRequest request;
     request.ReadFromString(body);
-    if (!request.Withdraws() && request.text.empty() && !request.HasFile()) {
+    if (!request.Withdraws() && !request.HasText() && !request.HasFile()) {
         LOG(INFO) << "MessageController::ProcessMessageFile neither a text nor a file";
         return;
     }

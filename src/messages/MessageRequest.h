@@ -16,10 +16,11 @@ struct MessageRequest final : JsonEntity<MessageRequest, OperationCommandRequest
 
     RYX_KEYS(jobStatus, loopTime, playDuration, operationRight, text, fileInfoParams);
 
+    bool HasText() const { return text.find_first_not_of(" \t\r\n") != std::string::npos; }
     bool HasFile() const { return !fileInfoParams.url.empty(); }
     /// What the operation has sent before is to go.
     bool Withdraws() const { return jobStatus == false; }
     /// Of the requests with a text, the emergency alone has neither of the two.
-    bool IsEmergency() const { return !text.empty() && !jobStatus && !operationRight; }
+    bool IsEmergency() const { return HasText() && !jobStatus && !operationRight; }
     bool MayBeClosed() const { return operationRight != false; }
 };

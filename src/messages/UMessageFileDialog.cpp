@@ -156,7 +156,8 @@ void UMessageFileDialog::SetDataRequest(const MessageRequest& request, const Fil
     message.mayBeClosed = request.MayBeClosed();
     message.seconds = std::max(0, request.playDuration);
     message.showings = std::max(1, request.loopTime);
-    message.text = TextOf(request);
+    if (request.HasText())
+        message.text = TextOf(request);
     message.file = file;
     const MessageQueue::Turn* turn = m_queue.Current();
     message.id = m_history.Add(message, turn ? turn->id : 0);
