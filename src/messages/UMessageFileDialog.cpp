@@ -368,7 +368,9 @@ void UMessageFileDialog::closeEvent(QCloseEvent* event) {
 }
 
 void UMessageFileDialog::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape)
+    if (event->key() == Qt::Key_Escape && m_addressPanel->isVisible())
+        m_addressPanel->hide();
+    else if (event->key() == Qt::Key_Escape)
         CloseCurrent();
     else if (!PressFocusedButton(*this, *event))
         QWidget::keyPressEvent(event);
