@@ -3,4 +3,5 @@ target_sources(ryx_user_objects PRIVATE
     ${CMAKE_CURRENT_LIST_DIR}/UBodyAbout.cpp
     ${CMAKE_CURRENT_LIST_DIR}/UBodyLiveChannel.cpp
     ${CMAKE_CURRENT_LIST_DIR}/UBodyNetwork.cpp
-    ${CMAKE_CURRENT_LIST_DIR}/UBodySetting.cpp)
+    ${CMAKE_CURRENT_LIST_DIR}/UBodySetting.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/UpdateStore.cpp)
