@@ -5,6 +5,8 @@
 #include "platform/context/Text.h"
 #include "widgets/StatusLook.h"
 
+#include <QNetworkInterface>
+
 PageFact CommonFacts::DeviceName() {
     return {QStringLiteral("device"), Text("fact_device_name"),
             QString::fromStdString(MachineHelper::GetDeviceName())};
@@ -24,6 +26,19 @@ PageFact CommonFacts::LocalService() {
 PageFact CommonFacts::Organisation() {
     return {QStringLiteral("organisation"), Text("fact_organisation"),
             OrNone(MachineHelper::GetOrganisationName())};
+}
+
+PageFact CommonFacts::Addresses() {
+    QStringList addresses;
+    for (const QNetworkInterface& card : QNetworkInterface::allInterfaces()) {
+        const auto flags = card.flags();
+        if (!flags.testFlag(QNetworkInterface::IsRunning) || flags.testFlag(QNetworkInterface::IsLoopBack))
+            continue;
+        for (const QNetworkAddressEntry& entry : card.addressEntries())
+            if (!entry.ip().isLinkLocal())
+                addresses.append(entry.ip().toString());
+    }
+    return {QStringLiteral("address"), Text("fact_addresses"), OrNone(addresses.join(QStringLiteral(", ")))};
 }
 
 QString CommonFacts::OrNone(const QString& text) {

@@ -15,6 +15,9 @@ PageFact LocalService();
 
 PageFact Organisation();
 
+/// The addresses of this device in its networks.
+PageFact Addresses();
+
 /// The text, or the word for "none" when it is empty.
 QString OrNone(const QString& text);
 QString OrNone(const std::string& utf8);

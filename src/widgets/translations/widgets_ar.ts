@@ -16,6 +16,10 @@
         <translation>موافق</translation>
     </message>
     <message>
+        <source>fact_addresses</source>
+        <translation>عناوين الشبكة</translation>
+    </message>
+    <message>
         <source>fact_device_name</source>
         <translation>اسم الجهاز</translation>
     </message>

@@ -16,6 +16,10 @@
         <translation>OK</translation>
     </message>
     <message>
+        <source>fact_addresses</source>
+        <translation>Network addresses</translation>
+    </message>
+    <message>
         <source>fact_device_name</source>
         <translation>Device name</translation>
     </message>

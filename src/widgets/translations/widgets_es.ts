@@ -16,6 +16,10 @@
         <translation>Aceptar</translation>
     </message>
     <message>
+        <source>fact_addresses</source>
+        <translation>Direcciones de red</translation>
+    </message>
+    <message>
         <source>fact_device_name</source>
         <translation>Nombre del dispositivo</translation>
     </message>

@@ -16,6 +16,10 @@
         <translation>OK</translation>
     </message>
     <message>
+        <source>fact_addresses</source>
+        <translation>Adresses réseau</translation>
+    </message>
+    <message>
         <source>fact_device_name</source>
         <translation>Nom de l’appareil</translation>
     </message>

@@ -16,6 +16,10 @@
         <translation>OK</translation>
     </message>
     <message>
+        <source>fact_addresses</source>
+        <translation>ネットワークアドレス</translation>
+    </message>
+    <message>
         <source>fact_device_name</source>
         <translation>デバイス名</translation>
     </message>

@@ -16,6 +16,10 @@
         <translation>确定</translation>
     </message>
     <message>
+        <source>fact_addresses</source>
+        <translation>网络地址</translation>
+    </message>
+    <message>
         <source>fact_device_name</source>
         <translation>设备名称</translation>
     </message>
