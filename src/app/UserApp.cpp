@@ -8,6 +8,7 @@
 #include "controllers/PopupsController.h"
 #include "controllers/SettingsLockController.h"
 #include "lock/UDeviceScreenLock.h"
+#include "pages/NetworkCheck.h"
 #include "pages/UpdateStore.h"
 #include "platform/ProductConstants.h"
 #include "platform/application/QtSingleApplication.h"
@@ -169,6 +170,7 @@ int UserApp::Run(int argc, char** argv) {
                                         QStringLiteral("/popups.json"),
                                     &PickableWindow::IsOpen, Clock::System(), &application);
     const UpdateStore updates(Clock::System(), &application);
+    const NetworkCheck networkCheck(NetworkProbe::Native(), &application);
     const PipeLinkGuard link;
 
     MainWindow window;

@@ -1,4 +1,7 @@
 target_sources(ryx_user_objects PRIVATE
+    ${CMAKE_CURRENT_LIST_DIR}/NetworkCheck.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/NetworkStepRow.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/NetworkTexts.cpp
     ${CMAKE_CURRENT_LIST_DIR}/SupportContact.cpp
     ${CMAKE_CURRENT_LIST_DIR}/UAppearance.cpp
     ${CMAKE_CURRENT_LIST_DIR}/UBodyAbout.cpp

@@ -17,12 +17,6 @@ PageFact CommonFacts::LinkState(const QWidget* page) {
     return {look.icon, Text("fact_management_service"), look.words};
 }
 
-PageFact CommonFacts::LocalService() {
-    return {QStringLiteral("service"), Text("fact_local_service"),
-            AppContextData::Instance()->Linked() ? Text("fact_service_reached")
-                                                 : Text("fact_service_not_reached")};
-}
-
 PageFact CommonFacts::Organisation() {
     return {QStringLiteral("organisation"), Text("fact_organisation"),
             OrNone(MachineHelper::GetOrganisationName())};

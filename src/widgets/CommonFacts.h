@@ -10,9 +10,6 @@ PageFact DeviceName();
 /// The state of the link to the organisation, as the window that `page` is in knows it.
 PageFact LinkState(const QWidget* page);
 
-/// Whether the agent service on this device is reached.
-PageFact LocalService();
-
 PageFact Organisation();
 
 /// The addresses of this device in its networks.

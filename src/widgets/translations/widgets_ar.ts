@@ -24,10 +24,6 @@
         <translation>اسم الجهاز</translation>
     </message>
     <message>
-        <source>fact_local_service</source>
-        <translation>الخدمة على هذا الجهاز</translation>
-    </message>
-    <message>
         <source>fact_management_service</source>
         <translation>خدمة الإدارة</translation>
     </message>
@@ -38,14 +34,6 @@
     <message>
         <source>fact_organisation</source>
         <translation>المؤسسة</translation>
-    </message>
-    <message>
-        <source>fact_service_not_reached</source>
-        <translation>يتعذّر الوصول إليها</translation>
-    </message>
-    <message>
-        <source>fact_service_reached</source>
-        <translation>قيد التشغيل</translation>
     </message>
     <message>
         <source>loading</source>

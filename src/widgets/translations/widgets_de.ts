@@ -24,10 +24,6 @@
         <translation>Gerätename</translation>
     </message>
     <message>
-        <source>fact_local_service</source>
-        <translation>Dienst auf diesem Gerät</translation>
-    </message>
-    <message>
         <source>fact_management_service</source>
         <translation>Verwaltungsdienst</translation>
     </message>
@@ -38,14 +34,6 @@
     <message>
         <source>fact_organisation</source>
         <translation>Organisation</translation>
-    </message>
-    <message>
-        <source>fact_service_not_reached</source>
-        <translation>Nicht erreichbar</translation>
-    </message>
-    <message>
-        <source>fact_service_reached</source>
-        <translation>Läuft</translation>
     </message>
     <message>
         <source>loading</source>

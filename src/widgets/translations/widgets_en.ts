@@ -24,10 +24,6 @@
         <translation>Device name</translation>
     </message>
     <message>
-        <source>fact_local_service</source>
-        <translation>Service on this device</translation>
-    </message>
-    <message>
         <source>fact_management_service</source>
         <translation>Management service</translation>
     </message>
@@ -38,14 +34,6 @@
     <message>
         <source>fact_organisation</source>
         <translation>Organisation</translation>
-    </message>
-    <message>
-        <source>fact_service_not_reached</source>
-        <translation>Not reachable</translation>
-    </message>
-    <message>
-        <source>fact_service_reached</source>
-        <translation>Running</translation>
     </message>
     <message>
         <source>loading</source>

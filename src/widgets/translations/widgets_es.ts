@@ -24,10 +24,6 @@
         <translation>Nombre del dispositivo</translation>
     </message>
     <message>
-        <source>fact_local_service</source>
-        <translation>Servicio en este dispositivo</translation>
-    </message>
-    <message>
         <source>fact_management_service</source>
         <translation>Servicio de administración</translation>
     </message>
@@ -38,14 +34,6 @@
     <message>
         <source>fact_organisation</source>
         <translation>Organización</translation>
-    </message>
-    <message>
-        <source>fact_service_not_reached</source>
-        <translation>No disponible</translation>
-    </message>
-    <message>
-        <source>fact_service_reached</source>
-        <translation>En marcha</translation>
     </message>
     <message>
         <source>loading</source>

@@ -24,10 +24,6 @@
         <translation>Nom de l’appareil</translation>
     </message>
     <message>
-        <source>fact_local_service</source>
-        <translation>Service sur cet appareil</translation>
-    </message>
-    <message>
         <source>fact_management_service</source>
         <translation>Service de gestion</translation>
     </message>
@@ -38,14 +34,6 @@
     <message>
         <source>fact_organisation</source>
         <translation>Organisation</translation>
-    </message>
-    <message>
-        <source>fact_service_not_reached</source>
-        <translation>Injoignable</translation>
-    </message>
-    <message>
-        <source>fact_service_reached</source>
-        <translation>En marche</translation>
     </message>
     <message>
         <source>loading</source>

@@ -24,10 +24,6 @@
         <translation>デバイス名</translation>
     </message>
     <message>
-        <source>fact_local_service</source>
-        <translation>このデバイスのサービス</translation>
-    </message>
-    <message>
         <source>fact_management_service</source>
         <translation>管理サービス</translation>
     </message>
@@ -38,14 +34,6 @@
     <message>
         <source>fact_organisation</source>
         <translation>組織</translation>
-    </message>
-    <message>
-        <source>fact_service_not_reached</source>
-        <translation>接続できません</translation>
-    </message>
-    <message>
-        <source>fact_service_reached</source>
-        <translation>動作中</translation>
     </message>
     <message>
         <source>loading</source>

@@ -24,10 +24,6 @@
         <translation>设备名称</translation>
     </message>
     <message>
-        <source>fact_local_service</source>
-        <translation>此设备上的服务</translation>
-    </message>
-    <message>
         <source>fact_management_service</source>
         <translation>管理服务</translation>
     </message>
@@ -38,14 +34,6 @@
     <message>
         <source>fact_organisation</source>
         <translation>组织</translation>
-    </message>
-    <message>
-        <source>fact_service_not_reached</source>
-        <translation>无法访问</translation>
-    </message>
-    <message>
-        <source>fact_service_reached</source>
-        <translation>正在运行</translation>
     </message>
     <message>
         <source>loading</source>
