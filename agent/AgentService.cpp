@@ -2,21 +2,7 @@
 
 #include "entity/IotEntities.h"
 #include "entity/SettingsEntities.h"
-#include "entity/UpdateEntities.h"
-#include "platform/ProductConstants.h"
 #include "platform/security/PasswordHelper.h"
-
-namespace {
-
-std::string UpdateBody(const std::string& version) {
-    OtaUpdateVersionInfo update;
-    update.name = Product::Name;
-    update.hasUpdate = !version.empty();
-    update.versionCode = version;
-    return update.WriteToString();
-}
-
-} // namespace
 
 AgentService::AgentService(AgentServer& server, const Clock& clock)
     : m_server(server),
@@ -24,7 +10,7 @@ AgentService::AgentService(AgentServer& server, const Clock& clock)
       m_unlockHash(PasswordHelper::HashVelmoraPassword("123456")),
       m_unbindHash(PasswordHelper::HashVelmoraPassword("654321")) {
     SetAnswer(PipeKey::ContextRequest, PipeKey::ContextReply, "velmora-ryx-agent");
-    SetAnswer(PipeKey::OtaVersionInfo, PipeKey::OtaVersionInfo, UpdateBody({}));
+    SetAnswer(PipeKey::OtaVersionInfo, PipeKey::OtaVersionInfo, OtaUpdateVersionInfo().WriteToString());
     connect(&m_server, &AgentServer::ClientConnected, this, &AgentService::Greet);
     connect(&m_server, &AgentServer::MessageReceived, this,
             [this](PipeKey key, const std::string&, int client) { Answer(key, client); });
@@ -64,8 +50,8 @@ void AgentService::SetUnbindPassword(const std::string& digits) {
     m_server.Send(PipeKey::UnbindPasswordUpdate, m_unbindHash);
 }
 
-void AgentService::SetUpdate(const std::string& version) {
-    const std::string body = UpdateBody(version);
+void AgentService::SetUpdate(const OtaUpdateVersionInfo& update) {
+    const std::string body = update.WriteToString();
     SetAnswer(PipeKey::OtaVersionInfo, PipeKey::OtaVersionInfo, body);
     m_server.Send(PipeKey::OtaVersionInfo, body);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AgentServer.h"
+#include "entity/UpdateEntities.h"
 #include "platform/application/EndTime.h"
 #include "platform/application/IotStatus.h"
 
@@ -27,8 +28,8 @@ public:
     void SetStatus(int status);
     void SetUnlockPassword(const std::string& digits);
     void SetUnbindPassword(const std::string& digits);
-    /// The version that is offered as an update; an empty text means that there is none.
-    void SetUpdate(const std::string& version);
+    /// What is known of updates; also the answer to later questions for them.
+    void SetUpdate(const OtaUpdateVersionInfo& update);
 
     /// From now on every message with the key `question` is answered, to its sender, with this one.
     void SetAnswer(PipeKey question, PipeKey key, const std::string& body) {

@@ -4,6 +4,7 @@
 #include "KeyText.h"
 #include "MessageCommands.h"
 #include "PopupCommands.h"
+#include "UpdateCommands.h"
 #include "platform/application/EndTime.h"
 
 #include <QFile>
@@ -87,12 +88,14 @@ CommandInterpreter::CommandInterpreter(AgentServer& server, AgentService& servic
       m_service(service),
       m_log(log),
       m_popups(server, service, log),
+      m_updates(server, service),
       m_web(web),
       m_player(log) {
     AddSendingCommands();
     AddCommands(EnrolmentCommands(enrolment));
     AddCommands(MessageCommands(server, log, web, m_folder));
     AddCommands(PopupCommands(m_popups, m_folder));
+    AddCommands(UpdateCommands(m_updates));
     AddExpectations();
     AddCommands(m_web.List());
     AddOtherCommands();
@@ -152,10 +155,6 @@ void CommandInterpreter::AddSendingCommands() {
                  {"unbind-password", "DIGITS", "set the six digits that allow an unenrolment",
                   [this](const std::string& arguments) {
                       return Act([this, digits = Digits(arguments)] { m_service.SetUnbindPassword(digits); });
-                  }},
-                 {"update", "[VERSION]", "offer this version as an update, or none",
-                  [this](const std::string& arguments) {
-                      return Act([this, arguments] { m_service.SetUpdate(arguments); });
                   }},
                  {"context", "TEXT", "answer the next questions for the context with this text",
                   [this](const std::string& arguments) {

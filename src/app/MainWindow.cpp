@@ -4,6 +4,7 @@
 #include "app/Pages.h"
 #include "app/UTrayIcon.h"
 #include "entity/FileEntities.h"
+#include "pages/NetworkCheck.h"
 #include "platform/ProductConstants.h"
 #include "platform/application/WindowStack.h"
 #include "platform/context/AppContextData.h"
@@ -148,6 +149,8 @@ void MainWindow::Notify(NoticeKind kind, const QString& text) {
 
 void MainWindow::OpenNetworkPage() {
     m_navigator->GoTo(PageIndex(PageId::Network));
+    if (NetworkCheck* check = NetworkCheck::OfApplication())
+        check->Start();
 }
 
 void MainWindow::OpenEnrolmentPage() {

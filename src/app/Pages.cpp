@@ -28,7 +28,7 @@ const std::vector<PageEntry>& Pages() {
         {PageId::LiveChannels, "live", QT_TRANSLATE_NOOP("UMenu", "menu_live_channels"), PagePlace::Upper, Make<UBodyLiveChannel>},
         {PageId::Network, "network", QT_TRANSLATE_NOOP("UMenu", "menu_network"), PagePlace::Upper, Make<UBodyNetwork>},
         {PageId::Settings, "settings", QT_TRANSLATE_NOOP("UMenu", "menu_settings"), PagePlace::Upper, Make<UBodySetting>},
-        {"about", "about", QT_TRANSLATE_NOOP("UMenu", "menu_about"), PagePlace::Lower, Make<UBodyAbout>},
+        {PageId::About, "about", QT_TRANSLATE_NOOP("UMenu", "menu_about"), PagePlace::Lower, Make<UBodyAbout>},
         {PageId::Feedback, "feedback", QT_TRANSLATE_NOOP("UMenu", "menu_feedback"), PagePlace::Window, nullptr},
     };
     // clang-format on

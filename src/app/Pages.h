@@ -34,6 +34,7 @@ inline constexpr char Features[] = "features";
 inline constexpr char LiveChannels[] = "live";
 inline constexpr char Network[] = "network";
 inline constexpr char Settings[] = "settings";
+inline constexpr char About[] = "about";
 inline constexpr char Feedback[] = "feedback";
 
 } // namespace PageId

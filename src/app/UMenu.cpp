@@ -4,6 +4,7 @@
 #include "app/UMenuEntry.h"
 #include "entity/EnrollEntities.h"
 #include "entity/IotEntities.h"
+#include "pages/UpdateStore.h"
 #include "platform/application/IotStatus.h"
 #include "platform/context/AppContextData.h"
 #include "platform/link/PipeEventWatcher.h"
@@ -62,6 +63,8 @@ UMenu::UMenu(QWidget* parent) : QWidget(parent), m_scroll(new GestureScrollArea)
         if (field == AppContextData::Field::Linked)
             UpdateMarks();
     });
+    if (const UpdateStore* updates = UpdateStore::OfApplication())
+        connect(updates, &UpdateStore::Changed, this, &UMenu::UpdateMarks);
     new PipeEventWatcher(this, [this](PipeKey key, const std::string& body) { OnPipeReceive(key, body); });
 }
 
@@ -154,6 +157,8 @@ void UMenu::UpdateMarks() {
     };
     mark(PageId::Network, m_disconnected || !AppContextData::Instance()->Linked(), "warning",
          tr("menu_mark_disconnected"));
+    const UpdateStore* updates = UpdateStore::OfApplication();
+    mark(PageId::About, updates && updates->WantsAttention(), "dot", tr("menu_mark_update"));
     mark(PageId::Settings, m_managed, "managed", tr("menu_mark_managed"));
 }
 

@@ -8,6 +8,8 @@
 #include "controllers/PopupsController.h"
 #include "controllers/SettingsLockController.h"
 #include "lock/UDeviceScreenLock.h"
+#include "pages/NetworkCheck.h"
+#include "pages/UpdateStore.h"
 #include "platform/ProductConstants.h"
 #include "platform/application/QtSingleApplication.h"
 #include "platform/application/QuitDeadline.h"
@@ -167,6 +169,8 @@ int UserApp::Run(int argc, char** argv) {
     const PopupHistory popupHistory(QString::fromStdWString(RyxPath::GetUserDataDir()) +
                                         QStringLiteral("/popups.json"),
                                     &PickableWindow::KeysOnScreen, Clock::System(), &application);
+    const UpdateStore updates(Clock::System(), &application);
+    const NetworkCheck networkCheck(NetworkProbe::Native(), &application);
     const PipeLinkGuard link;
 
     MainWindow window;

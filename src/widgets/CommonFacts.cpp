@@ -5,6 +5,8 @@
 #include "platform/context/Text.h"
 #include "widgets/StatusLook.h"
 
+#include <QNetworkInterface>
+
 PageFact CommonFacts::DeviceName() {
     return {QStringLiteral("device"), Text("fact_device_name"),
             QString::fromStdString(MachineHelper::GetDeviceName())};
@@ -15,15 +17,22 @@ PageFact CommonFacts::LinkState(const QWidget* page) {
     return {look.icon, Text("fact_management_service"), look.words};
 }
 
-PageFact CommonFacts::LocalService() {
-    return {QStringLiteral("service"), Text("fact_local_service"),
-            AppContextData::Instance()->Linked() ? Text("fact_service_reached")
-                                                 : Text("fact_service_not_reached")};
-}
-
 PageFact CommonFacts::Organisation() {
     return {QStringLiteral("organisation"), Text("fact_organisation"),
             OrNone(MachineHelper::GetOrganisationName())};
+}
+
+PageFact CommonFacts::Addresses() {
+    QStringList addresses;
+    for (const QNetworkInterface& card : QNetworkInterface::allInterfaces()) {
+        const auto flags = card.flags();
+        if (!flags.testFlag(QNetworkInterface::IsRunning) || flags.testFlag(QNetworkInterface::IsLoopBack))
+            continue;
+        for (const QNetworkAddressEntry& entry : card.addressEntries())
+            if (!entry.ip().isLinkLocal())
+                addresses.append(entry.ip().toString());
+    }
+    return {QStringLiteral("address"), Text("fact_addresses"), OrNone(addresses.join(QStringLiteral(", ")))};
 }
 
 QString CommonFacts::OrNone(const QString& text) {

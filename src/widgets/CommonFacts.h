@@ -10,10 +10,10 @@ PageFact DeviceName();
 /// The state of the link to the organisation, as the window that `page` is in knows it.
 PageFact LinkState(const QWidget* page);
 
-/// Whether the agent service on this device is reached.
-PageFact LocalService();
-
 PageFact Organisation();
+
+/// The addresses of this device in its networks.
+PageFact Addresses();
 
 /// The text, or the word for "none" when it is empty.
 QString OrNone(const QString& text);

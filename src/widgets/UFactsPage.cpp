@@ -42,6 +42,17 @@ void UFactsPage::Refresh() {
     m_card->setVisible(!facts.isEmpty());
 }
 
+QString UFactsPage::FactsText() const {
+    QString text;
+    for (const PageFact& fact : m_facts)
+        text += QStringLiteral("%1: %2\n").arg(fact.label, fact.value);
+    return text;
+}
+
+Qt::Alignment UFactsPage::ValueAlignment(const QWidget* widget) {
+    return Qt::AlignVCenter | Qt::AlignAbsolute | (widget->isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft);
+}
+
 void UFactsPage::ShowFacts(const QVector<PageFact>& facts) {
     m_facts = facts;
     while (QLayoutItem* item = m_rows->takeAt(0)) {
@@ -56,9 +67,7 @@ void UFactsPage::ShowFacts(const QVector<PageFact>& facts) {
         auto* value = new UTextLabel("factValue");
         value->setText(fact.value);
         value->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        // A value stands beside its label, whatever script it is written in.
-        value->setAlignment(Qt::AlignVCenter | Qt::AlignAbsolute |
-                            (isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
+        value->setAlignment(ValueAlignment(this));
         m_rows->addWidget(icon, row, 0);
         m_rows->addWidget(label, row, 1);
         m_rows->addWidget(value, row, 2);

@@ -45,6 +45,12 @@ public:
     /// state of the link or of the device changes.
     void Refresh();
 
+    /// The facts as they stand on the screen, one line each.
+    QString FactsText() const;
+
+    /// Where a value begins in the layout of `widget`, whatever script it is written in.
+    static Qt::Alignment ValueAlignment(const QWidget* widget);
+
 protected:
     void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;

@@ -101,6 +101,8 @@ TEST_F(Agent, SendsToEveryClientAndAnswersTheOneThatAsks) {
         {"", 12, "\"hasUpdate\" : false", 12},
         {"update 2.0", 12, "\"2.0\""},
         {"", 12, "\"2.0\"", 12},
+        {"update 2.1 silent 3", 12, "\"fileSize\" : 3145728"},
+        {"download failed", 14, "\"success\" : false"},
         {"context school-7", 1, "school-7", 0},
         {"on 0 send PopupPolicy @body", 50, "{\n \"a\": 1 }\n", 0},
         {"on Binding send 35", 35, "", 3},

@@ -5,6 +5,7 @@
 #include "app/UMenu.h"
 #include "app/UMenuEntry.h"
 #include "gallery/Scenes.h"
+#include "pages/NetworkCheck.h"
 #include "platform/context/AppContextData.h"
 #include "platform/context/LanguageHelper.h"
 #include "platform/context/Theme.h"
@@ -43,7 +44,10 @@ protected:
         return *Window().findChild<Part*>(QString::fromLatin1(name));
     }
     void Click(QWidget& part) { QTest::mouseClick(&part, Qt::LeftButton); }
-    void PressMenu(const char* name) { Click(Find<UMenuEntry>(name)); }
+    void PressMenu(const char* name) {
+        Click(Find<UMenuEntry>(name));
+        WaitFor([] { return !NetworkCheck::OfApplication()->IsRunning(); }); // which its page begins
+    }
     void ActivateTray(QSystemTrayIcon::ActivationReason reason = QSystemTrayIcon::Trigger) {
         emit Find<QSystemTrayIcon>().activated(reason);
     }
@@ -227,7 +231,7 @@ TEST_F(Shell, ADeadServiceIsSeenEverywhereAtOnce) {
         EXPECT_EQ(Find<QLabel>("statusWords").text().contains(QStringLiteral("Service")), !linked);
         EXPECT_EQ(tray.text().contains(QStringLiteral("Service")), !linked);
         EXPECT_EQ(Shows(*Find<UBody>().currentWidget(), "Connected"), linked);
-        EXPECT_EQ(Shows(*Find<UBody>().currentWidget(), "Running"), linked);
+        EXPECT_EQ(Shows(*Find<UBody>().currentWidget(), "The service on this device is running."), linked);
         EXPECT_EQ(Find<UMenuEntry>("menu_network").accessibleDescription().isEmpty(), linked);
         EXPECT_EQ(Find<QLabel>("launcherNoService").isVisibleTo(&Find<QWidget>("launcher")), !linked);
     }

@@ -1,4 +1,5 @@
 // Whom the web client trusts.
+#include "platform/web/NetworkProbe.h"
 #include "platform/web/RyxWebClient.h"
 
 #include <QSslKey>
@@ -27,8 +28,8 @@ private:
         socket->setLocalCertificate(Pem("localhost.pem"));
         connect(socket, &QSslSocket::readyRead, [socket] {
             const QByteArray body = R"({"data": {"fileKey": "k", "downloadUrl": "there"}})";
-            socket->write("HTTP/1.1 200 OK\r\nContent-Length: " + QByteArray::number(body.size()) +
-                          "\r\n\r\n" + body);
+            socket->write("HTTP/1.1 200 OK\r\nDate: Sun, 06 Nov 1994 08:49:37 GMT\r\nContent-Length: " +
+                          QByteArray::number(body.size()) + "\r\n\r\n" + body);
         });
         socket->startServerEncryption();
     }
@@ -60,6 +61,10 @@ TEST(WebTls, OnlyACertificateOfATrustedAuthorityForThisHostWillDo) {
             [&] { return call.wait_for(std::chrono::seconds(0)) == std::future_status::ready; }, 10000));
         EXPECT_EQ(call.get(), row.error == WebError::None ? "there" : "") << row.host;
         EXPECT_EQ(static_cast<int>(failure.error), static_cast<int>(row.error)) << row.host << failure.words;
+        // The check of the network finds the same, and the server's time in every case.
+        const auto answer = NetworkProbe::Native()->Ask(settings, QUrl(settings.server), {});
+        EXPECT_EQ(answer.distrust.isEmpty(), row.error == WebError::None) << answer.distrust.toStdString();
+        EXPECT_EQ(answer.date.toSecsSinceEpoch(), 784111777);
     }
 }
 

@@ -6,9 +6,12 @@
 #include "app/UMenu.h"
 #include "controllers/MainController.h"
 #include "gallery/ControlSheet.h"
+#include "gallery/ScriptedProbe.h"
 #include "lock/UBodySettingLockModal.h"
 #include "lock/UDeviceScreenLock.h"
 #include "lock/USettingsLockMaskModal.h"
+#include "pages/NetworkCheck.h"
+#include "pages/UpdateStore.h"
 #include "platform/context/AppConfigData.h"
 #include "platform/context/AppContextData.h"
 #include "platform/link/PipeClientService.h"
@@ -40,6 +43,7 @@ constexpr int Connecting = 5;
 
 void GoTo(Stage& stage, const char* page) {
     stage.Window().findChild<UMenu*>()->SwitchTo(PageIndex(page));
+    WaitFor([] { return !NetworkCheck::OfApplication()->IsRunning(); });
 }
 
 Scene Page(const PageEntry& page) {
@@ -256,6 +260,15 @@ Stage::Stage(bool enrolled) : m_controller(std::make_unique<MainController>()) {
     qApp->setProperty("controllers", QVariant::fromValue(controllers));
     m_popups = std::make_unique<PopupHistory>(
         QString(), [] { return QSet<QString>(); }, Clock::System(), qApp);
+    AppConfigData& config = *AppConfigData::Instance();
+    config.webServer = "https://device.school.example/api";
+    config.supportName = "IT desk of the school";
+    config.supportTelephone = "+44 20 7946 0018";
+    config.supportMail = "it@school.example";
+    config.supportPage = "https://help.school.example";
+    m_network = std::make_shared<ScriptedProbe>();
+    m_updates = std::make_unique<UpdateStore>(Clock::System(), qApp);
+    m_networkCheck = std::make_unique<NetworkCheck>(m_network, qApp);
     m_window = std::make_unique<MainWindow>();
     m_window->resize(1280, 720); // also where the screen is smaller
     m_window->show();
@@ -299,7 +312,7 @@ QWidget& Stage::Subject() {
 
 QVector<Scene> AllScenes() {
     return PageScenes() + ShellScenes() + NoticeScenes() + EnrollPageScenes() + EnrollScenes() +
-           FeedbackScenes() + MessageScenes() + PopupScenes() + OtherScenes();
+           FeedbackScenes() + MessageScenes() + PopupScenes() + StatusScenes() + OtherScenes();
 }
 
 bool WaitFor(const std::function<bool()>& condition) {

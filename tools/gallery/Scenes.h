@@ -8,9 +8,12 @@
 
 class MainController;
 class MainWindow;
+class NetworkCheck;
 class PopupHistory;
 class QLocalServer;
 class QWidget;
+class UpdateStore;
+struct ScriptedProbe;
 
 /// The stage of one picture: a fresh front end without a service, at 1280 x 720 unless a scene changes it.
 class Stage {
@@ -23,6 +26,9 @@ public:
 
     /// Feeds a message to everybody, as the service's.
     void Receive(int key, const std::string& body = {});
+
+    /// The network that the network page checks.
+    ScriptedProbe& Network() { return *m_network; }
 
     /// Lets the link be up, to a service that says nothing.
     void ConnectLink();
@@ -48,6 +54,9 @@ private:
     std::unique_ptr<QLocalServer> m_service;
     std::unique_ptr<MainController> m_controller;
     std::unique_ptr<PopupHistory> m_popups;
+    std::shared_ptr<ScriptedProbe> m_network;
+    std::unique_ptr<UpdateStore> m_updates;
+    std::unique_ptr<NetworkCheck> m_networkCheck;
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<QWidget> m_other;
     std::shared_ptr<void> m_owner;
@@ -76,6 +85,9 @@ QVector<Scene> EnrollScenes();
 
 /// Those of the administrator's messages.
 QVector<Scene> MessageScenes();
+
+/// Those of network, version and updates.
+QVector<Scene> StatusScenes();
 
 /// Lets layouts, deferred updates and queued events come to rest.
 void Settle();

@@ -68,6 +68,10 @@
         <translation>تدير مؤسستك بعض الإعدادات</translation>
     </message>
     <message>
+        <source>menu_mark_update</source>
+        <translation>توجد أخبار عن تحديث</translation>
+    </message>
+    <message>
         <source>menu_name</source>
         <translation>القائمة الرئيسية</translation>
     </message>

@@ -68,6 +68,10 @@
         <translation>Einige Einstellungen verwaltet Ihre Organisation</translation>
     </message>
     <message>
+        <source>menu_mark_update</source>
+        <translation>Es gibt Neues zu einer Aktualisierung</translation>
+    </message>
+    <message>
         <source>menu_name</source>
         <translation>Hauptmenü</translation>
     </message>

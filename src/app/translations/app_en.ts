@@ -68,6 +68,10 @@
         <translation>Some settings are managed by your organisation</translation>
     </message>
     <message>
+        <source>menu_mark_update</source>
+        <translation>There is news about an update</translation>
+    </message>
+    <message>
         <source>menu_name</source>
         <translation>Main menu</translation>
     </message>

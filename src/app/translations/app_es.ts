@@ -68,6 +68,10 @@
         <translation>Su organización administra algunos ajustes</translation>
     </message>
     <message>
+        <source>menu_mark_update</source>
+        <translation>Hay novedades sobre una actualización</translation>
+    </message>
+    <message>
         <source>menu_name</source>
         <translation>Menú principal</translation>
     </message>

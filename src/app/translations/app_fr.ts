@@ -68,6 +68,10 @@
         <translation>Certains paramètres sont gérés par votre organisation</translation>
     </message>
     <message>
+        <source>menu_mark_update</source>
+        <translation>Il y a du nouveau sur une mise à jour</translation>
+    </message>
+    <message>
         <source>menu_name</source>
         <translation>Menu principal</translation>
     </message>

@@ -68,6 +68,10 @@
         <translation>一部の設定は組織によって管理されています</translation>
     </message>
     <message>
+        <source>menu_mark_update</source>
+        <translation>更新に関するお知らせがあります</translation>
+    </message>
+    <message>
         <source>menu_name</source>
         <translation>メインメニュー</translation>
     </message>

@@ -68,6 +68,10 @@
         <translation>部分设置由您的组织管理</translation>
     </message>
     <message>
+        <source>menu_mark_update</source>
+        <translation>有关于更新的新消息</translation>
+    </message>
+    <message>
         <source>menu_name</source>
         <translation>主菜单</translation>
     </message>

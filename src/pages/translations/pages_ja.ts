@@ -4,6 +4,10 @@
 <context>
     <name>Ryx</name>
     <message>
+        <source>about_copy</source>
+        <translation>すべてコピー</translation>
+    </message>
+    <message>
         <source>about_sentence</source>
         <translation>デバイス管理のうち画面に表示される部分です。このデバイス上のサービスと連携して動作します。</translation>
     </message>
@@ -12,12 +16,24 @@
         <translation>Velmora RYX について</translation>
     </message>
     <message>
-        <source>fact_addresses</source>
-        <translation>ネットワークアドレス</translation>
+        <source>fact_account</source>
+        <translation>管理者のアカウント</translation>
+    </message>
+    <message>
+        <source>fact_user</source>
+        <translation>サインイン中のユーザー</translation>
     </message>
     <message>
         <source>fact_version</source>
         <translation>バージョン</translation>
+    </message>
+    <message>
+        <source>licences_sentence</source>
+        <translation>このプログラムと同梱物です。それぞれのライセンスが適用されます。</translation>
+    </message>
+    <message>
+        <source>licences_title</source>
+        <translation>ライセンス</translation>
     </message>
     <message>
         <source>live_sentence</source>
@@ -28,12 +44,316 @@
         <translation>ライブチャンネル</translation>
     </message>
     <message>
+        <source>network_adapter_none</source>
+        <translation>接続されているネットワークアダプターがありません。</translation>
+    </message>
+    <message>
+        <source>network_adapter_none_advice</source>
+        <translation>ネットワークケーブルを接続するか、Wi-Fi をオンにしてください。</translation>
+    </message>
+    <message>
+        <source>network_adapter_up</source>
+        <translation>使用中：%1。</translation>
+    </message>
+    <message>
+        <source>network_address_found</source>
+        <translation>このデバイスのアドレス：%1。</translation>
+    </message>
+    <message>
+        <source>network_address_none</source>
+        <translation>ネットワークからアドレスが割り当てられていません。</translation>
+    </message>
+    <message>
+        <source>network_address_none_advice</source>
+        <translation>ネットワークをいったん切断し、接続し直してください。</translation>
+    </message>
+    <message>
+        <source>network_cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>network_cancelled</source>
+        <translation>確認が中止されたため、確認していません。</translation>
+    </message>
+    <message>
+        <source>network_certificate_advice</source>
+        <translation>このネットワークではパスワードを入力しないでください。盗聴のおそれがあります。</translation>
+    </message>
+    <message>
+        <source>network_certificate_bad</source>
+        <translation>%1 の身元を確認できませんでした：%2</translation>
+    </message>
+    <message>
+        <source>network_certificate_good</source>
+        <translation>%1 の身元を確認できました。</translation>
+    </message>
+    <message>
+        <source>network_certificate_none</source>
+        <translation>未確認：このサーバーは暗号化なしで使用しています。</translation>
+    </message>
+    <message>
+        <source>network_certificate_unread</source>
+        <translation>%1 と安全な接続ができませんでした。</translation>
+    </message>
+    <message>
+        <source>network_check_failed</source>
+        <translation>確認は「%1」で失敗しました。</translation>
+    </message>
+    <message>
+        <source>network_check_no_server</source>
+        <translation>このデバイスに組織のサーバーが設定されていないため、ネットワークの出口だけを確認しました。</translation>
+    </message>
+    <message>
+        <source>network_check_passed</source>
+        <translation>確認では問題が見つかりませんでした。</translation>
+    </message>
+    <message>
+        <source>network_clock_advice</source>
+        <translation>時計を合わせてください。ずれていると安全な接続ができません。</translation>
+    </message>
+    <message>
+        <source>network_clock_right</source>
+        <translation>時計はサーバーと一致しています。</translation>
+    </message>
+    <message>
+        <source>network_clock_unknown</source>
+        <translation>未確認：サーバーから時刻が得られませんでした。</translation>
+    </message>
+    <message>
+        <source>network_clock_wrong</source>
+        <translation>このデバイスの時計はサーバーと %1 ずれています。</translation>
+    </message>
+    <message>
+        <source>network_days</source>
+        <translation>%1 日</translation>
+    </message>
+    <message>
+        <source>network_gateway_found</source>
+        <translation>このネットワークの出口は %1 です。</translation>
+    </message>
+    <message>
+        <source>network_gateway_none</source>
+        <translation>このネットワークの出口がわかりません。</translation>
+    </message>
+    <message>
+        <source>network_gateway_none_advice</source>
+        <translation>ルーターを再起動するか、別のネットワークに接続してください。</translation>
+    </message>
+    <message>
+        <source>network_hours</source>
+        <translation>%1 時間</translation>
+    </message>
+    <message>
+        <source>network_link_other_way</source>
+        <translation>別の経路を使っているか、まだ気付いていない可能性があります。</translation>
+    </message>
+    <message>
+        <source>network_link_said</source>
+        <translation>サービスによる組織との接続状態は「%1」です。</translation>
+    </message>
+    <message>
+        <source>network_link_unknown</source>
+        <translation>このデバイスのサービスが動いていないため、組織との接続状態はわかりません。</translation>
+    </message>
+    <message>
+        <source>network_minutes</source>
+        <translation>%1 分</translation>
+    </message>
+    <message>
+        <source>network_name_advice</source>
+        <translation>このネットワークのネームサーバーを確認するか、別のネットワークを試してください。</translation>
+    </message>
+    <message>
+        <source>network_name_by_proxy</source>
+        <translation>名前解決はプロキシが行います。</translation>
+    </message>
+    <message>
+        <source>network_name_found</source>
+        <translation>%1 は %2 です。</translation>
+    </message>
+    <message>
+        <source>network_name_not_found</source>
+        <translation>名前 %1 が見つかりません。</translation>
+    </message>
+    <message>
+        <source>network_name_not_needed</source>
+        <translation>サーバーはアドレスで設定されているため、名前解決は不要です。</translation>
+    </message>
+    <message>
+        <source>network_no_server</source>
+        <translation>未確認：このデバイスにサーバーが設定されていません。</translation>
+    </message>
+    <message>
+        <source>network_pipe_advice</source>
+        <translation>このデバイスを再起動してください。</translation>
+    </message>
+    <message>
+        <source>network_pipe_down</source>
+        <translation>このデバイスのサービスが動いていません。</translation>
+    </message>
+    <message>
+        <source>network_pipe_up</source>
+        <translation>このデバイスのサービスは動いています。</translation>
+    </message>
+    <message>
+        <source>network_proxy_advice</source>
+        <translation>システム設定のプロキシを確認してください。</translation>
+    </message>
+    <message>
+        <source>network_proxy_none</source>
+        <translation>プロキシは使用していません。</translation>
+    </message>
+    <message>
+        <source>network_proxy_not_found</source>
+        <translation>プロキシ %1 の名前が見つかりません。</translation>
+    </message>
+    <message>
+        <source>network_proxy_not_reached</source>
+        <translation>プロキシ %1 が応答しません。</translation>
+    </message>
+    <message>
+        <source>network_proxy_reached</source>
+        <translation>プロキシ %1 に接続できます。</translation>
+    </message>
+    <message>
+        <source>network_seconds</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
         <source>network_sentence</source>
         <translation>このデバイスが管理サービスにどのように接続しているかを確認できます。</translation>
     </message>
     <message>
+        <source>network_server_advice</source>
+        <translation>サーバーが停止しているか、ファイアウォールが妨げています。後でもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>network_server_by_proxy</source>
+        <translation>プロキシがこのデバイスから %1 への接続を許可していません。</translation>
+    </message>
+    <message>
+        <source>network_server_by_proxy_advice</source>
+        <translation>プロキシにこのアドレスの規則が必要か、ユーザー名が求められています。</translation>
+    </message>
+    <message>
+        <source>network_server_reached</source>
+        <translation>%1 に接続できます。</translation>
+    </message>
+    <message>
+        <source>network_server_refused</source>
+        <translation>%1 が接続を拒否しています。</translation>
+    </message>
+    <message>
+        <source>network_server_silent</source>
+        <translation>%1 が応答しません。</translation>
+    </message>
+    <message>
+        <source>network_sign_in_advice</source>
+        <translation>ブラウザーを開き、ネットワークにサインインしてください。</translation>
+    </message>
+    <message>
+        <source>network_sign_in_needed</source>
+        <translation>このネットワークでは先にサインインが必要です：%1。</translation>
+    </message>
+    <message>
+        <source>network_sign_in_none</source>
+        <translation>妨げになるサインインページはありません。</translation>
+    </message>
+    <message>
+        <source>network_skipped</source>
+        <translation>前の手順が失敗したため、確認していません。</translation>
+    </message>
+    <message>
+        <source>network_start</source>
+        <translation>再確認</translation>
+    </message>
+    <message>
+        <source>network_state_failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>network_state_not_checked</source>
+        <translation>未確認</translation>
+    </message>
+    <message>
+        <source>network_state_passed</source>
+        <translation>正常</translation>
+    </message>
+    <message>
+        <source>network_state_running</source>
+        <translation>確認中…</translation>
+    </message>
+    <message>
+        <source>network_state_waiting</source>
+        <translation>待機中</translation>
+    </message>
+    <message>
+        <source>network_step_adapter</source>
+        <translation>ネットワークアダプター</translation>
+    </message>
+    <message>
+        <source>network_step_address</source>
+        <translation>アドレス</translation>
+    </message>
+    <message>
+        <source>network_step_certificate</source>
+        <translation>証明書</translation>
+    </message>
+    <message>
+        <source>network_step_clock</source>
+        <translation>時計</translation>
+    </message>
+    <message>
+        <source>network_step_gateway</source>
+        <translation>ゲートウェイ</translation>
+    </message>
+    <message>
+        <source>network_step_name</source>
+        <translation>名前解決</translation>
+    </message>
+    <message>
+        <source>network_step_pipe</source>
+        <translation>このデバイスのサービス</translation>
+    </message>
+    <message>
+        <source>network_step_proxy</source>
+        <translation>プロキシ</translation>
+    </message>
+    <message>
+        <source>network_step_server</source>
+        <translation>サーバー</translation>
+    </message>
+    <message>
+        <source>network_step_sign_in</source>
+        <translation>サインインページ</translation>
+    </message>
+    <message>
+        <source>network_tell_administrator</source>
+        <translation>解決しない場合は、組織の管理者に連絡してください。</translation>
+    </message>
+    <message>
+        <source>network_tell_support</source>
+        <translation>解決しない場合の連絡先：%1。</translation>
+    </message>
+    <message>
+        <source>network_timed_out</source>
+        <translation>5 秒以内に結果が得られませんでした。</translation>
+    </message>
+    <message>
+        <source>network_timed_out_advice</source>
+        <translation>ネットワークが混雑している可能性があります。もう一度確認してください。</translation>
+    </message>
+    <message>
         <source>network_title</source>
         <translation>ネットワーク</translation>
+    </message>
+    <message>
+        <source>network_verdict_cancelled</source>
+        <translation>確認は中止されました。</translation>
+    </message>
+    <message>
+        <source>network_verdict_running</source>
+        <translation>組織のサーバーまでの経路を確認しています…</translation>
     </message>
     <message>
         <source>page_note_state_only</source>
@@ -62,6 +382,146 @@
     <message>
         <source>settings_title</source>
         <translation>設定</translation>
+    </message>
+    <message>
+        <source>support_mail</source>
+        <translation>メールを書く</translation>
+    </message>
+    <message>
+        <source>support_nobody</source>
+        <translation>このデバイスには連絡先が設定されていません。組織の管理者にお問い合わせください。</translation>
+    </message>
+    <message>
+        <source>support_page</source>
+        <translation>Web ページを開く</translation>
+    </message>
+    <message>
+        <source>support_title</source>
+        <translation>サポート</translation>
+    </message>
+    <message>
+        <source>support_trace_hint</source>
+        <translation>接続の記録は、どのメッセージがやり取りされたかをサポート担当者に示します。内容は含みません。</translation>
+    </message>
+    <message>
+        <source>text_copied</source>
+        <translation>コピーしました。</translation>
+    </message>
+    <message>
+        <source>text_copy</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>text_exists</source>
+        <translation>「%1」は既にあります。別の名前を選んでください。</translation>
+    </message>
+    <message>
+        <source>text_not_saved</source>
+        <translation>「%1」を保存できませんでした。</translation>
+    </message>
+    <message>
+        <source>text_save</source>
+        <translation>保存…</translation>
+    </message>
+    <message>
+        <source>text_save_type</source>
+        <translation>テキストファイル</translation>
+    </message>
+    <message>
+        <source>text_saved</source>
+        <translation>「%1」として保存しました。</translation>
+    </message>
+    <message>
+        <source>trace_sentence</source>
+        <translation>このプログラムとデバイスのサービスの間の最新 500 件のメッセージです。時刻、方向、キー、名前、サイズを記録し、内容は残しません。</translation>
+    </message>
+    <message>
+        <source>trace_title</source>
+        <translation>接続の記録</translation>
+    </message>
+    <message>
+        <source>update_available</source>
+        <translation>バージョン %1 を利用できます。</translation>
+    </message>
+    <message>
+        <source>update_available_size</source>
+        <translation>バージョン %1 を利用できます（%2）。</translation>
+    </message>
+    <message>
+        <source>update_bytes</source>
+        <translation>ダウンロード中：ここまで %1</translation>
+    </message>
+    <message>
+        <source>update_check</source>
+        <translation>再確認</translation>
+    </message>
+    <message>
+        <source>update_failed</source>
+        <translation>更新に失敗しました。</translation>
+    </message>
+    <message>
+        <source>update_forced</source>
+        <translation>組織がこのバージョンのインストールを求めています。</translation>
+    </message>
+    <message>
+        <source>update_later</source>
+        <translation>後で</translation>
+    </message>
+    <message>
+        <source>update_no_answer</source>
+        <translation>サービスに更新を依頼しましたが、1 分間応答がありません。</translation>
+    </message>
+    <message>
+        <source>update_no_service</source>
+        <translation>このデバイスのサービスが動いていません。更新の確認はサービスだけが行えます。</translation>
+    </message>
+    <message>
+        <source>update_now</source>
+        <translation>今すぐ更新</translation>
+    </message>
+    <message>
+        <source>update_old</source>
+        <translation>その後サービスとの接続が切れました。これは %1 時点の内容です。</translation>
+    </message>
+    <message>
+        <source>update_percent</source>
+        <translation>ダウンロード中：%1%</translation>
+    </message>
+    <message>
+        <source>update_ready</source>
+        <translation>更新をダウンロードしました。サービスがインストールします。</translation>
+    </message>
+    <message>
+        <source>update_requested</source>
+        <translation>サービスに更新を依頼しました。待っています…</translation>
+    </message>
+    <message>
+        <source>update_retry</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>update_silent</source>
+        <translation>サービスが自動でインストールします。操作は必要ありません。</translation>
+    </message>
+    <message>
+        <source>update_stalled</source>
+        <translation>1 分間進んでいません。</translation>
+    </message>
+    <message>
+        <source>update_title</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>update_told</source>
+        <translation>%1 現在</translation>
+    </message>
+    <message>
+        <source>update_unknown</source>
+        <translation>サービスの応答を待っています…</translation>
+    </message>
+    <message>
+        <source>update_up_to_date</source>
+        <translation>このプログラムは最新です。</translation>
     </message>
 </context>
 </TS>

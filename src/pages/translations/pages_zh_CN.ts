@@ -4,6 +4,10 @@
 <context>
     <name>Ryx</name>
     <message>
+        <source>about_copy</source>
+        <translation>全部复制</translation>
+    </message>
+    <message>
         <source>about_sentence</source>
         <translation>设备管理中您能看到的部分，与此设备上的服务协同工作。</translation>
     </message>
@@ -12,12 +16,24 @@
         <translation>关于 Velmora RYX</translation>
     </message>
     <message>
-        <source>fact_addresses</source>
-        <translation>网络地址</translation>
+        <source>fact_account</source>
+        <translation>管理员账户</translation>
+    </message>
+    <message>
+        <source>fact_user</source>
+        <translation>已登录用户</translation>
     </message>
     <message>
         <source>fact_version</source>
         <translation>版本</translation>
+    </message>
+    <message>
+        <source>licences_sentence</source>
+        <translation>此程序及其附带内容，各自遵循其许可证。</translation>
+    </message>
+    <message>
+        <source>licences_title</source>
+        <translation>许可证</translation>
     </message>
     <message>
         <source>live_sentence</source>
@@ -28,12 +44,316 @@
         <translation>直播频道</translation>
     </message>
     <message>
+        <source>network_adapter_none</source>
+        <translation>没有已连接的网络适配器。</translation>
+    </message>
+    <message>
+        <source>network_adapter_none_advice</source>
+        <translation>请插好网线，或打开 Wi-Fi。</translation>
+    </message>
+    <message>
+        <source>network_adapter_up</source>
+        <translation>正在使用：%1。</translation>
+    </message>
+    <message>
+        <source>network_address_found</source>
+        <translation>此设备的地址：%1。</translation>
+    </message>
+    <message>
+        <source>network_address_none</source>
+        <translation>网络没有为此设备分配地址。</translation>
+    </message>
+    <message>
+        <source>network_address_none_advice</source>
+        <translation>请断开网络后重新连接。</translation>
+    </message>
+    <message>
+        <source>network_cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>network_cancelled</source>
+        <translation>未检查，因为检查已取消。</translation>
+    </message>
+    <message>
+        <source>network_certificate_advice</source>
+        <translation>请勿在此网络中输入密码；可能有人在窃听。</translation>
+    </message>
+    <message>
+        <source>network_certificate_bad</source>
+        <translation>%1 无法证明其身份：%2</translation>
+    </message>
+    <message>
+        <source>network_certificate_good</source>
+        <translation>%1 已证明其身份。</translation>
+    </message>
+    <message>
+        <source>network_certificate_none</source>
+        <translation>未检查：此服务器未加密使用。</translation>
+    </message>
+    <message>
+        <source>network_certificate_unread</source>
+        <translation>%1 未建立安全连接。</translation>
+    </message>
+    <message>
+        <source>network_check_failed</source>
+        <translation>检查在“%1”处失败。</translation>
+    </message>
+    <message>
+        <source>network_check_no_server</source>
+        <translation>此设备上未设置组织的服务器；仅检查了此网络的出口。</translation>
+    </message>
+    <message>
+        <source>network_check_passed</source>
+        <translation>检查未发现阻碍。</translation>
+    </message>
+    <message>
+        <source>network_clock_advice</source>
+        <translation>请校准时钟；时间错误时无法建立安全连接。</translation>
+    </message>
+    <message>
+        <source>network_clock_right</source>
+        <translation>时钟与服务器一致。</translation>
+    </message>
+    <message>
+        <source>network_clock_unknown</source>
+        <translation>未检查：服务器没有给出时间。</translation>
+    </message>
+    <message>
+        <source>network_clock_wrong</source>
+        <translation>此设备的时钟与服务器相差 %1。</translation>
+    </message>
+    <message>
+        <source>network_days</source>
+        <translation>%1 天</translation>
+    </message>
+    <message>
+        <source>network_gateway_found</source>
+        <translation>此网络的出口是 %1。</translation>
+    </message>
+    <message>
+        <source>network_gateway_none</source>
+        <translation>没有已知的网络出口。</translation>
+    </message>
+    <message>
+        <source>network_gateway_none_advice</source>
+        <translation>请重启路由器，或连接其他网络。</translation>
+    </message>
+    <message>
+        <source>network_hours</source>
+        <translation>%1 小时</translation>
+    </message>
+    <message>
+        <source>network_link_other_way</source>
+        <translation>它可能使用其他路径，或尚未察觉。</translation>
+    </message>
+    <message>
+        <source>network_link_said</source>
+        <translation>服务报告的与组织的连接状态：“%1”。</translation>
+    </message>
+    <message>
+        <source>network_link_unknown</source>
+        <translation>由于此设备上的服务未运行，无法得知与组织的连接状态。</translation>
+    </message>
+    <message>
+        <source>network_minutes</source>
+        <translation>%1 分钟</translation>
+    </message>
+    <message>
+        <source>network_name_advice</source>
+        <translation>请检查此网络使用的名称服务器，或尝试其他网络。</translation>
+    </message>
+    <message>
+        <source>network_name_by_proxy</source>
+        <translation>名称由代理解析。</translation>
+    </message>
+    <message>
+        <source>network_name_found</source>
+        <translation>%1 解析为 %2。</translation>
+    </message>
+    <message>
+        <source>network_name_not_found</source>
+        <translation>找不到名称 %1。</translation>
+    </message>
+    <message>
+        <source>network_name_not_needed</source>
+        <translation>服务器以地址设置，无需解析名称。</translation>
+    </message>
+    <message>
+        <source>network_no_server</source>
+        <translation>未检查：此设备上未设置服务器。</translation>
+    </message>
+    <message>
+        <source>network_pipe_advice</source>
+        <translation>请重启此设备。</translation>
+    </message>
+    <message>
+        <source>network_pipe_down</source>
+        <translation>此设备上的服务未运行。</translation>
+    </message>
+    <message>
+        <source>network_pipe_up</source>
+        <translation>此设备上的服务正在运行。</translation>
+    </message>
+    <message>
+        <source>network_proxy_advice</source>
+        <translation>请检查系统设置中的代理。</translation>
+    </message>
+    <message>
+        <source>network_proxy_none</source>
+        <translation>未使用代理。</translation>
+    </message>
+    <message>
+        <source>network_proxy_not_found</source>
+        <translation>无法识别代理 %1 的名称。</translation>
+    </message>
+    <message>
+        <source>network_proxy_not_reached</source>
+        <translation>代理 %1 没有响应。</translation>
+    </message>
+    <message>
+        <source>network_proxy_reached</source>
+        <translation>可以连接代理 %1。</translation>
+    </message>
+    <message>
+        <source>network_seconds</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
         <source>network_sentence</source>
         <translation>在此查看此设备如何连接到管理服务。</translation>
     </message>
     <message>
+        <source>network_server_advice</source>
+        <translation>服务器可能已停机，或被防火墙阻挡。请稍后再试。</translation>
+    </message>
+    <message>
+        <source>network_server_by_proxy</source>
+        <translation>代理不允许此设备连接 %1。</translation>
+    </message>
+    <message>
+        <source>network_server_by_proxy_advice</source>
+        <translation>代理需要针对此地址的规则，或要求用户名。</translation>
+    </message>
+    <message>
+        <source>network_server_reached</source>
+        <translation>%1 接受连接。</translation>
+    </message>
+    <message>
+        <source>network_server_refused</source>
+        <translation>%1 拒绝连接。</translation>
+    </message>
+    <message>
+        <source>network_server_silent</source>
+        <translation>%1 没有响应。</translation>
+    </message>
+    <message>
+        <source>network_sign_in_advice</source>
+        <translation>请打开浏览器并登录网络。</translation>
+    </message>
+    <message>
+        <source>network_sign_in_needed</source>
+        <translation>此网络要求先登录：%1。</translation>
+    </message>
+    <message>
+        <source>network_sign_in_none</source>
+        <translation>没有登录页面阻挡。</translation>
+    </message>
+    <message>
+        <source>network_skipped</source>
+        <translation>未检查，因为前面的步骤失败。</translation>
+    </message>
+    <message>
+        <source>network_start</source>
+        <translation>再次检查</translation>
+    </message>
+    <message>
+        <source>network_state_failed</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>network_state_not_checked</source>
+        <translation>未检查</translation>
+    </message>
+    <message>
+        <source>network_state_passed</source>
+        <translation>正常</translation>
+    </message>
+    <message>
+        <source>network_state_running</source>
+        <translation>正在检查…</translation>
+    </message>
+    <message>
+        <source>network_state_waiting</source>
+        <translation>等待中</translation>
+    </message>
+    <message>
+        <source>network_step_adapter</source>
+        <translation>网络适配器</translation>
+    </message>
+    <message>
+        <source>network_step_address</source>
+        <translation>地址</translation>
+    </message>
+    <message>
+        <source>network_step_certificate</source>
+        <translation>证书</translation>
+    </message>
+    <message>
+        <source>network_step_clock</source>
+        <translation>时钟</translation>
+    </message>
+    <message>
+        <source>network_step_gateway</source>
+        <translation>网关</translation>
+    </message>
+    <message>
+        <source>network_step_name</source>
+        <translation>名称解析</translation>
+    </message>
+    <message>
+        <source>network_step_pipe</source>
+        <translation>此设备上的服务</translation>
+    </message>
+    <message>
+        <source>network_step_proxy</source>
+        <translation>代理</translation>
+    </message>
+    <message>
+        <source>network_step_server</source>
+        <translation>服务器</translation>
+    </message>
+    <message>
+        <source>network_step_sign_in</source>
+        <translation>登录页面</translation>
+    </message>
+    <message>
+        <source>network_tell_administrator</source>
+        <translation>如果仍无法解决，请联系您组织的管理员。</translation>
+    </message>
+    <message>
+        <source>network_tell_support</source>
+        <translation>如果仍无法解决，请联系 %1。</translation>
+    </message>
+    <message>
+        <source>network_timed_out</source>
+        <translation>五秒内没有结果。</translation>
+    </message>
+    <message>
+        <source>network_timed_out_advice</source>
+        <translation>网络可能过载。请再次检查。</translation>
+    </message>
+    <message>
         <source>network_title</source>
         <translation>网络</translation>
+    </message>
+    <message>
+        <source>network_verdict_cancelled</source>
+        <translation>检查已取消。</translation>
+    </message>
+    <message>
+        <source>network_verdict_running</source>
+        <translation>正在检查通往您组织服务器的路径…</translation>
     </message>
     <message>
         <source>page_note_state_only</source>
@@ -62,6 +382,146 @@
     <message>
         <source>settings_title</source>
         <translation>设置</translation>
+    </message>
+    <message>
+        <source>support_mail</source>
+        <translation>写邮件</translation>
+    </message>
+    <message>
+        <source>support_nobody</source>
+        <translation>此设备上未设置联系人。请咨询您组织的管理员。</translation>
+    </message>
+    <message>
+        <source>support_page</source>
+        <translation>打开网页</translation>
+    </message>
+    <message>
+        <source>support_title</source>
+        <translation>支持</translation>
+    </message>
+    <message>
+        <source>support_trace_hint</source>
+        <translation>连接记录向帮助您的人显示往来了哪些消息，但不含内容。</translation>
+    </message>
+    <message>
+        <source>text_copied</source>
+        <translation>已复制。</translation>
+    </message>
+    <message>
+        <source>text_copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>text_exists</source>
+        <translation>“%1”已存在。请选择其他名称。</translation>
+    </message>
+    <message>
+        <source>text_not_saved</source>
+        <translation>无法保存“%1”。</translation>
+    </message>
+    <message>
+        <source>text_save</source>
+        <translation>保存…</translation>
+    </message>
+    <message>
+        <source>text_save_type</source>
+        <translation>文本文件</translation>
+    </message>
+    <message>
+        <source>text_saved</source>
+        <translation>已另存为“%1”。</translation>
+    </message>
+    <message>
+        <source>trace_sentence</source>
+        <translation>此程序与本设备服务之间最近的 500 条消息：时间、方向、键、名称和大小。消息内容不会保留。</translation>
+    </message>
+    <message>
+        <source>trace_title</source>
+        <translation>连接记录</translation>
+    </message>
+    <message>
+        <source>update_available</source>
+        <translation>版本 %1 可用。</translation>
+    </message>
+    <message>
+        <source>update_available_size</source>
+        <translation>版本 %1 可用（%2）。</translation>
+    </message>
+    <message>
+        <source>update_bytes</source>
+        <translation>正在下载：已完成 %1</translation>
+    </message>
+    <message>
+        <source>update_check</source>
+        <translation>再次检查</translation>
+    </message>
+    <message>
+        <source>update_failed</source>
+        <translation>更新失败。</translation>
+    </message>
+    <message>
+        <source>update_forced</source>
+        <translation>您的组织要求安装此版本。</translation>
+    </message>
+    <message>
+        <source>update_later</source>
+        <translation>以后</translation>
+    </message>
+    <message>
+        <source>update_no_answer</source>
+        <translation>已请求服务更新，但一分钟内没有回应。</translation>
+    </message>
+    <message>
+        <source>update_no_service</source>
+        <translation>此设备上的服务未运行；只有它能查找更新。</translation>
+    </message>
+    <message>
+        <source>update_now</source>
+        <translation>立即更新</translation>
+    </message>
+    <message>
+        <source>update_old</source>
+        <translation>此后与服务的连接已断开；以上是它在 %1 所说的。</translation>
+    </message>
+    <message>
+        <source>update_percent</source>
+        <translation>正在下载：%1%</translation>
+    </message>
+    <message>
+        <source>update_ready</source>
+        <translation>更新已下载。服务将安装它。</translation>
+    </message>
+    <message>
+        <source>update_requested</source>
+        <translation>已请求服务更新，正在等待…</translation>
+    </message>
+    <message>
+        <source>update_retry</source>
+        <translation>重试</translation>
+    </message>
+    <message>
+        <source>update_silent</source>
+        <translation>服务会自行安装，无需任何操作。</translation>
+    </message>
+    <message>
+        <source>update_stalled</source>
+        <translation>一分钟内没有任何进展。</translation>
+    </message>
+    <message>
+        <source>update_title</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>update_told</source>
+        <translation>截至 %1</translation>
+    </message>
+    <message>
+        <source>update_unknown</source>
+        <translation>正在等待服务…</translation>
+    </message>
+    <message>
+        <source>update_up_to_date</source>
+        <translation>此程序已是最新版本。</translation>
     </message>
 </context>
 </TS>

@@ -90,6 +90,11 @@ std::vector<std::string> AppConfigData::Load(const std::string& path) {
     read("permissionList", permissionList);
     read("userAgreementUrl", userAgreementUrl);
     read("privacyPolicyUrl", privacyPolicyUrl);
+    read("networkServers", networkServers);
+    read("supportName", supportName);
+    read("supportTelephone", supportTelephone);
+    read("supportMail", supportMail);
+    read("supportPage", supportPage);
     read("publisherSuffix", publisherSuffix);
     read("publisherSigners", publisherSigners);
     return notes;

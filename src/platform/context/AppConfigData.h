@@ -45,6 +45,11 @@ public:
     std::vector<std::string> permissionList; ///< what the organisation was granted
     std::string userAgreementUrl;            ///< web pages; empty: there is no link
     std::string privacyPolicyUrl;
+    std::vector<std::string> networkServers; ///< addresses that the network page checks beside webServer
+    std::string supportName;                 ///< whom a user may ask for help, and how; empty: not known
+    std::string supportTelephone;
+    std::string supportMail;
+    std::string supportPage;
     std::string publisherSuffix; ///< with which the paths of the system's own programs end; empty: of none
     std::vector<std::string> publisherSigners; ///< whose signatures its own programs bear
 

@@ -7,6 +7,7 @@
 #include "platform/system/SystemSession.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QElapsedTimer>
 #include <QScopedValueRollback>
 #include <algorithm>
@@ -79,9 +80,13 @@ bool PipeClientService::Send(const std::string& packet) {
         return false;
     }
     const PipeExchange::Queued queued = m_exchange.PushPacket(packet);
+    const bool taken = queued != PipeExchange::Queued::Refused;
+    m_trace.Add(QDateTime::currentMSecsSinceEpoch(),
+                taken ? LinkTrace::Event::Sent : LinkTrace::Event::NotSent, RyxPackage::KeyOf(packet),
+                packet.size() - RyxPackage::HeaderSize);
     if (queued == PipeExchange::Queued::First)
         QMetaObject::invokeMethod(m_connection, &PipeConnection::WritePackets);
-    return queued != PipeExchange::Queued::Refused;
+    return taken;
 }
 
 void PipeClientService::AddController(ControllerBase* controller) {
@@ -166,6 +171,7 @@ void PipeClientService::FinishTurn() {
 }
 
 void PipeClientService::Deliver(PipeKey key, const std::string& body) {
+    m_trace.Add(QDateTime::currentMSecsSinceEpoch(), LinkTrace::Event::Received, key, body.size());
     const std::size_t controllers = m_controllers.size();
     const std::size_t subscribers = m_subscribers.size();
     DeliverInTurn([&](std::size_t number) {
@@ -193,6 +199,8 @@ void PipeClientService::Deliver(PipeKey key, const std::string& body) {
 void PipeClientService::DeliverConnectChange(bool connected) {
     const char* change = connected ? "connected" : "disconnected";
     LOG(INFO) << "PipeClientService::DeliverConnectChange " << change;
+    m_trace.Add(QDateTime::currentMSecsSinceEpoch(),
+                connected ? LinkTrace::Event::Connected : LinkTrace::Event::Disconnected);
     const std::size_t controllers = m_controllers.size();
     DeliverInTurn([&](std::size_t number) {
         if (number < controllers) {

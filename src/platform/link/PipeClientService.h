@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/link/LinkTrace.h"
 #include "platform/link/PipeConnection.h"
 #include "platform/link/PipeExchange.h"
 #include "platform/link/PipeKey.h"
@@ -70,6 +71,8 @@ public:
     /// Delivers one message to every receiver, as if it had just arrived.
     void Deliver(PipeKey key, const std::string& body);
 
+    const LinkTrace& Trace() const { return m_trace; }
+
     /// Runs one receiver's handling of `what`, a message's key or a change of the link, and logs what it
     /// throws.
     template <class What, class Handle>
@@ -123,5 +126,6 @@ private:
     // During a delivery they only grow, and what goes leaves its place empty.
     std::vector<ControllerBase*> m_controllers;
     std::deque<Subscriber> m_subscribers;
+    LinkTrace m_trace;
     Turn* m_turn = nullptr; // the innermost delivery under way
 };

@@ -33,6 +33,10 @@ bool RyxPackage::IsPackage(const std::string& packet) {
            packet.size() == HeaderSize + GetUint32(packet.data());
 }
 
+PipeKey RyxPackage::KeyOf(const std::string& packet) {
+    return static_cast<PipeKey>(static_cast<std::int32_t>(GetUint32(packet.data() + 4)));
+}
+
 void FrameDecoder::Append(const char* data, std::size_t size) {
     // Moving the rest to the front only when the used part outweighs it keeps the cost per byte constant.
     if (m_begin > m_buffer.size() / 2) {

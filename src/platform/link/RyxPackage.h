@@ -17,6 +17,9 @@ public:
 
     /// True when `packet` is exactly one whole frame.
     static bool IsPackage(const std::string& packet);
+
+    /// The key of a frame.
+    static PipeKey KeyOf(const std::string& packet);
 };
 
 /// Cuts a byte stream into frames. Takes bytes in pieces of any size; owned by one thread.

@@ -2,12 +2,11 @@
 
 #include "entity/JsonText.h"
 #include "platform/security/LogText.h"
+#include "platform/web/WebTransport.h"
 
 #include <QRegularExpression>
 #include <QSet>
-#include <QSslCertificate>
-#include <QSslConfiguration>
-#include <QSslSocket>
+#include <QSslError>
 
 namespace {
 
@@ -78,14 +77,8 @@ QUrl WebExchange::Redirect() const {
     return isRedirect ? m_request.url.resolved(target) : QUrl();
 }
 
-// Of all that Qt builds on, OpenSSL alone leaves the system's authorities out when it is given others. The
-// others tell the chain up to the authority that made it good.
 void WebExchange::CheckAuthority() {
-    if (!m_limits.givenAuthoritiesOnly ||
-        QSslSocket::sslLibraryVersionString().startsWith(QLatin1String("OpenSSL")))
-        return;
-    const QList<QSslCertificate> chain = m_reply->sslConfiguration().peerCertificateChain();
-    if (chain.isEmpty() || !m_reply->request().sslConfiguration().caCertificates().contains(chain.last()))
+    if (m_limits.givenAuthoritiesOnly && WebTransport::IsOfAnotherAuthority(*m_reply))
         End(WebError::NotTrusted, "the certificate is of none of the configured authorities");
 }
 

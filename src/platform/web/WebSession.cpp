@@ -3,16 +3,14 @@
 #include "platform/ProductConstants.h"
 #include "platform/security/LogText.h"
 #include "platform/web/WebExchange.h"
+#include "platform/web/WebTransport.h"
 
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 #include <QHttpMultiPart>
-#include <QNetworkProxyFactory>
 #include <QRandomGenerator>
 #include <QSet>
-#include <QSslCertificate>
-#include <QSslConfiguration>
 #include <algorithm>
 #include <cstring>
 
@@ -20,28 +18,6 @@ namespace {
 
 constexpr int MostRedirects = 5;
 constexpr unsigned long PauseSliceMs = 20;
-
-/// The configured proxy, or else the system's choice; none for the own machine, which plain http must not
-/// leave.
-class Proxies : public QNetworkProxyFactory {
-public:
-    explicit Proxies(const QString& configured) : m_configured(configured) {}
-
-    QList<QNetworkProxy> queryProxy(const QNetworkProxyQuery& query) override {
-        if (m_configured == QLatin1String(WebSettings::NoProxy) || IsLoopback(query.peerHostName()))
-            return {QNetworkProxy(QNetworkProxy::NoProxy)};
-        if (m_configured.isEmpty())
-            return systemProxyForQuery(query);
-        const QUrl url(m_configured);
-        const bool isSocks = url.scheme() == QLatin1String("socks5");
-        return {QNetworkProxy(isSocks ? QNetworkProxy::Socks5Proxy : QNetworkProxy::HttpProxy, url.host(),
-                              static_cast<quint16>(url.port(isSocks ? 1080 : 8080)), url.userName(),
-                              url.password())};
-    }
-
-private:
-    QString m_configured;
-};
 
 /// A body that can be sent once only. Qt would send any other request, one without a body too, again by
 /// itself when the connection breaks, even behind half an answer, and append the second answer to it.
@@ -131,16 +107,10 @@ std::unique_ptr<QHttpMultiPart> MakeForm(const WebFields& fields, const UploadSo
 }
 
 QSslConfiguration TlsConfiguration(const QString& caFile) {
-    QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
-    tls.setProtocol(QSsl::TlsV1_2OrLater);
-    tls.setPeerVerifyMode(QSslSocket::VerifyPeer);
-    if (!caFile.isEmpty()) {
-        const QList<QSslCertificate> trusted = QSslCertificate::fromPath(caFile);
-        if (trusted.isEmpty())
-            throw WebException(WebError::NotConfigured, "there is no certificate in " + LogText(caFile));
-        tls.setCaCertificates(trusted);
-    }
-    return tls;
+    const auto tls = WebTransport::Tls(caFile);
+    if (!tls)
+        throw WebException(WebError::NotConfigured, "there is no certificate in " + LogText(caFile));
+    return *tls;
 }
 
 /// The request for what is missing behind a break, provided that the file is still the same one.
@@ -171,7 +141,7 @@ bool UploadSource::HasChanged() const {
 
 WebSession::WebSession(const WebSettings& settings, const TaskControl& control)
     : m_settings(settings), m_control(control), m_fileDeadline(settings.transferDeadline) {
-    m_manager.setProxyFactory(new Proxies(settings.proxy)); // which the manager owns
+    m_manager.setProxyFactory(new WebTransport::Proxies(settings.proxy)); // which the manager owns
 }
 
 WebAnswer WebSession::Send(const WebRequest& request, const Sink& sink) {

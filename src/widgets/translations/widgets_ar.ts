@@ -16,12 +16,12 @@
         <translation>موافق</translation>
     </message>
     <message>
-        <source>fact_device_name</source>
-        <translation>اسم الجهاز</translation>
+        <source>fact_addresses</source>
+        <translation>عناوين الشبكة</translation>
     </message>
     <message>
-        <source>fact_local_service</source>
-        <translation>الخدمة على هذا الجهاز</translation>
+        <source>fact_device_name</source>
+        <translation>اسم الجهاز</translation>
     </message>
     <message>
         <source>fact_management_service</source>
@@ -34,14 +34,6 @@
     <message>
         <source>fact_organisation</source>
         <translation>المؤسسة</translation>
-    </message>
-    <message>
-        <source>fact_service_not_reached</source>
-        <translation>يتعذّر الوصول إليها</translation>
-    </message>
-    <message>
-        <source>fact_service_reached</source>
-        <translation>قيد التشغيل</translation>
     </message>
     <message>
         <source>loading</source>

@@ -16,12 +16,12 @@
         <translation>OK</translation>
     </message>
     <message>
-        <source>fact_device_name</source>
-        <translation>Gerätename</translation>
+        <source>fact_addresses</source>
+        <translation>Netzwerkadressen</translation>
     </message>
     <message>
-        <source>fact_local_service</source>
-        <translation>Dienst auf diesem Gerät</translation>
+        <source>fact_device_name</source>
+        <translation>Gerätename</translation>
     </message>
     <message>
         <source>fact_management_service</source>
@@ -34,14 +34,6 @@
     <message>
         <source>fact_organisation</source>
         <translation>Organisation</translation>
-    </message>
-    <message>
-        <source>fact_service_not_reached</source>
-        <translation>Nicht erreichbar</translation>
-    </message>
-    <message>
-        <source>fact_service_reached</source>
-        <translation>Läuft</translation>
     </message>
     <message>
         <source>loading</source>

@@ -16,12 +16,12 @@
         <translation>OK</translation>
     </message>
     <message>
-        <source>fact_device_name</source>
-        <translation>Device name</translation>
+        <source>fact_addresses</source>
+        <translation>Network addresses</translation>
     </message>
     <message>
-        <source>fact_local_service</source>
-        <translation>Service on this device</translation>
+        <source>fact_device_name</source>
+        <translation>Device name</translation>
     </message>
     <message>
         <source>fact_management_service</source>
@@ -34,14 +34,6 @@
     <message>
         <source>fact_organisation</source>
         <translation>Organisation</translation>
-    </message>
-    <message>
-        <source>fact_service_not_reached</source>
-        <translation>Not reachable</translation>
-    </message>
-    <message>
-        <source>fact_service_reached</source>
-        <translation>Running</translation>
     </message>
     <message>
         <source>loading</source>

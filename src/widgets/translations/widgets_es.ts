@@ -16,12 +16,12 @@
         <translation>Aceptar</translation>
     </message>
     <message>
-        <source>fact_device_name</source>
-        <translation>Nombre del dispositivo</translation>
+        <source>fact_addresses</source>
+        <translation>Direcciones de red</translation>
     </message>
     <message>
-        <source>fact_local_service</source>
-        <translation>Servicio en este dispositivo</translation>
+        <source>fact_device_name</source>
+        <translation>Nombre del dispositivo</translation>
     </message>
     <message>
         <source>fact_management_service</source>
@@ -34,14 +34,6 @@
     <message>
         <source>fact_organisation</source>
         <translation>Organización</translation>
-    </message>
-    <message>
-        <source>fact_service_not_reached</source>
-        <translation>No disponible</translation>
-    </message>
-    <message>
-        <source>fact_service_reached</source>
-        <translation>En marcha</translation>
     </message>
     <message>
         <source>loading</source>

@@ -16,12 +16,12 @@
         <translation>OK</translation>
     </message>
     <message>
-        <source>fact_device_name</source>
-        <translation>Nom de l’appareil</translation>
+        <source>fact_addresses</source>
+        <translation>Adresses réseau</translation>
     </message>
     <message>
-        <source>fact_local_service</source>
-        <translation>Service sur cet appareil</translation>
+        <source>fact_device_name</source>
+        <translation>Nom de l’appareil</translation>
     </message>
     <message>
         <source>fact_management_service</source>
@@ -34,14 +34,6 @@
     <message>
         <source>fact_organisation</source>
         <translation>Organisation</translation>
-    </message>
-    <message>
-        <source>fact_service_not_reached</source>
-        <translation>Injoignable</translation>
-    </message>
-    <message>
-        <source>fact_service_reached</source>
-        <translation>En marche</translation>
     </message>
     <message>
         <source>loading</source>

@@ -16,12 +16,12 @@
         <translation>OK</translation>
     </message>
     <message>
-        <source>fact_device_name</source>
-        <translation>デバイス名</translation>
+        <source>fact_addresses</source>
+        <translation>ネットワークアドレス</translation>
     </message>
     <message>
-        <source>fact_local_service</source>
-        <translation>このデバイスのサービス</translation>
+        <source>fact_device_name</source>
+        <translation>デバイス名</translation>
     </message>
     <message>
         <source>fact_management_service</source>
@@ -34,14 +34,6 @@
     <message>
         <source>fact_organisation</source>
         <translation>組織</translation>
-    </message>
-    <message>
-        <source>fact_service_not_reached</source>
-        <translation>接続できません</translation>
-    </message>
-    <message>
-        <source>fact_service_reached</source>
-        <translation>動作中</translation>
     </message>
     <message>
         <source>loading</source>

@@ -16,12 +16,12 @@
         <translation>确定</translation>
     </message>
     <message>
-        <source>fact_device_name</source>
-        <translation>设备名称</translation>
+        <source>fact_addresses</source>
+        <translation>网络地址</translation>
     </message>
     <message>
-        <source>fact_local_service</source>
-        <translation>此设备上的服务</translation>
+        <source>fact_device_name</source>
+        <translation>设备名称</translation>
     </message>
     <message>
         <source>fact_management_service</source>
@@ -34,14 +34,6 @@
     <message>
         <source>fact_organisation</source>
         <translation>组织</translation>
-    </message>
-    <message>
-        <source>fact_service_not_reached</source>
-        <translation>无法访问</translation>
-    </message>
-    <message>
-        <source>fact_service_reached</source>
-        <translation>正在运行</translation>
     </message>
     <message>
         <source>loading</source>
