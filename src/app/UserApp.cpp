@@ -14,6 +14,7 @@
 #include "platform/application/Watchdog.h"
 #include "platform/context/AppConfigData.h"
 #include "platform/context/AppHelper.h"
+#include "platform/context/DevicePermissions.h"
 #include "platform/context/RyxPath.h"
 #include "platform/link/PipeClientService.h"
 #include "platform/security/LogText.h"
@@ -164,9 +165,10 @@ int UserApp::Run(int argc, char** argv) {
     application.setProperty("controllers", QVariant::fromValue(controllers));
     for (ControllerBase* controller : std::set<ControllerBase*>(controllers.begin(), controllers.end()))
         controller->SetService(PipeClientService::Instance());
-    const PopupHistory popupHistory(QString::fromStdWString(RyxPath::GetUserDataDir()) +
-                                        QStringLiteral("/popups.json"),
-                                    &PickableWindow::IsOpen, Clock::System(), &application);
+    const QString dataFolder = QString::fromStdWString(RyxPath::GetUserDataDir());
+    const PopupHistory popupHistory(dataFolder + QStringLiteral("/popups.json"), &PickableWindow::IsOpen,
+                                    Clock::System(), &application);
+    const DevicePermissions permissions(dataFolder + QStringLiteral("/permissions.json"), &application);
     const PipeLinkGuard link;
 
     MainWindow window;

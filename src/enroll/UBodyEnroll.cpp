@@ -15,6 +15,7 @@
 #include "platform/application/RyxWindow.h"
 #include "platform/application/UsbDetector.h"
 #include "platform/context/AppContextData.h"
+#include "platform/context/DevicePermissions.h"
 #include "platform/link/ControllerBase.h"
 #include "platform/link/PipeClientService.h"
 #include "platform/security/LogText.h"
@@ -169,8 +170,7 @@ bool UBodyEnroll::InvokeEnrollComplete(const std::string& body) {
     AppContextData::Instance()->SetPermissionList(result.permissionList);
     if (!result.permissionList.empty()) {
         if (!m_permissions)
-            m_permissions = new UBodyEnrollPermissionsModal(this);
-        m_permissions->SetPermissions(result.permissionList);
+            m_permissions = new UBodyEnrollPermissionsModal(this, *DevicePermissions::OfApplication());
         if (IsInView())
             m_permissions->show();
         m_permissions->EnrollSuccessfullyToast();

@@ -26,6 +26,11 @@ PageFact CommonFacts::Organisation() {
             OrNone(MachineHelper::GetOrganisationName())};
 }
 
+QString CommonFacts::Manager() {
+    const std::string name = MachineHelper::GetOrganisationName();
+    return name.empty() ? Text("organisation_unnamed") : QString::fromStdString(name);
+}
+
 QString CommonFacts::OrNone(const QString& text) {
     return text.isEmpty() ? Text("fact_none") : text;
 }

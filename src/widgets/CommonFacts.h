@@ -15,6 +15,9 @@ PageFact LocalService();
 
 PageFact Organisation();
 
+/// The organisation's name, or words for it where it has none.
+QString Manager();
+
 /// The text, or the word for "none" when it is empty.
 QString OrNone(const QString& text);
 QString OrNone(const std::string& utf8);

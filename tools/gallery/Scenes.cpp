@@ -11,6 +11,7 @@
 #include "lock/USettingsLockMaskModal.h"
 #include "platform/context/AppConfigData.h"
 #include "platform/context/AppContextData.h"
+#include "platform/context/DevicePermissions.h"
 #include "platform/link/PipeClientService.h"
 #include "platform/system/SystemPipe.h"
 #include "popups/PopupHistory.h"
@@ -255,6 +256,7 @@ Stage::Stage(bool enrolled) : m_controller(std::make_unique<MainController>()) {
     const QMap<QString, ControllerBase*> controllers{{QStringLiteral("ryx"), m_controller.get()}};
     qApp->setProperty("controllers", QVariant::fromValue(controllers));
     m_popups = std::make_unique<PopupHistory>(QString(), nullptr, Clock::System(), qApp);
+    m_permissions = std::make_unique<DevicePermissions>(QString(), qApp);
     m_window = std::make_unique<MainWindow>();
     m_window->resize(1280, 720); // also where the screen is smaller
     m_window->show();

@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 
+class DevicePermissions;
 class MainController;
 class MainWindow;
 class PopupHistory;
@@ -48,6 +49,7 @@ private:
     std::unique_ptr<QLocalServer> m_service;
     std::unique_ptr<MainController> m_controller;
     std::unique_ptr<PopupHistory> m_popups;
+    std::unique_ptr<DevicePermissions> m_permissions;
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<QWidget> m_other;
     std::shared_ptr<void> m_owner;

@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>settings_sentence</source>
-        <translation>مظهر هذا البرنامج ولغته. يسري الاختيار فورًا.</translation>
+        <translation>مظهر هذا البرنامج ولغته، وما يُسمح لمؤسستك بفعله على هذا الجهاز.</translation>
     </message>
     <message>
         <source>settings_theme</source>

@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>settings_sentence</source>
-        <translation>Wie dieses Programm aussieht und welche Sprache es spricht. Die Auswahl gilt sofort.</translation>
+        <translation>Wie dieses Programm aussieht, welche Sprache es spricht, und was Ihre Organisation auf diesem Gerät darf.</translation>
     </message>
     <message>
         <source>settings_theme</source>

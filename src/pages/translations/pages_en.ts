@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>settings_sentence</source>
-        <translation>How this program looks and which language it speaks. The choice takes effect at once.</translation>
+        <translation>How this program looks and which language it speaks, and what your organisation may do on this device.</translation>
     </message>
     <message>
         <source>settings_theme</source>

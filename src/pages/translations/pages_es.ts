@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>settings_sentence</source>
-        <translation>El aspecto de este programa y su idioma. La elección se aplica de inmediato.</translation>
+        <translation>El aspecto de este programa y su idioma, y lo que su organización puede hacer en este dispositivo.</translation>
     </message>
     <message>
         <source>settings_theme</source>

@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>settings_sentence</source>
-        <translation>L’apparence de ce programme et sa langue. Votre choix prend effet immédiatement.</translation>
+        <translation>L’apparence de ce programme et sa langue, et ce que votre organisation peut faire sur cet appareil.</translation>
     </message>
     <message>
         <source>settings_theme</source>

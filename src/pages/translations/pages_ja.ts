@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>settings_sentence</source>
-        <translation>このプログラムの外観と言語です。選択はすぐに反映されます。</translation>
+        <translation>このプログラムの外観と言語、および組織がこのデバイスで行える操作です。</translation>
     </message>
     <message>
         <source>settings_theme</source>

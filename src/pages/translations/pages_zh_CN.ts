@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>settings_sentence</source>
-        <translation>此程序的外观和语言。选择后立即生效。</translation>
+        <translation>此程序的外观和语言，以及您的组织可以在此设备上执行的操作。</translation>
     </message>
     <message>
         <source>settings_theme</source>
