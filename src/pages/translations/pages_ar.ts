@@ -48,6 +48,22 @@
         <translation>مظهر هذا البرنامج ولغته، وما يُسمح لمؤسستك بفعله على هذا الجهاز.</translation>
     </message>
     <message>
+        <source>settings_text_large</source>
+        <translation>كبير</translation>
+    </message>
+    <message>
+        <source>settings_text_larger</source>
+        <translation>كبير جدًا</translation>
+    </message>
+    <message>
+        <source>settings_text_normal</source>
+        <translation>عادي</translation>
+    </message>
+    <message>
+        <source>settings_text_size</source>
+        <translation>حجم النص</translation>
+    </message>
+    <message>
         <source>settings_theme</source>
         <translation>المظهر</translation>
     </message>
@@ -58,6 +74,10 @@
     <message>
         <source>settings_theme_light</source>
         <translation>فاتح</translation>
+    </message>
+    <message>
+        <source>settings_theme_system</source>
+        <translation>مثل النظام</translation>
     </message>
     <message>
         <source>settings_title</source>

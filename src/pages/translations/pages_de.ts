@@ -48,6 +48,22 @@
         <translation>Wie dieses Programm aussieht, welche Sprache es spricht, und was Ihre Organisation auf diesem Gerät darf.</translation>
     </message>
     <message>
+        <source>settings_text_large</source>
+        <translation>Groß</translation>
+    </message>
+    <message>
+        <source>settings_text_larger</source>
+        <translation>Sehr groß</translation>
+    </message>
+    <message>
+        <source>settings_text_normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>settings_text_size</source>
+        <translation>Schriftgröße</translation>
+    </message>
+    <message>
         <source>settings_theme</source>
         <translation>Erscheinungsbild</translation>
     </message>
@@ -58,6 +74,10 @@
     <message>
         <source>settings_theme_light</source>
         <translation>Hell</translation>
+    </message>
+    <message>
+        <source>settings_theme_system</source>
+        <translation>Wie das System</translation>
     </message>
     <message>
         <source>settings_title</source>

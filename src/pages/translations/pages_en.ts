@@ -48,6 +48,22 @@
         <translation>How this program looks and which language it speaks, and what your organisation may do on this device.</translation>
     </message>
     <message>
+        <source>settings_text_large</source>
+        <translation>Large</translation>
+    </message>
+    <message>
+        <source>settings_text_larger</source>
+        <translation>Very large</translation>
+    </message>
+    <message>
+        <source>settings_text_normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>settings_text_size</source>
+        <translation>Text size</translation>
+    </message>
+    <message>
         <source>settings_theme</source>
         <translation>Appearance</translation>
     </message>
@@ -58,6 +74,10 @@
     <message>
         <source>settings_theme_light</source>
         <translation>Light</translation>
+    </message>
+    <message>
+        <source>settings_theme_system</source>
+        <translation>As the system</translation>
     </message>
     <message>
         <source>settings_title</source>

@@ -48,6 +48,22 @@
         <translation>El aspecto de este programa y su idioma, y lo que su organización puede hacer en este dispositivo.</translation>
     </message>
     <message>
+        <source>settings_text_large</source>
+        <translation>Grande</translation>
+    </message>
+    <message>
+        <source>settings_text_larger</source>
+        <translation>Muy grande</translation>
+    </message>
+    <message>
+        <source>settings_text_normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>settings_text_size</source>
+        <translation>Tamaño del texto</translation>
+    </message>
+    <message>
         <source>settings_theme</source>
         <translation>Apariencia</translation>
     </message>
@@ -58,6 +74,10 @@
     <message>
         <source>settings_theme_light</source>
         <translation>Claro</translation>
+    </message>
+    <message>
+        <source>settings_theme_system</source>
+        <translation>Como el sistema</translation>
     </message>
     <message>
         <source>settings_title</source>

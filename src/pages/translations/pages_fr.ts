@@ -48,6 +48,22 @@
         <translation>L’apparence de ce programme et sa langue, et ce que votre organisation peut faire sur cet appareil.</translation>
     </message>
     <message>
+        <source>settings_text_large</source>
+        <translation>Grande</translation>
+    </message>
+    <message>
+        <source>settings_text_larger</source>
+        <translation>Très grande</translation>
+    </message>
+    <message>
+        <source>settings_text_normal</source>
+        <translation>Normale</translation>
+    </message>
+    <message>
+        <source>settings_text_size</source>
+        <translation>Taille du texte</translation>
+    </message>
+    <message>
         <source>settings_theme</source>
         <translation>Apparence</translation>
     </message>
@@ -58,6 +74,10 @@
     <message>
         <source>settings_theme_light</source>
         <translation>Clair</translation>
+    </message>
+    <message>
+        <source>settings_theme_system</source>
+        <translation>Comme le système</translation>
     </message>
     <message>
         <source>settings_title</source>

@@ -48,6 +48,22 @@
         <translation>このプログラムの外観と言語、および組織がこのデバイスで行える操作です。</translation>
     </message>
     <message>
+        <source>settings_text_large</source>
+        <translation>大</translation>
+    </message>
+    <message>
+        <source>settings_text_larger</source>
+        <translation>特大</translation>
+    </message>
+    <message>
+        <source>settings_text_normal</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>settings_text_size</source>
+        <translation>文字サイズ</translation>
+    </message>
+    <message>
         <source>settings_theme</source>
         <translation>外観</translation>
     </message>
@@ -58,6 +74,10 @@
     <message>
         <source>settings_theme_light</source>
         <translation>ライト</translation>
+    </message>
+    <message>
+        <source>settings_theme_system</source>
+        <translation>システムに合わせる</translation>
     </message>
     <message>
         <source>settings_title</source>

@@ -48,6 +48,22 @@
         <translation>此程序的外观和语言，以及您的组织可以在此设备上执行的操作。</translation>
     </message>
     <message>
+        <source>settings_text_large</source>
+        <translation>大</translation>
+    </message>
+    <message>
+        <source>settings_text_larger</source>
+        <translation>特大</translation>
+    </message>
+    <message>
+        <source>settings_text_normal</source>
+        <translation>标准</translation>
+    </message>
+    <message>
+        <source>settings_text_size</source>
+        <translation>文字大小</translation>
+    </message>
+    <message>
         <source>settings_theme</source>
         <translation>外观</translation>
     </message>
@@ -58,6 +74,10 @@
     <message>
         <source>settings_theme_light</source>
         <translation>浅色</translation>
+    </message>
+    <message>
+        <source>settings_theme_system</source>
+        <translation>跟随系统</translation>
     </message>
     <message>
         <source>settings_title</source>
