@@ -8,6 +8,7 @@
 #include "controllers/PopupsController.h"
 #include "controllers/SettingsLockController.h"
 #include "lock/UDeviceScreenLock.h"
+#include "pages/LiveChannels.h"
 #include "platform/ProductConstants.h"
 #include "platform/application/QtSingleApplication.h"
 #include "platform/application/QuitDeadline.h"
@@ -169,6 +170,7 @@ int UserApp::Run(int argc, char** argv) {
     const PopupHistory popupHistory(dataFolder + QStringLiteral("/popups.json"), &PickableWindow::IsOpen,
                                     Clock::System(), &application);
     const DevicePermissions permissions(dataFolder + QStringLiteral("/permissions.json"), &application);
+    const LiveChannels channels(&application);
     const PipeLinkGuard link;
 
     MainWindow window;

@@ -9,6 +9,7 @@
 #include "lock/UBodySettingLockModal.h"
 #include "lock/UDeviceScreenLock.h"
 #include "lock/USettingsLockMaskModal.h"
+#include "pages/LiveChannels.h"
 #include "platform/context/AppConfigData.h"
 #include "platform/context/AppContextData.h"
 #include "platform/context/DevicePermissions.h"
@@ -257,6 +258,7 @@ Stage::Stage(bool enrolled) : m_controller(std::make_unique<MainController>()) {
     qApp->setProperty("controllers", QVariant::fromValue(controllers));
     m_popups = std::make_unique<PopupHistory>(QString(), nullptr, Clock::System(), qApp);
     m_permissions = std::make_unique<DevicePermissions>(QString(), qApp);
+    m_channels = std::make_unique<LiveChannels>(qApp);
     m_window = std::make_unique<MainWindow>();
     m_window->resize(1280, 720); // also where the screen is smaller
     m_window->show();

@@ -7,6 +7,7 @@
 #include <string>
 
 class DevicePermissions;
+class LiveChannels;
 class MainController;
 class MainWindow;
 class PopupHistory;
@@ -50,6 +51,7 @@ private:
     std::unique_ptr<MainController> m_controller;
     std::unique_ptr<PopupHistory> m_popups;
     std::unique_ptr<DevicePermissions> m_permissions;
+    std::unique_ptr<LiveChannels> m_channels;
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<QWidget> m_other;
     std::shared_ptr<void> m_owner;

@@ -20,12 +20,64 @@
         <translation>الإصدار</translation>
     </message>
     <message>
+        <source>live_no_player</source>
+        <translation>لا يوجد على هذا الجهاز برنامج يشغّل عناوين «%1».</translation>
+    </message>
+    <message>
+        <source>live_no_service</source>
+        <translation>يتعذر الوصول إلى الخدمة على هذا الجهاز: لا يمكن تشغيل القنوات أو إيقافها الآن.</translation>
+    </message>
+    <message>
+        <source>live_none</source>
+        <translation>لا تقدم مؤسستك أي قنوات حاليًا.</translation>
+    </message>
+    <message>
+        <source>live_not_enrolled</source>
+        <translation>تظهر القنوات هنا بعد تسجيل هذا الجهاز.</translation>
+    </message>
+    <message>
+        <source>live_old</source>
+        <translation>هذه القائمة تعود إلى ما قبل انقطاع الاتصال.</translation>
+    </message>
+    <message>
+        <source>live_play</source>
+        <translation>تشغيل</translation>
+    </message>
+    <message>
+        <source>live_playing</source>
+        <translation>قيد التشغيل</translation>
+    </message>
+    <message>
+        <source>live_refused</source>
+        <translation>لا يمكن تشغيل عنوان هذه القناة. أبلغ المسؤول.</translation>
+    </message>
+    <message>
         <source>live_sentence</source>
         <translation>تُشغَّل هنا وتُوقف القنوات التي ترسلها مؤسستك إلى هذه الشاشة.</translation>
     </message>
     <message>
+        <source>live_stop</source>
+        <translation>إيقاف</translation>
+    </message>
+    <message>
+        <source>live_stopped</source>
+        <translation>متوقفة</translation>
+    </message>
+    <message>
+        <source>live_stopped_told</source>
+        <translation>أُوقفت القناة. إذا كان المشغّل لا يزال مفتوحًا فأغلقه بنفسك.</translation>
+    </message>
+    <message>
         <source>live_title</source>
         <translation>القنوات المباشرة</translation>
+    </message>
+    <message>
+        <source>live_unnamed</source>
+        <translation>القناة %1</translation>
+    </message>
+    <message>
+        <source>live_waiting</source>
+        <translation>لم تُبلغ الخدمة بعد بالقنوات المتاحة.</translation>
     </message>
     <message>
         <source>network_sentence</source>
@@ -34,10 +86,6 @@
     <message>
         <source>network_title</source>
         <translation>الشبكة</translation>
-    </message>
-    <message>
-        <source>page_note_state_only</source>
-        <translation>حاليًا تعرض هذه الصفحة الحالة الراهنة فقط.</translation>
     </message>
     <message>
         <source>settings_language</source>

@@ -20,12 +20,64 @@
         <translation>Version</translation>
     </message>
     <message>
+        <source>live_no_player</source>
+        <translation>There is no program on this device that plays “%1” addresses.</translation>
+    </message>
+    <message>
+        <source>live_no_service</source>
+        <translation>The service on this device is not reached: channels cannot be started or stopped now.</translation>
+    </message>
+    <message>
+        <source>live_none</source>
+        <translation>Your organisation offers no channels at the moment.</translation>
+    </message>
+    <message>
+        <source>live_not_enrolled</source>
+        <translation>Channels appear here once this device is enrolled.</translation>
+    </message>
+    <message>
+        <source>live_old</source>
+        <translation>This list is from before the connection was lost.</translation>
+    </message>
+    <message>
+        <source>live_play</source>
+        <translation>Play</translation>
+    </message>
+    <message>
+        <source>live_playing</source>
+        <translation>Playing</translation>
+    </message>
+    <message>
+        <source>live_refused</source>
+        <translation>This channel’s address cannot be played. Tell your administrator.</translation>
+    </message>
+    <message>
         <source>live_sentence</source>
         <translation>Channels that your organisation sends to this display are started and stopped here.</translation>
     </message>
     <message>
+        <source>live_stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>live_stopped</source>
+        <translation>Stopped</translation>
+    </message>
+    <message>
+        <source>live_stopped_told</source>
+        <translation>The channel is stopped. If the player is still open, close it yourself.</translation>
+    </message>
+    <message>
         <source>live_title</source>
         <translation>Live channels</translation>
+    </message>
+    <message>
+        <source>live_unnamed</source>
+        <translation>Channel %1</translation>
+    </message>
+    <message>
+        <source>live_waiting</source>
+        <translation>The service has not told yet which channels there are.</translation>
     </message>
     <message>
         <source>network_sentence</source>
@@ -34,10 +86,6 @@
     <message>
         <source>network_title</source>
         <translation>Network</translation>
-    </message>
-    <message>
-        <source>page_note_state_only</source>
-        <translation>For now this page only shows how things stand.</translation>
     </message>
     <message>
         <source>settings_language</source>

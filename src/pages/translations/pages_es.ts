@@ -20,12 +20,64 @@
         <translation>Versión</translation>
     </message>
     <message>
+        <source>live_no_player</source>
+        <translation>En este dispositivo no hay ningún programa que reproduzca direcciones «%1».</translation>
+    </message>
+    <message>
+        <source>live_no_service</source>
+        <translation>No se puede contactar con el servicio de este dispositivo: ahora no se pueden iniciar ni detener canales.</translation>
+    </message>
+    <message>
+        <source>live_none</source>
+        <translation>Su organización no ofrece ningún canal en este momento.</translation>
+    </message>
+    <message>
+        <source>live_not_enrolled</source>
+        <translation>Los canales aparecerán aquí cuando este dispositivo esté inscrito.</translation>
+    </message>
+    <message>
+        <source>live_old</source>
+        <translation>Esta lista es anterior a la pérdida de la conexión.</translation>
+    </message>
+    <message>
+        <source>live_play</source>
+        <translation>Reproducir</translation>
+    </message>
+    <message>
+        <source>live_playing</source>
+        <translation>En reproducción</translation>
+    </message>
+    <message>
+        <source>live_refused</source>
+        <translation>La dirección de este canal no se puede reproducir. Avise a su administrador.</translation>
+    </message>
+    <message>
         <source>live_sentence</source>
         <translation>Aquí se inician y se detienen los canales que su organización envía a esta pantalla.</translation>
     </message>
     <message>
+        <source>live_stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>live_stopped</source>
+        <translation>Detenido</translation>
+    </message>
+    <message>
+        <source>live_stopped_told</source>
+        <translation>El canal se ha detenido. Si el reproductor sigue abierto, ciérrelo usted mismo.</translation>
+    </message>
+    <message>
         <source>live_title</source>
         <translation>Canales en directo</translation>
+    </message>
+    <message>
+        <source>live_unnamed</source>
+        <translation>Canal %1</translation>
+    </message>
+    <message>
+        <source>live_waiting</source>
+        <translation>El servicio aún no ha indicado qué canales hay.</translation>
     </message>
     <message>
         <source>network_sentence</source>
@@ -34,10 +86,6 @@
     <message>
         <source>network_title</source>
         <translation>Red</translation>
-    </message>
-    <message>
-        <source>page_note_state_only</source>
-        <translation>Por ahora, esta página solo muestra el estado actual.</translation>
     </message>
     <message>
         <source>settings_language</source>

@@ -20,12 +20,64 @@
         <translation>Version</translation>
     </message>
     <message>
+        <source>live_no_player</source>
+        <translation>Aucun programme de cet appareil ne lit les adresses « %1 ».</translation>
+    </message>
+    <message>
+        <source>live_no_service</source>
+        <translation>Le service de cet appareil est injoignable : les chaînes ne peuvent être ni lancées ni arrêtées pour l’instant.</translation>
+    </message>
+    <message>
+        <source>live_none</source>
+        <translation>Votre organisation ne propose aucune chaîne pour le moment.</translation>
+    </message>
+    <message>
+        <source>live_not_enrolled</source>
+        <translation>Les chaînes s’affichent ici dès que cet appareil est inscrit.</translation>
+    </message>
+    <message>
+        <source>live_old</source>
+        <translation>Cette liste date d’avant la perte de la connexion.</translation>
+    </message>
+    <message>
+        <source>live_play</source>
+        <translation>Lire</translation>
+    </message>
+    <message>
+        <source>live_playing</source>
+        <translation>En lecture</translation>
+    </message>
+    <message>
+        <source>live_refused</source>
+        <translation>L’adresse de cette chaîne ne peut pas être lue. Prévenez votre administrateur.</translation>
+    </message>
+    <message>
         <source>live_sentence</source>
         <translation>Les chaînes que votre organisation envoie à cet écran se lancent et s’arrêtent ici.</translation>
     </message>
     <message>
+        <source>live_stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>live_stopped</source>
+        <translation>Arrêtée</translation>
+    </message>
+    <message>
+        <source>live_stopped_told</source>
+        <translation>La chaîne est arrêtée. Si le lecteur est encore ouvert, fermez-le vous-même.</translation>
+    </message>
+    <message>
         <source>live_title</source>
         <translation>Chaînes en direct</translation>
+    </message>
+    <message>
+        <source>live_unnamed</source>
+        <translation>Chaîne %1</translation>
+    </message>
+    <message>
+        <source>live_waiting</source>
+        <translation>Le service n’a pas encore indiqué les chaînes disponibles.</translation>
     </message>
     <message>
         <source>network_sentence</source>
@@ -34,10 +86,6 @@
     <message>
         <source>network_title</source>
         <translation>Réseau</translation>
-    </message>
-    <message>
-        <source>page_note_state_only</source>
-        <translation>Pour l’instant, cette page ne fait qu’afficher l’état actuel.</translation>
     </message>
     <message>
         <source>settings_language</source>

@@ -20,12 +20,64 @@
         <translation>バージョン</translation>
     </message>
     <message>
+        <source>live_no_player</source>
+        <translation>このデバイスには「%1」アドレスを再生できるプログラムがありません。</translation>
+    </message>
+    <message>
+        <source>live_no_service</source>
+        <translation>このデバイスのサービスに接続できないため、今はチャンネルを開始・停止できません。</translation>
+    </message>
+    <message>
+        <source>live_none</source>
+        <translation>現在、組織が提供するチャンネルはありません。</translation>
+    </message>
+    <message>
+        <source>live_not_enrolled</source>
+        <translation>このデバイスが登録されると、ここにチャンネルが表示されます。</translation>
+    </message>
+    <message>
+        <source>live_old</source>
+        <translation>この一覧は接続が切れる前のものです。</translation>
+    </message>
+    <message>
+        <source>live_play</source>
+        <translation>再生</translation>
+    </message>
+    <message>
+        <source>live_playing</source>
+        <translation>再生中</translation>
+    </message>
+    <message>
+        <source>live_refused</source>
+        <translation>このチャンネルのアドレスは再生できません。管理者に連絡してください。</translation>
+    </message>
+    <message>
         <source>live_sentence</source>
         <translation>組織がこのディスプレイに配信するチャンネルをここで開始・停止します。</translation>
     </message>
     <message>
+        <source>live_stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>live_stopped</source>
+        <translation>停止中</translation>
+    </message>
+    <message>
+        <source>live_stopped_told</source>
+        <translation>チャンネルを停止しました。プレーヤーが開いたままの場合は、ご自身で閉じてください。</translation>
+    </message>
+    <message>
         <source>live_title</source>
         <translation>ライブチャンネル</translation>
+    </message>
+    <message>
+        <source>live_unnamed</source>
+        <translation>チャンネル %1</translation>
+    </message>
+    <message>
+        <source>live_waiting</source>
+        <translation>サービスからチャンネルの一覧がまだ届いていません。</translation>
     </message>
     <message>
         <source>network_sentence</source>
@@ -34,10 +86,6 @@
     <message>
         <source>network_title</source>
         <translation>ネットワーク</translation>
-    </message>
-    <message>
-        <source>page_note_state_only</source>
-        <translation>現在のところ、このページには状態のみが表示されます。</translation>
     </message>
     <message>
         <source>settings_language</source>

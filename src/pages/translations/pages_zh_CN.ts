@@ -20,12 +20,64 @@
         <translation>版本</translation>
     </message>
     <message>
+        <source>live_no_player</source>
+        <translation>此设备上没有可播放“%1”地址的程序。</translation>
+    </message>
+    <message>
+        <source>live_no_service</source>
+        <translation>无法连接此设备上的服务：目前无法启动或停止频道。</translation>
+    </message>
+    <message>
+        <source>live_none</source>
+        <translation>您的组织目前不提供任何频道。</translation>
+    </message>
+    <message>
+        <source>live_not_enrolled</source>
+        <translation>此设备注册后，频道将显示在此处。</translation>
+    </message>
+    <message>
+        <source>live_old</source>
+        <translation>此列表来自连接中断之前。</translation>
+    </message>
+    <message>
+        <source>live_play</source>
+        <translation>播放</translation>
+    </message>
+    <message>
+        <source>live_playing</source>
+        <translation>正在播放</translation>
+    </message>
+    <message>
+        <source>live_refused</source>
+        <translation>无法播放此频道的地址。请告知管理员。</translation>
+    </message>
+    <message>
         <source>live_sentence</source>
         <translation>您的组织发送到此显示屏的频道在此启动和停止。</translation>
     </message>
     <message>
+        <source>live_stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>live_stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>live_stopped_told</source>
+        <translation>频道已停止。如果播放器仍打开，请自行关闭。</translation>
+    </message>
+    <message>
         <source>live_title</source>
         <translation>直播频道</translation>
+    </message>
+    <message>
+        <source>live_unnamed</source>
+        <translation>频道 %1</translation>
+    </message>
+    <message>
+        <source>live_waiting</source>
+        <translation>服务尚未告知有哪些频道。</translation>
     </message>
     <message>
         <source>network_sentence</source>
@@ -34,10 +86,6 @@
     <message>
         <source>network_title</source>
         <translation>网络</translation>
-    </message>
-    <message>
-        <source>page_note_state_only</source>
-        <translation>目前此页面仅显示当前状态。</translation>
     </message>
     <message>
         <source>settings_language</source>
