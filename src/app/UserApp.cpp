@@ -8,6 +8,7 @@
 #include "controllers/PopupsController.h"
 #include "controllers/SettingsLockController.h"
 #include "lock/UDeviceScreenLock.h"
+#include "pages/ActHistory.h"
 #include "pages/LiveChannels.h"
 #include "platform/ProductConstants.h"
 #include "platform/application/QtSingleApplication.h"
@@ -171,6 +172,10 @@ int UserApp::Run(int argc, char** argv) {
                                     Clock::System(), &application);
     const DevicePermissions permissions(dataFolder + QStringLiteral("/permissions.json"), &application);
     const LiveChannels channels(&application);
+    ActHistory acts(dataFolder + QStringLiteral("/acts.json"), permissions, Clock::System(), &application);
+    connect(&screenLock, &UDeviceScreenLock::VisibleChanged, &acts, [&acts](bool visible) {
+        acts.Add(visible ? ActHistory::Act::Locked : ActHistory::Act::Unlocked);
+    });
     const PipeLinkGuard link;
 
     MainWindow window;

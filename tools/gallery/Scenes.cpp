@@ -9,6 +9,7 @@
 #include "lock/UBodySettingLockModal.h"
 #include "lock/UDeviceScreenLock.h"
 #include "lock/USettingsLockMaskModal.h"
+#include "pages/ActHistory.h"
 #include "pages/LiveChannels.h"
 #include "platform/context/AppConfigData.h"
 #include "platform/context/AppContextData.h"
@@ -259,6 +260,7 @@ Stage::Stage(bool enrolled) : m_controller(std::make_unique<MainController>()) {
     m_popups = std::make_unique<PopupHistory>(QString(), nullptr, Clock::System(), qApp);
     m_permissions = std::make_unique<DevicePermissions>(QString(), qApp);
     m_channels = std::make_unique<LiveChannels>(qApp);
+    m_acts = std::make_unique<ActHistory>(QString(), *m_permissions, Clock::System(), qApp);
     m_window = std::make_unique<MainWindow>();
     m_window->resize(1280, 720); // also where the screen is smaller
     m_window->show();
@@ -302,7 +304,7 @@ QWidget& Stage::Subject() {
 
 QVector<Scene> AllScenes() {
     return PageScenes() + ShellScenes() + NoticeScenes() + EnrollPageScenes() + EnrollScenes() +
-           FeedbackScenes() + MessageScenes() + PopupScenes() + OtherScenes();
+           FeedbackScenes() + MessageScenes() + PopupScenes() + SettingScenes() + OtherScenes();
 }
 
 bool WaitFor(const std::function<bool()>& condition) {

@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 
+class ActHistory;
 class DevicePermissions;
 class LiveChannels;
 class MainController;
@@ -52,6 +53,7 @@ private:
     std::unique_ptr<PopupHistory> m_popups;
     std::unique_ptr<DevicePermissions> m_permissions;
     std::unique_ptr<LiveChannels> m_channels;
+    std::unique_ptr<ActHistory> m_acts;
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<QWidget> m_other;
     std::shared_ptr<void> m_owner;
@@ -80,6 +82,9 @@ QVector<Scene> EnrollScenes();
 
 /// Those of the administrator's messages.
 QVector<Scene> MessageScenes();
+
+/// Those of the settings and of the live channels.
+QVector<Scene> SettingScenes();
 
 /// Lets layouts, deferred updates and queued events come to rest.
 void Settle();

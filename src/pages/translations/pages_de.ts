@@ -12,6 +12,50 @@
         <translation>Über Velmora RYX</translation>
     </message>
     <message>
+        <source>act_clock</source>
+        <translation>Das Uhrzeitformat wurde eingestellt.</translation>
+    </message>
+    <message>
+        <source>act_locked</source>
+        <translation>Der Bildschirm wurde gesperrt.</translation>
+    </message>
+    <message>
+        <source>act_message</source>
+        <translation>Eine Nachricht oder Datei kam von der Administration.</translation>
+    </message>
+    <message>
+        <source>act_permissions</source>
+        <translation>Es wurde geändert, was die Organisation darf.</translation>
+    </message>
+    <message>
+        <source>act_unenrolled</source>
+        <translation>Das Gerät wird nicht mehr von der Organisation verwaltet.</translation>
+    </message>
+    <message>
+        <source>act_unlocked</source>
+        <translation>Der Bildschirm wurde entsperrt.</translation>
+    </message>
+    <message>
+        <source>act_wallpaper</source>
+        <translation>Das Hintergrundbild wurde eingestellt.</translation>
+    </message>
+    <message>
+        <source>act_windows</source>
+        <translation>Fenster anderer Programme wurden zum Schließen aufgefordert: %1</translation>
+    </message>
+    <message>
+        <source>acts_none</source>
+        <translation>Bisher nichts.</translation>
+    </message>
+    <message>
+        <source>acts_older</source>
+        <translation>Ältere anzeigen (%1)</translation>
+    </message>
+    <message>
+        <source>acts_title</source>
+        <translation>Was hier geschehen ist</translation>
+    </message>
+    <message>
         <source>fact_addresses</source>
         <translation>Netzwerkadressen</translation>
     </message>
@@ -80,6 +124,62 @@
         <translation>Der Dienst hat noch nicht gemeldet, welche Kanäle es gibt.</translation>
     </message>
     <message>
+        <source>may_control</source>
+        <translation>%1 darf Maus und Tastatur dieses Geräts bedienen.</translation>
+    </message>
+    <message>
+        <source>may_desktop</source>
+        <translation>%1 darf Uhrzeitformat und Hintergrundbild einstellen.</translation>
+    </message>
+    <message>
+        <source>may_location</source>
+        <translation>%1 darf feststellen, wo dieses Gerät ist.</translation>
+    </message>
+    <message>
+        <source>may_lock</source>
+        <translation>%1 darf diesen Bildschirm und die Systemeinstellungen sperren.</translation>
+    </message>
+    <message>
+        <source>may_message</source>
+        <translation>%1 darf hier Nachrichten und Bilder zeigen und Dateien schicken, von denen sich keine von selbst öffnet.</translation>
+    </message>
+    <message>
+        <source>may_nobody</source>
+        <translation>Keine Organisation verwaltet dieses Gerät: Über dieses Programm darf hier niemand etwas tun.</translation>
+    </message>
+    <message>
+        <source>may_not_control</source>
+        <translation>%1 darf Maus und Tastatur dieses Geräts nicht bedienen.</translation>
+    </message>
+    <message>
+        <source>may_not_files</source>
+        <translation>Dieses Programm sendet keine Ihrer Dateien und Bilder, außer Sie senden sie selbst in einem Bericht.</translation>
+    </message>
+    <message>
+        <source>may_not_location</source>
+        <translation>%1 darf nicht feststellen, wo dieses Gerät ist.</translation>
+    </message>
+    <message>
+        <source>may_not_typing</source>
+        <translation>Dieses Programm zeichnet nicht auf, was Sie in anderen Programmen tippen.</translation>
+    </message>
+    <message>
+        <source>may_not_view</source>
+        <translation>%1 darf nicht sehen, was auf diesem Bildschirm steht.</translation>
+    </message>
+    <message>
+        <source>may_popups</source>
+        <translation>%1 darf Fenster anderer Programme schließen lassen, die ihre Regeln nennen, und erfährt, welche.</translation>
+    </message>
+    <message>
+        <source>may_unknown</source>
+        <translation>%1 wurde auch „%2“ gewährt, was dieses Programm nicht kennt.</translation>
+    </message>
+    <message>
+        <source>may_view</source>
+        <translation>%1 darf sehen, was auf diesem Bildschirm steht.</translation>
+    </message>
+    <message>
         <source>network_sentence</source>
         <translation>Hier sehen Sie, wie dieses Gerät den Verwaltungsdienst erreicht.</translation>
     </message>
@@ -130,6 +230,10 @@
     <message>
         <source>settings_title</source>
         <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>transparency_title</source>
+        <translation>Was das bedeutet</translation>
     </message>
 </context>
 </TS>

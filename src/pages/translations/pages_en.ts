@@ -12,6 +12,50 @@
         <translation>About Velmora RYX</translation>
     </message>
     <message>
+        <source>act_clock</source>
+        <translation>The clock’s format was set.</translation>
+    </message>
+    <message>
+        <source>act_locked</source>
+        <translation>The screen was locked.</translation>
+    </message>
+    <message>
+        <source>act_message</source>
+        <translation>A message or a file came from the administrator.</translation>
+    </message>
+    <message>
+        <source>act_permissions</source>
+        <translation>What the organisation may do was changed.</translation>
+    </message>
+    <message>
+        <source>act_unenrolled</source>
+        <translation>The device left the organisation’s management.</translation>
+    </message>
+    <message>
+        <source>act_unlocked</source>
+        <translation>The screen was unlocked.</translation>
+    </message>
+    <message>
+        <source>act_wallpaper</source>
+        <translation>The wallpaper was set.</translation>
+    </message>
+    <message>
+        <source>act_windows</source>
+        <translation>Windows of other programs were asked to close: %1</translation>
+    </message>
+    <message>
+        <source>acts_none</source>
+        <translation>Nothing so far.</translation>
+    </message>
+    <message>
+        <source>acts_older</source>
+        <translation>Show older (%1)</translation>
+    </message>
+    <message>
+        <source>acts_title</source>
+        <translation>What was done here</translation>
+    </message>
+    <message>
         <source>fact_addresses</source>
         <translation>Network addresses</translation>
     </message>
@@ -80,6 +124,62 @@
         <translation>The service has not told yet which channels there are.</translation>
     </message>
     <message>
+        <source>may_control</source>
+        <translation>%1 may operate this device’s mouse and keyboard.</translation>
+    </message>
+    <message>
+        <source>may_desktop</source>
+        <translation>%1 may set the clock’s format and the wallpaper.</translation>
+    </message>
+    <message>
+        <source>may_location</source>
+        <translation>%1 may find out where this device is.</translation>
+    </message>
+    <message>
+        <source>may_lock</source>
+        <translation>%1 may lock this screen and the system’s settings.</translation>
+    </message>
+    <message>
+        <source>may_message</source>
+        <translation>%1 may show messages and pictures here and send you files, none of which is opened by itself.</translation>
+    </message>
+    <message>
+        <source>may_nobody</source>
+        <translation>No organisation manages this device: nobody may do anything here through this program.</translation>
+    </message>
+    <message>
+        <source>may_not_control</source>
+        <translation>%1 may not operate this device’s mouse and keyboard.</translation>
+    </message>
+    <message>
+        <source>may_not_files</source>
+        <translation>This program sends none of your files and pictures, unless you send them yourself in a report.</translation>
+    </message>
+    <message>
+        <source>may_not_location</source>
+        <translation>%1 may not find out where this device is.</translation>
+    </message>
+    <message>
+        <source>may_not_typing</source>
+        <translation>This program does not record what you type in other programs.</translation>
+    </message>
+    <message>
+        <source>may_not_view</source>
+        <translation>%1 may not see what is on this screen.</translation>
+    </message>
+    <message>
+        <source>may_popups</source>
+        <translation>%1 may have windows of other programs closed that its rules name, and is told which.</translation>
+    </message>
+    <message>
+        <source>may_unknown</source>
+        <translation>%1 was also granted “%2”, which this program does not know.</translation>
+    </message>
+    <message>
+        <source>may_view</source>
+        <translation>%1 may see what is on this screen.</translation>
+    </message>
+    <message>
         <source>network_sentence</source>
         <translation>Here you see how this device reaches the management service.</translation>
     </message>
@@ -130,6 +230,10 @@
     <message>
         <source>settings_title</source>
         <translation>Settings</translation>
+    </message>
+    <message>
+        <source>transparency_title</source>
+        <translation>What this means</translation>
     </message>
 </context>
 </TS>

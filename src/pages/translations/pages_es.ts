@@ -12,6 +12,50 @@
         <translation>Acerca de Velmora RYX</translation>
     </message>
     <message>
+        <source>act_clock</source>
+        <translation>Se ajustó el formato de la hora.</translation>
+    </message>
+    <message>
+        <source>act_locked</source>
+        <translation>Se bloqueó la pantalla.</translation>
+    </message>
+    <message>
+        <source>act_message</source>
+        <translation>Llegó un mensaje o un archivo del administrador.</translation>
+    </message>
+    <message>
+        <source>act_permissions</source>
+        <translation>Se cambió lo que la organización puede hacer.</translation>
+    </message>
+    <message>
+        <source>act_unenrolled</source>
+        <translation>El dispositivo dejó de estar gestionado por la organización.</translation>
+    </message>
+    <message>
+        <source>act_unlocked</source>
+        <translation>Se desbloqueó la pantalla.</translation>
+    </message>
+    <message>
+        <source>act_wallpaper</source>
+        <translation>Se cambió el fondo de pantalla.</translation>
+    </message>
+    <message>
+        <source>act_windows</source>
+        <translation>Ventanas de otros programas a las que se pidió cerrarse: %1</translation>
+    </message>
+    <message>
+        <source>acts_none</source>
+        <translation>Nada hasta ahora.</translation>
+    </message>
+    <message>
+        <source>acts_older</source>
+        <translation>Mostrar anteriores (%1)</translation>
+    </message>
+    <message>
+        <source>acts_title</source>
+        <translation>Lo que se ha hecho aquí</translation>
+    </message>
+    <message>
         <source>fact_addresses</source>
         <translation>Direcciones de red</translation>
     </message>
@@ -80,6 +124,62 @@
         <translation>El servicio aún no ha indicado qué canales hay.</translation>
     </message>
     <message>
+        <source>may_control</source>
+        <translation>%1 puede usar el ratón y el teclado de este dispositivo.</translation>
+    </message>
+    <message>
+        <source>may_desktop</source>
+        <translation>%1 puede ajustar el formato de la hora y el fondo de pantalla.</translation>
+    </message>
+    <message>
+        <source>may_location</source>
+        <translation>%1 puede averiguar dónde está este dispositivo.</translation>
+    </message>
+    <message>
+        <source>may_lock</source>
+        <translation>%1 puede bloquear esta pantalla y los ajustes del sistema.</translation>
+    </message>
+    <message>
+        <source>may_message</source>
+        <translation>%1 puede mostrar aquí mensajes e imágenes y enviarle archivos, que nunca se abren solos.</translation>
+    </message>
+    <message>
+        <source>may_nobody</source>
+        <translation>Ninguna organización gestiona este dispositivo: nadie puede hacer nada aquí mediante este programa.</translation>
+    </message>
+    <message>
+        <source>may_not_control</source>
+        <translation>%1 no puede usar el ratón ni el teclado de este dispositivo.</translation>
+    </message>
+    <message>
+        <source>may_not_files</source>
+        <translation>Este programa no envía ninguno de sus archivos ni imágenes, salvo que usted mismo los envíe en un informe.</translation>
+    </message>
+    <message>
+        <source>may_not_location</source>
+        <translation>%1 no puede averiguar dónde está este dispositivo.</translation>
+    </message>
+    <message>
+        <source>may_not_typing</source>
+        <translation>Este programa no registra lo que usted escribe en otros programas.</translation>
+    </message>
+    <message>
+        <source>may_not_view</source>
+        <translation>%1 no puede ver lo que muestra esta pantalla.</translation>
+    </message>
+    <message>
+        <source>may_popups</source>
+        <translation>%1 puede hacer que se cierren ventanas de otros programas que indiquen sus reglas, y se le informa de cuáles.</translation>
+    </message>
+    <message>
+        <source>may_unknown</source>
+        <translation>%1 también obtuvo «%2», que este programa no conoce.</translation>
+    </message>
+    <message>
+        <source>may_view</source>
+        <translation>%1 puede ver lo que muestra esta pantalla.</translation>
+    </message>
+    <message>
         <source>network_sentence</source>
         <translation>Aquí se ve cómo llega este dispositivo al servicio de administración.</translation>
     </message>
@@ -130,6 +230,10 @@
     <message>
         <source>settings_title</source>
         <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>transparency_title</source>
+        <translation>Lo que esto significa</translation>
     </message>
 </context>
 </TS>

@@ -12,6 +12,50 @@
         <translation>À propos de Velmora RYX</translation>
     </message>
     <message>
+        <source>act_clock</source>
+        <translation>Le format de l’heure a été défini.</translation>
+    </message>
+    <message>
+        <source>act_locked</source>
+        <translation>L’écran a été verrouillé.</translation>
+    </message>
+    <message>
+        <source>act_message</source>
+        <translation>Un message ou un fichier est arrivé de l’administrateur.</translation>
+    </message>
+    <message>
+        <source>act_permissions</source>
+        <translation>Ce que l’organisation peut faire a été modifié.</translation>
+    </message>
+    <message>
+        <source>act_unenrolled</source>
+        <translation>L’appareil n’est plus géré par l’organisation.</translation>
+    </message>
+    <message>
+        <source>act_unlocked</source>
+        <translation>L’écran a été déverrouillé.</translation>
+    </message>
+    <message>
+        <source>act_wallpaper</source>
+        <translation>Le fond d’écran a été défini.</translation>
+    </message>
+    <message>
+        <source>act_windows</source>
+        <translation>Fenêtres d’autres programmes invitées à se fermer : %1</translation>
+    </message>
+    <message>
+        <source>acts_none</source>
+        <translation>Rien jusqu’ici.</translation>
+    </message>
+    <message>
+        <source>acts_older</source>
+        <translation>Afficher les plus anciens (%1)</translation>
+    </message>
+    <message>
+        <source>acts_title</source>
+        <translation>Ce qui a été fait ici</translation>
+    </message>
+    <message>
         <source>fact_addresses</source>
         <translation>Adresses réseau</translation>
     </message>
@@ -80,6 +124,62 @@
         <translation>Le service n’a pas encore indiqué les chaînes disponibles.</translation>
     </message>
     <message>
+        <source>may_control</source>
+        <translation>%1 peut utiliser la souris et le clavier de cet appareil.</translation>
+    </message>
+    <message>
+        <source>may_desktop</source>
+        <translation>%1 peut définir le format de l’heure et le fond d’écran.</translation>
+    </message>
+    <message>
+        <source>may_location</source>
+        <translation>%1 peut savoir où se trouve cet appareil.</translation>
+    </message>
+    <message>
+        <source>may_lock</source>
+        <translation>%1 peut verrouiller cet écran et les paramètres du système.</translation>
+    </message>
+    <message>
+        <source>may_message</source>
+        <translation>%1 peut afficher ici des messages et des images et vous envoyer des fichiers, dont aucun ne s’ouvre de lui-même.</translation>
+    </message>
+    <message>
+        <source>may_nobody</source>
+        <translation>Aucune organisation ne gère cet appareil : personne ne peut rien y faire au moyen de ce programme.</translation>
+    </message>
+    <message>
+        <source>may_not_control</source>
+        <translation>%1 ne peut pas utiliser la souris et le clavier de cet appareil.</translation>
+    </message>
+    <message>
+        <source>may_not_files</source>
+        <translation>Ce programme n’envoie aucun de vos fichiers ni images, sauf si vous les envoyez vous-même dans un rapport.</translation>
+    </message>
+    <message>
+        <source>may_not_location</source>
+        <translation>%1 ne peut pas savoir où se trouve cet appareil.</translation>
+    </message>
+    <message>
+        <source>may_not_typing</source>
+        <translation>Ce programme n’enregistre pas ce que vous tapez dans d’autres programmes.</translation>
+    </message>
+    <message>
+        <source>may_not_view</source>
+        <translation>%1 ne peut pas voir ce qui est affiché à l’écran.</translation>
+    </message>
+    <message>
+        <source>may_popups</source>
+        <translation>%1 peut faire fermer les fenêtres d’autres programmes que ses règles désignent, et en est informée.</translation>
+    </message>
+    <message>
+        <source>may_unknown</source>
+        <translation>%1 a aussi obtenu « %2 », que ce programme ne connaît pas.</translation>
+    </message>
+    <message>
+        <source>may_view</source>
+        <translation>%1 peut voir ce qui est affiché à l’écran.</translation>
+    </message>
+    <message>
         <source>network_sentence</source>
         <translation>Vous voyez ici comment cet appareil atteint le service de gestion.</translation>
     </message>
@@ -130,6 +230,10 @@
     <message>
         <source>settings_title</source>
         <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>transparency_title</source>
+        <translation>Ce que cela signifie</translation>
     </message>
 </context>
 </TS>

@@ -12,6 +12,50 @@
         <translation>Velmora RYX について</translation>
     </message>
     <message>
+        <source>act_clock</source>
+        <translation>時計の表示形式が設定されました。</translation>
+    </message>
+    <message>
+        <source>act_locked</source>
+        <translation>画面がロックされました。</translation>
+    </message>
+    <message>
+        <source>act_message</source>
+        <translation>管理者からメッセージまたはファイルが届きました。</translation>
+    </message>
+    <message>
+        <source>act_permissions</source>
+        <translation>組織に許可する操作が変更されました。</translation>
+    </message>
+    <message>
+        <source>act_unenrolled</source>
+        <translation>デバイスは組織の管理から外れました。</translation>
+    </message>
+    <message>
+        <source>act_unlocked</source>
+        <translation>画面のロックが解除されました。</translation>
+    </message>
+    <message>
+        <source>act_wallpaper</source>
+        <translation>壁紙が設定されました。</translation>
+    </message>
+    <message>
+        <source>act_windows</source>
+        <translation>ほかのプログラムのウィンドウを閉じるよう求めました: %1</translation>
+    </message>
+    <message>
+        <source>acts_none</source>
+        <translation>まだ何もありません。</translation>
+    </message>
+    <message>
+        <source>acts_older</source>
+        <translation>以前のものを表示 (%1)</translation>
+    </message>
+    <message>
+        <source>acts_title</source>
+        <translation>ここで行われたこと</translation>
+    </message>
+    <message>
         <source>fact_addresses</source>
         <translation>ネットワークアドレス</translation>
     </message>
@@ -80,6 +124,62 @@
         <translation>サービスからチャンネルの一覧がまだ届いていません。</translation>
     </message>
     <message>
+        <source>may_control</source>
+        <translation>%1 はこのデバイスのマウスとキーボードを操作できます。</translation>
+    </message>
+    <message>
+        <source>may_desktop</source>
+        <translation>%1 は時計の表示形式と壁紙を設定できます。</translation>
+    </message>
+    <message>
+        <source>may_location</source>
+        <translation>%1 はこのデバイスの場所を調べることができます。</translation>
+    </message>
+    <message>
+        <source>may_lock</source>
+        <translation>%1 はこの画面とシステムの設定をロックできます。</translation>
+    </message>
+    <message>
+        <source>may_message</source>
+        <translation>%1 はここにメッセージと画像を表示し、ファイルを送信できます。ファイルが自動的に開かれることはありません。</translation>
+    </message>
+    <message>
+        <source>may_nobody</source>
+        <translation>このデバイスを管理する組織はありません。このプログラムを通じて誰も何も行えません。</translation>
+    </message>
+    <message>
+        <source>may_not_control</source>
+        <translation>%1 はこのデバイスのマウスとキーボードを操作できません。</translation>
+    </message>
+    <message>
+        <source>may_not_files</source>
+        <translation>このプログラムは、ご自身がレポートで送信しない限り、ファイルや画像を送信しません。</translation>
+    </message>
+    <message>
+        <source>may_not_location</source>
+        <translation>%1 はこのデバイスの場所を調べることができません。</translation>
+    </message>
+    <message>
+        <source>may_not_typing</source>
+        <translation>このプログラムは、ほかのプログラムで入力した内容を記録しません。</translation>
+    </message>
+    <message>
+        <source>may_not_view</source>
+        <translation>%1 はこの画面の内容を見ることができません。</translation>
+    </message>
+    <message>
+        <source>may_popups</source>
+        <translation>%1 はルールに該当するほかのプログラムのウィンドウを閉じさせることができ、どのウィンドウかが通知されます。</translation>
+    </message>
+    <message>
+        <source>may_unknown</source>
+        <translation>%1 には「%2」も許可されていますが、このプログラムはこれを知りません。</translation>
+    </message>
+    <message>
+        <source>may_view</source>
+        <translation>%1 はこの画面の内容を見ることができます。</translation>
+    </message>
+    <message>
         <source>network_sentence</source>
         <translation>このデバイスが管理サービスにどのように接続しているかを確認できます。</translation>
     </message>
@@ -130,6 +230,10 @@
     <message>
         <source>settings_title</source>
         <translation>設定</translation>
+    </message>
+    <message>
+        <source>transparency_title</source>
+        <translation>具体的な内容</translation>
     </message>
 </context>
 </TS>

@@ -12,6 +12,50 @@
         <translation>关于 Velmora RYX</translation>
     </message>
     <message>
+        <source>act_clock</source>
+        <translation>已设置时钟格式。</translation>
+    </message>
+    <message>
+        <source>act_locked</source>
+        <translation>屏幕已锁定。</translation>
+    </message>
+    <message>
+        <source>act_message</source>
+        <translation>收到了管理员的消息或文件。</translation>
+    </message>
+    <message>
+        <source>act_permissions</source>
+        <translation>组织的权限已更改。</translation>
+    </message>
+    <message>
+        <source>act_unenrolled</source>
+        <translation>设备已不再由组织管理。</translation>
+    </message>
+    <message>
+        <source>act_unlocked</source>
+        <translation>屏幕已解锁。</translation>
+    </message>
+    <message>
+        <source>act_wallpaper</source>
+        <translation>已设置壁纸。</translation>
+    </message>
+    <message>
+        <source>act_windows</source>
+        <translation>要求其他程序的窗口关闭：%1</translation>
+    </message>
+    <message>
+        <source>acts_none</source>
+        <translation>目前没有。</translation>
+    </message>
+    <message>
+        <source>acts_older</source>
+        <translation>显示更早的（%1）</translation>
+    </message>
+    <message>
+        <source>acts_title</source>
+        <translation>在此执行过的操作</translation>
+    </message>
+    <message>
         <source>fact_addresses</source>
         <translation>网络地址</translation>
     </message>
@@ -80,6 +124,62 @@
         <translation>服务尚未告知有哪些频道。</translation>
     </message>
     <message>
+        <source>may_control</source>
+        <translation>%1 可以操作此设备的鼠标和键盘。</translation>
+    </message>
+    <message>
+        <source>may_desktop</source>
+        <translation>%1 可以设置时钟格式和壁纸。</translation>
+    </message>
+    <message>
+        <source>may_location</source>
+        <translation>%1 可以获知此设备的位置。</translation>
+    </message>
+    <message>
+        <source>may_lock</source>
+        <translation>%1 可以锁定此屏幕和系统设置。</translation>
+    </message>
+    <message>
+        <source>may_message</source>
+        <translation>%1 可以在此显示消息和图片并向您发送文件，文件不会自动打开。</translation>
+    </message>
+    <message>
+        <source>may_nobody</source>
+        <translation>没有组织管理此设备：任何人都不能通过此程序在此执行操作。</translation>
+    </message>
+    <message>
+        <source>may_not_control</source>
+        <translation>%1 不可以操作此设备的鼠标和键盘。</translation>
+    </message>
+    <message>
+        <source>may_not_files</source>
+        <translation>此程序不会发送您的任何文件和图片，除非您自己在报告中发送。</translation>
+    </message>
+    <message>
+        <source>may_not_location</source>
+        <translation>%1 不可以获知此设备的位置。</translation>
+    </message>
+    <message>
+        <source>may_not_typing</source>
+        <translation>此程序不会记录您在其他程序中输入的内容。</translation>
+    </message>
+    <message>
+        <source>may_not_view</source>
+        <translation>%1 不可以查看此屏幕上的内容。</translation>
+    </message>
+    <message>
+        <source>may_popups</source>
+        <translation>%1 可以按其规则关闭其他程序的窗口，并会获知是哪些窗口。</translation>
+    </message>
+    <message>
+        <source>may_unknown</source>
+        <translation>%1 还获得了“%2”，此程序不了解该权限。</translation>
+    </message>
+    <message>
+        <source>may_view</source>
+        <translation>%1 可以查看此屏幕上的内容。</translation>
+    </message>
+    <message>
         <source>network_sentence</source>
         <translation>在此查看此设备如何连接到管理服务。</translation>
     </message>
@@ -130,6 +230,10 @@
     <message>
         <source>settings_title</source>
         <translation>设置</translation>
+    </message>
+    <message>
+        <source>transparency_title</source>
+        <translation>这意味着什么</translation>
     </message>
 </context>
 </TS>
