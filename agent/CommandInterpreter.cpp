@@ -4,6 +4,7 @@
 #include "KeyText.h"
 #include "MessageCommands.h"
 #include "PopupCommands.h"
+#include "SettingsCommands.h"
 #include "platform/application/EndTime.h"
 
 #include <QFile>
@@ -87,12 +88,14 @@ CommandInterpreter::CommandInterpreter(AgentServer& server, AgentService& servic
       m_service(service),
       m_log(log),
       m_popups(server, service, log),
+      m_settings(server, log),
       m_web(web),
       m_player(log) {
     AddSendingCommands();
     AddCommands(EnrolmentCommands(enrolment));
     AddCommands(MessageCommands(server, log, web, m_folder));
     AddCommands(PopupCommands(m_popups, m_folder));
+    AddCommands(SettingsCommands(m_settings));
     AddExpectations();
     AddCommands(m_web.List());
     AddOtherCommands();

@@ -2,6 +2,7 @@
 
 #include "AgentPopups.h"
 #include "AgentService.h"
+#include "AgentSettings.h"
 #include "Command.h"
 #include "WebCommands.h"
 
@@ -64,6 +65,7 @@ private:
     AgentService& m_service;
     EventLog& m_log;
     AgentPopups m_popups;
+    AgentSettings m_settings;
     WebCommands m_web;
     StepPlayer m_player;
     Commands m_commands;
