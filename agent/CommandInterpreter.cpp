@@ -4,6 +4,7 @@
 #include "KeyText.h"
 #include "MessageCommands.h"
 #include "PopupCommands.h"
+#include "SettingsCommands.h"
 #include "UpdateCommands.h"
 #include "platform/application/EndTime.h"
 
@@ -89,6 +90,7 @@ CommandInterpreter::CommandInterpreter(AgentServer& server, AgentService& servic
       m_log(log),
       m_popups(server, service, log),
       m_updates(server, service),
+      m_settings(server, log),
       m_web(web),
       m_player(log) {
     AddSendingCommands();
@@ -96,6 +98,7 @@ CommandInterpreter::CommandInterpreter(AgentServer& server, AgentService& servic
     AddCommands(MessageCommands(server, log, web, m_folder));
     AddCommands(PopupCommands(m_popups, m_folder));
     AddCommands(UpdateCommands(m_updates));
+    AddCommands(SettingsCommands(m_settings));
     AddExpectations();
     AddCommands(m_web.List());
     AddOtherCommands();

@@ -2,6 +2,7 @@
 
 #include "AgentPopups.h"
 #include "AgentService.h"
+#include "AgentSettings.h"
 #include "AgentUpdates.h"
 #include "Command.h"
 #include "WebCommands.h"
@@ -66,6 +67,7 @@ private:
     EventLog& m_log;
     AgentPopups m_popups;
     AgentUpdates m_updates;
+    AgentSettings m_settings;
     WebCommands m_web;
     StepPlayer m_player;
     Commands m_commands;

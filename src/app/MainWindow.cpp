@@ -4,6 +4,7 @@
 #include "app/Pages.h"
 #include "app/UTrayIcon.h"
 #include "entity/FileEntities.h"
+#include "pages/LiveChannels.h"
 #include "pages/NetworkCheck.h"
 #include "platform/ProductConstants.h"
 #include "platform/application/WindowStack.h"
@@ -90,6 +91,9 @@ void MainWindow::InitConnect() {
     connect(this, &RyxWindow::BindingBegan, this, [this] { m_ui->header->SetBusy(true); });
     connect(this, &RyxWindow::BindingEnded, this, [this] { m_ui->header->SetBusy(false); });
     connect(Theme::Instance(), &Theme::Changed, this, &MainWindow::ApplyTheme);
+    if (const LiveChannels* channels = LiveChannels::OfApplication())
+        connect(channels, &LiveChannels::Vanished, this,
+                [this](const QString& name) { Notify(NoticeKind::Warning, tr("live_vanished").arg(name)); });
     if (const PopupHistory* history = PopupHistory::OfApplication())
         connect(history, &PopupHistory::Noticed, this, [this](const QString& text) {
             const int page = PageIndex(PageId::Features);

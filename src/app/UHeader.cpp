@@ -34,7 +34,7 @@ UHeader::UHeader(QWidget* parent)
     SetAccessibleRole(m_chip, QAccessible::StatusBar);
 
     auto* chip = new QHBoxLayout(m_chip);
-    m_chip->setFixedHeight(42);
+    m_chip->setMinimumHeight(42);
     chip->setContentsMargins(12, 0, 16, 0);
     chip->setSpacing(10);
     chip->addWidget(m_dot);

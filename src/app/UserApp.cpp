@@ -8,6 +8,8 @@
 #include "controllers/PopupsController.h"
 #include "controllers/SettingsLockController.h"
 #include "lock/UDeviceScreenLock.h"
+#include "pages/ActHistory.h"
+#include "pages/LiveChannels.h"
 #include "pages/NetworkCheck.h"
 #include "pages/UpdateStore.h"
 #include "platform/ProductConstants.h"
@@ -16,6 +18,7 @@
 #include "platform/application/Watchdog.h"
 #include "platform/context/AppConfigData.h"
 #include "platform/context/AppHelper.h"
+#include "platform/context/DevicePermissions.h"
 #include "platform/context/RyxPath.h"
 #include "platform/link/PipeClientService.h"
 #include "platform/security/LogText.h"
@@ -166,11 +169,17 @@ int UserApp::Run(int argc, char** argv) {
     application.setProperty("controllers", QVariant::fromValue(controllers));
     for (ControllerBase* controller : std::set<ControllerBase*>(controllers.begin(), controllers.end()))
         controller->SetService(PipeClientService::Instance());
-    const PopupHistory popupHistory(QString::fromStdWString(RyxPath::GetUserDataDir()) +
-                                        QStringLiteral("/popups.json"),
+    const QString dataFolder = QString::fromStdWString(RyxPath::GetUserDataDir());
+    const PopupHistory popupHistory(dataFolder + QStringLiteral("/popups.json"),
                                     &PickableWindow::KeysOnScreen, Clock::System(), &application);
     const UpdateStore updates(Clock::System(), &application);
     const NetworkCheck networkCheck(NetworkProbe::Native(), &application);
+    const DevicePermissions permissions(dataFolder + QStringLiteral("/permissions.json"), &application);
+    const LiveChannels channels(&application);
+    ActHistory acts(dataFolder + QStringLiteral("/acts.json"), permissions, Clock::System(), &application);
+    connect(&screenLock, &UDeviceScreenLock::VisibleChanged, &acts, [&acts](bool visible) {
+        acts.Add(visible ? ActHistory::Act::Locked : ActHistory::Act::Unlocked);
+    });
     const PipeLinkGuard link;
 
     MainWindow window;

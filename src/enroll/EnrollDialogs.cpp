@@ -7,6 +7,7 @@
 #include "enroll/UBodyEnrollTip.h"
 #include "enroll/UBodyEnrollUsbAlert.h"
 #include "lock/UBodyEnrollUnModal.h"
+#include "platform/context/DevicePermissions.h"
 
 #include <QCheckBox>
 
@@ -31,12 +32,9 @@ void EnrollDialogs::ShowFailure(ButtonState retry, const char* title, const char
     m_failure->show();
 }
 
-void EnrollDialogs::ShowPermissions(const std::vector<std::string>& granted) {
-    if (granted.empty())
-        return;
+void EnrollDialogs::ShowPermissions() {
     if (!m_permissions)
-        m_permissions = new UBodyEnrollPermissionsModal(m_page);
-    m_permissions->SetPermissions(granted);
+        m_permissions = new UBodyEnrollPermissionsModal(m_page, *DevicePermissions::OfApplication());
     if (IsInView())
         m_permissions->show();
     m_permissions->EnrollSuccessfullyToast();

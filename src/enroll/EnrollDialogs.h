@@ -23,8 +23,8 @@ public:
 
     /// The service cannot be reached; offers another try of `retry`. The texts are translation keys.
     void ShowFailure(ButtonState retry, const char* title, const char* content, const char* cancel);
-    /// The device is enrolled; shows what was granted, if anything was.
-    void ShowPermissions(const std::vector<std::string>& granted);
+    /// The device is enrolled; shows what was granted.
+    void ShowPermissions();
     /// Asks for the password before the device is unenrolled.
     void ShowUnenrolment();
     void ShowAgreementTip();

@@ -165,7 +165,8 @@ bool UBodyEnroll::InvokeEnrollComplete(const std::string& body) {
     }
     TakeOver(m_request);
     AppContextData::Instance()->SetPermissionList(result.permissionList);
-    m_dialogs->ShowPermissions(result.permissionList);
+    if (!result.permissionList.empty())
+        m_dialogs->ShowPermissions();
     return true;
 }
 

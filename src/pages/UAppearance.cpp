@@ -1,5 +1,6 @@
 #include "pages/UAppearance.h"
 
+#include "platform/context/AppHelper.h"
 #include "platform/context/LanguageHelper.h"
 #include "platform/context/Theme.h"
 #include "widgets/UIconLabel.h"
@@ -30,39 +31,50 @@ UAppearance::UAppearance(QWidget* parent)
     : QFrame(parent),
       m_languageLabel(new QLabel),
       m_themeLabel(new QLabel),
+      m_textSizeLabel(new QLabel),
       m_language(MakeBox("languageBox", m_languageLabel)),
-      m_theme(MakeBox("themeBox", m_themeLabel)) {
+      m_theme(MakeBox("themeBox", m_themeLabel)),
+      m_textSize(MakeBox("textSizeBox", m_textSizeLabel)) {
     setObjectName(QStringLiteral("card"));
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(24, 20, 24, 20);
     grid->setHorizontalSpacing(16);
     grid->setVerticalSpacing(16);
     grid->setColumnStretch(1, 1);
-    grid->addWidget(new UIconLabel(22, QStringLiteral("language"), QStringLiteral("textMuted")), 0, 0);
-    grid->addWidget(m_languageLabel, 0, 1);
-    grid->addWidget(m_language, 0, 2);
-    grid->addWidget(new UIconLabel(22, QStringLiteral("theme"), QStringLiteral("textMuted")), 1, 0);
-    grid->addWidget(m_themeLabel, 1, 1);
-    grid->addWidget(m_theme, 1, 2);
+    const auto addRow = [grid](const char* icon, QLabel* label, QComboBox* box) {
+        const int row = grid->rowCount();
+        grid->addWidget(new UIconLabel(22, QLatin1String(icon), QStringLiteral("textMuted")), row, 0);
+        grid->addWidget(label, row, 1);
+        grid->addWidget(box, row, 2);
+    };
+    addRow("language", m_languageLabel, m_language);
+    addRow("theme", m_themeLabel, m_theme);
+    addRow("text", m_textSizeLabel, m_textSize);
 
     for (const LanguageHelper::Entry& language : LanguageHelper::Languages())
         m_language->addItem(language.name, language.code);
-    for (const QString& theme : Theme::Names())
+    for (const QString& theme : Theme::Choices())
         m_theme->addItem(QString(), theme);
+    for (const int size : Theme::TextSizes())
+        m_textSize->addItem(QString(), size);
     Retranslate();
 
-    connect(m_language, QOverload<int>::of(&QComboBox::activated), this, [this](int index) {
-        LanguageHelper::Instance()->SetLanguage(m_language->itemData(index).toString());
-    });
-    connect(m_theme, QOverload<int>::of(&QComboBox::activated), this,
-            [this](int index) { Theme::Instance()->Apply(m_theme->itemData(index).toString()); });
-    const auto follow = [this] {
-        m_language->setCurrentIndex(m_language->findData(LanguageHelper::Instance()->Language()));
-        m_theme->setCurrentIndex(m_theme->findData(Theme::Instance()->Name()));
+    const auto onChosen = [this](QComboBox* box, const auto& choose) {
+        connect(box, QOverload<int>::of(&QComboBox::activated), this,
+                [box, choose](int index) { choose(box->itemData(index)); });
     };
-    connect(LanguageHelper::Instance(), &LanguageHelper::LanguageChanged, this, follow);
-    connect(Theme::Instance(), &Theme::Changed, this, follow);
-    follow();
+    onChosen(m_language, [](const QVariant& code) { AppHelper::ChooseLanguage(code.toString()); });
+    onChosen(m_theme, [](const QVariant& name) { AppHelper::ChooseTheme(name.toString()); });
+    onChosen(m_textSize, [](const QVariant& percent) { AppHelper::ChooseTextSize(percent.toInt()); });
+    connect(LanguageHelper::Instance(), &LanguageHelper::LanguageChanged, this, &UAppearance::ShowChoices);
+    connect(Theme::Instance(), &Theme::Changed, this, &UAppearance::ShowChoices);
+    ShowChoices();
+}
+
+void UAppearance::ShowChoices() {
+    m_language->setCurrentIndex(m_language->findData(LanguageHelper::Instance()->Language()));
+    m_theme->setCurrentIndex(m_theme->findData(Theme::Instance()->Choice()));
+    m_textSize->setCurrentIndex(m_textSize->findData(Theme::Instance()->TextSize()));
 }
 
 void UAppearance::changeEvent(QEvent* event) {
@@ -74,8 +86,16 @@ void UAppearance::changeEvent(QEvent* event) {
 void UAppearance::Retranslate() {
     m_languageLabel->setText(tr("settings_language"));
     m_themeLabel->setText(tr("settings_theme"));
-    m_theme->setItemText(m_theme->findData(QStringLiteral("light")), tr("settings_theme_light"));
-    m_theme->setItemText(m_theme->findData(QStringLiteral("dark")), tr("settings_theme_dark"));
+    m_textSizeLabel->setText(tr("settings_text_size"));
+    const QString themes[] = {tr("settings_theme_light"), tr("settings_theme_dark"),
+                              tr("settings_theme_system")};
+    const QString sizes[] = {tr("settings_text_normal"), tr("settings_text_large"),
+                             tr("settings_text_larger")};
+    for (int i = 0; i < 3; ++i) {
+        m_theme->setItemText(i, themes[i]);
+        m_textSize->setItemText(i, sizes[i]);
+    }
     m_language->setAccessibleName(m_languageLabel->text());
     m_theme->setAccessibleName(m_themeLabel->text());
+    m_textSize->setAccessibleName(m_textSizeLabel->text());
 }

@@ -35,6 +35,11 @@ PageFact CommonFacts::Addresses() {
     return {QStringLiteral("address"), Text("fact_addresses"), OrNone(addresses.join(QStringLiteral(", ")))};
 }
 
+QString CommonFacts::Manager() {
+    const std::string name = MachineHelper::GetOrganisationName();
+    return name.empty() ? Text("organisation_unnamed") : QString::fromStdString(name);
+}
+
 QString CommonFacts::OrNone(const QString& text) {
     return text.isEmpty() ? Text("fact_none") : text;
 }

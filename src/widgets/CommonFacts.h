@@ -14,6 +14,8 @@ PageFact Organisation();
 
 /// The addresses of this device in its networks.
 PageFact Addresses();
+/// The organisation's name, or words for it where it has none.
+QString Manager();
 
 /// The text, or the word for "none" when it is empty.
 QString OrNone(const QString& text);

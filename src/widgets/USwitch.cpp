@@ -24,6 +24,11 @@ QSize USwitch::sizeHint() const {
     return Size;
 }
 
+void USwitch::nextCheckState() {
+    if (!m_held)
+        QAbstractButton::nextCheckState();
+}
+
 void USwitch::paintEvent(QPaintEvent*) {
     const Theme& theme = *Theme::Instance();
     const auto color = [&theme](const char* token) { return theme.Color(QLatin1String(token)); };
@@ -38,7 +43,7 @@ void USwitch::paintEvent(QPaintEvent*) {
         painter.drawRoundedRect(ring, round + FocusGap, round + FocusGap);
     }
 
-    const char* ink = !isEnabled() ? "textDisabled" : isChecked() ? "accent" : "borderStrong";
+    const char* ink = !isEnabled() ? "textDisabled" : isChecked() && !m_held ? "accent" : "borderStrong";
     painter.setPen(QPen(color(ink), 2));
     painter.setBrush(isChecked() ? color(ink) : color(isEnabled() && underMouse() ? "hover" : "window"));
     painter.drawRoundedRect(track.adjusted(1, 1, -1, -1), round - 1, round - 1);

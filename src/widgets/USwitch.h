@@ -10,8 +10,16 @@ class USwitch : public QAbstractButton {
 public:
     explicit USwitch(QWidget* parent = nullptr);
 
+    /// While held, a press is told as every other and does not move the switch.
+    void SetHeld(bool held) { m_held = held; }
+    bool IsHeld() const { return m_held; }
+
     QSize sizeHint() const override;
 
 protected:
+    void nextCheckState() override;
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    bool m_held = false;
 };

@@ -4,6 +4,7 @@ target_sources(ryx_user_objects PRIVATE
     ${CMAKE_CURRENT_LIST_DIR}/CommonFacts.cpp
     ${CMAKE_CURRENT_LIST_DIR}/GestureScrollArea.cpp
     ${CMAKE_CURRENT_LIST_DIR}/NoticeQueue.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/PermissionSwitches.cpp
     ${CMAKE_CURRENT_LIST_DIR}/QFlowLayout.cpp
     ${CMAKE_CURRENT_LIST_DIR}/ReturnKey.cpp
     ${CMAKE_CURRENT_LIST_DIR}/Spinner.cpp

@@ -10,6 +10,7 @@
 #include "lock/UBodyEnrollUnModal.h"
 #include "platform/application/RyxWindow.h"
 #include "platform/context/AppContextData.h"
+#include "platform/context/DevicePermissions.h"
 #include "platform/context/LanguageHelper.h"
 #include "platform/link/ControllerBase.h"
 #include "platform/link/PipeClientService.h"
@@ -74,6 +75,7 @@ protected:
     FakeService service;
     PipeClientService& link = *PipeClientService::Instance();
     ControllerBase controller;
+    DevicePermissions permissions{QString()};
 };
 
 TEST_F(EnrollDialogs, TheFailureDialogDoesWhatIsPressedAndEscapeTriesNothing) {
@@ -138,7 +140,7 @@ TEST_F(EnrollDialogs, SwitchesReportTheUsersChangesAloneAndScreenViewTakesContro
         {nullptr, "screenViewRow", {}, nullptr, "53-52-", "00-"},
         {nullptr, nullptr, PipeKey::ScreenShotSetting, On, "", "010"},
     };
-    UBodyEnrollPermissionsModal dialog(&page);
+    UBodyEnrollPermissionsModal dialog(&page, permissions);
     const auto switchOf = [&](const char* row) {
         return dialog.findChild<QWidget*>(QLatin1String(row))->findChild<USwitch*>();
     };
@@ -151,7 +153,9 @@ TEST_F(EnrollDialogs, SwitchesReportTheUsersChangesAloneAndScreenViewTakesContro
         for (const QString& name : QString::fromLatin1(granted).split(QLatin1Char(' ')))
             names.push_back(name.toStdString());
         if (granted)
-            dialog.SetPermissions(names);
+            AppContextData::Instance()->SetPermissionList({}); // also what is granted anew is new
+        if (granted)
+            AppContextData::Instance()->SetPermissionList(names);
         dialog.show();
         if (pressed)
             QTest::mouseClick(switchOf(pressed), Qt::LeftButton);
@@ -180,7 +184,7 @@ TEST_F(EnrollDialogs, SwitchesReportTheUsersChangesAloneAndScreenViewTakesContro
 }
 
 TEST_F(EnrollDialogs, OneToastTellsTheLatestAndTheTrayTellsForAHiddenWindow) {
-    UBodyEnrollPermissionsModal dialog(&page);
+    UBodyEnrollPermissionsModal dialog(&page, permissions);
     UEnrollToast* toast = UEnrollToast::Of(&page);
     toast->Tell(NoticeKind::Error, QStringLiteral("first"));
     dialog.EnrollSuccessfullyToast();

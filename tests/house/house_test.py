@@ -21,7 +21,7 @@ MAY_INCLUDE = {
     "platform/security": [],
     "platform/files": ["platform/security", "platform/system"],
     "platform/link": ["platform/security", "platform/system", "entity"],
-    "platform/context": ["platform", "platform/link", "platform/security", "platform/system", "entity"],
+    "platform/context": ["platform", "platform/files", "platform/link", "platform/security", "platform/system", "entity"],
     "platform/web": ["platform", "platform/context", "platform/files", "platform/security", "platform/system", "entity"],
     "platform/application": ["platform/context", "platform/link", "platform/system", "entity"],
     "platform/system/windows": ["platform", "platform/system"],

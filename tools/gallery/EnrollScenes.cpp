@@ -4,6 +4,8 @@
 #include "enroll/UBodyEnrollUsbAlert.h"
 #include "gallery/Scenes.h"
 #include "lock/UBodyEnrollUnModal.h"
+#include "platform/context/AppContextData.h"
+#include "platform/context/DevicePermissions.h"
 
 #include <QCheckBox>
 #include <QLineEdit>
@@ -45,8 +47,9 @@ Scene Permissions(const QString& name, const std::vector<std::string>& granted, 
     return {name, true, [=](Stage& stage) {
                 stage.Window().resize(size);
                 Settle();
-                auto* dialog = new UBodyEnrollPermissionsModal(&stage.Window());
-                dialog->SetPermissions(granted);
+                AppContextData::Instance()->SetPermissionList(granted);
+                auto* dialog =
+                    new UBodyEnrollPermissionsModal(&stage.Window(), *DevicePermissions::OfApplication());
                 dialog->show();
                 dialog->EnrollSuccessfullyToast();
             }};

@@ -10,10 +10,13 @@
 #include "lock/UBodySettingLockModal.h"
 #include "lock/UDeviceScreenLock.h"
 #include "lock/USettingsLockMaskModal.h"
+#include "pages/ActHistory.h"
+#include "pages/LiveChannels.h"
 #include "pages/NetworkCheck.h"
 #include "pages/UpdateStore.h"
 #include "platform/context/AppConfigData.h"
 #include "platform/context/AppContextData.h"
+#include "platform/context/DevicePermissions.h"
 #include "platform/link/PipeClientService.h"
 #include "platform/system/SystemPipe.h"
 #include "popups/PopupHistory.h"
@@ -269,6 +272,9 @@ Stage::Stage(bool enrolled) : m_controller(std::make_unique<MainController>()) {
     m_network = std::make_shared<ScriptedProbe>();
     m_updates = std::make_unique<UpdateStore>(Clock::System(), qApp);
     m_networkCheck = std::make_unique<NetworkCheck>(m_network, qApp);
+    m_permissions = std::make_unique<DevicePermissions>(QString(), qApp);
+    m_channels = std::make_unique<LiveChannels>(qApp);
+    m_acts = std::make_unique<ActHistory>(QString(), *m_permissions, Clock::System(), qApp);
     m_window = std::make_unique<MainWindow>();
     m_window->resize(1280, 720); // also where the screen is smaller
     m_window->show();
@@ -312,7 +318,8 @@ QWidget& Stage::Subject() {
 
 QVector<Scene> AllScenes() {
     return PageScenes() + ShellScenes() + NoticeScenes() + EnrollPageScenes() + EnrollScenes() +
-           FeedbackScenes() + MessageScenes() + PopupScenes() + StatusScenes() + OtherScenes();
+           FeedbackScenes() + MessageScenes() + PopupScenes() + SettingScenes() + StatusScenes() +
+           OtherScenes();
 }
 
 bool WaitFor(const std::function<bool()>& condition) {

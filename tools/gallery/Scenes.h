@@ -6,6 +6,9 @@
 #include <memory>
 #include <string>
 
+class ActHistory;
+class DevicePermissions;
+class LiveChannels;
 class MainController;
 class MainWindow;
 class NetworkCheck;
@@ -57,6 +60,9 @@ private:
     std::shared_ptr<ScriptedProbe> m_network;
     std::unique_ptr<UpdateStore> m_updates;
     std::unique_ptr<NetworkCheck> m_networkCheck;
+    std::unique_ptr<DevicePermissions> m_permissions;
+    std::unique_ptr<LiveChannels> m_channels;
+    std::unique_ptr<ActHistory> m_acts;
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<QWidget> m_other;
     std::shared_ptr<void> m_owner;
@@ -88,6 +94,9 @@ QVector<Scene> MessageScenes();
 
 /// Those of network, version and updates.
 QVector<Scene> StatusScenes();
+
+/// Those of the settings and of the live channels.
+QVector<Scene> SettingScenes();
 
 /// Lets layouts, deferred updates and queued events come to rest.
 void Settle();

@@ -40,6 +40,10 @@
         <translation>مرحبًا بك في Velmora RYX</translation>
     </message>
     <message>
+        <source>live_vanished</source>
+        <translation>القناة «%1» التي كانت قيد التشغيل لم تعد متاحة.</translation>
+    </message>
+    <message>
         <source>menu_about</source>
         <translation>حول</translation>
     </message>

@@ -40,6 +40,10 @@
         <translation>Willkommen bei Velmora RYX</translation>
     </message>
     <message>
+        <source>live_vanished</source>
+        <translation>Der Kanal „%1“, der gerade lief, wird nicht mehr angeboten.</translation>
+    </message>
+    <message>
         <source>menu_about</source>
         <translation>Info</translation>
     </message>

@@ -40,6 +40,10 @@
         <translation>Welcome to Velmora RYX</translation>
     </message>
     <message>
+        <source>live_vanished</source>
+        <translation>The channel “%1”, which was playing, is not offered any more.</translation>
+    </message>
+    <message>
         <source>menu_about</source>
         <translation>About</translation>
     </message>

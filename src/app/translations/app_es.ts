@@ -40,6 +40,10 @@
         <translation>Bienvenido a Velmora RYX</translation>
     </message>
     <message>
+        <source>live_vanished</source>
+        <translation>El canal «%1», que se estaba reproduciendo, ya no se ofrece.</translation>
+    </message>
+    <message>
         <source>menu_about</source>
         <translation>Acerca de</translation>
     </message>

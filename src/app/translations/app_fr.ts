@@ -40,6 +40,10 @@
         <translation>Bienvenue dans Velmora RYX</translation>
     </message>
     <message>
+        <source>live_vanished</source>
+        <translation>La chaîne « %1 », en cours de lecture, n’est plus proposée.</translation>
+    </message>
+    <message>
         <source>menu_about</source>
         <translation>À propos</translation>
     </message>

@@ -40,6 +40,10 @@
         <translation>Velmora RYX へようこそ</translation>
     </message>
     <message>
+        <source>live_vanished</source>
+        <translation>再生中のチャンネル「%1」は提供されなくなりました。</translation>
+    </message>
+    <message>
         <source>menu_about</source>
         <translation>このアプリについて</translation>
     </message>

@@ -40,6 +40,10 @@
         <translation>欢迎使用 Velmora RYX</translation>
     </message>
     <message>
+        <source>live_vanished</source>
+        <translation>正在播放的频道“%1”已不再提供。</translation>
+    </message>
+    <message>
         <source>menu_about</source>
         <translation>关于</translation>
     </message>

@@ -24,10 +24,6 @@
         <translation>تم تسجيل هذا الجهاز.</translation>
     </message>
     <message>
-        <source>device_location_title_v2</source>
-        <translation>تحديد موقع هذا الجهاز</translation>
-    </message>
-    <message>
         <source>dialog_bind_fail_text</source>
         <translation>لم ينجح ذلك</translation>
     </message>
@@ -98,22 +94,6 @@
     <message>
         <source>setting_permission_bottom_tip</source>
         <translation>يسري كل تغيير فورًا.</translation>
-    </message>
-    <message>
-        <source>settings_monitor_screen_preview_tip</source>
-        <translation>يرى المسؤولون ما يظهر على هذه الشاشة.</translation>
-    </message>
-    <message>
-        <source>settings_monitor_screen_preview_title</source>
-        <translation>عرض الشاشة</translation>
-    </message>
-    <message>
-        <source>settings_monitor_tip_v2</source>
-        <translation>يستخدم المسؤولون فأرة هذا الجهاز ولوحة مفاتيحه. ويتطلب ذلك عرض الشاشة.</translation>
-    </message>
-    <message>
-        <source>settings_monitor_title_v2</source>
-        <translation>التحكم عن بُعد</translation>
     </message>
     <message>
         <source>tag_refused_blank</source>

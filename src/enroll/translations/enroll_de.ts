@@ -24,10 +24,6 @@
         <translation>Dieses Gerät ist registriert.</translation>
     </message>
     <message>
-        <source>device_location_title_v2</source>
-        <translation>Dieses Gerät orten</translation>
-    </message>
-    <message>
         <source>dialog_bind_fail_text</source>
         <translation>Das hat nicht geklappt</translation>
     </message>
@@ -98,22 +94,6 @@
     <message>
         <source>setting_permission_bottom_tip</source>
         <translation>Jede Änderung gilt sofort.</translation>
-    </message>
-    <message>
-        <source>settings_monitor_screen_preview_tip</source>
-        <translation>Die Administration sieht, was auf diesem Bildschirm steht.</translation>
-    </message>
-    <message>
-        <source>settings_monitor_screen_preview_title</source>
-        <translation>Bildschirm ansehen</translation>
-    </message>
-    <message>
-        <source>settings_monitor_tip_v2</source>
-        <translation>Die Administration bedient Maus und Tastatur dieses Geräts. Dazu muss sie den Bildschirm sehen.</translation>
-    </message>
-    <message>
-        <source>settings_monitor_title_v2</source>
-        <translation>Fernsteuerung</translation>
     </message>
     <message>
         <source>tag_refused_blank</source>

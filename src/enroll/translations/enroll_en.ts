@@ -24,10 +24,6 @@
         <translation>This device is enrolled.</translation>
     </message>
     <message>
-        <source>device_location_title_v2</source>
-        <translation>Find this device</translation>
-    </message>
-    <message>
         <source>dialog_bind_fail_text</source>
         <translation>That did not work</translation>
     </message>
@@ -98,22 +94,6 @@
     <message>
         <source>setting_permission_bottom_tip</source>
         <translation>Each change counts at once.</translation>
-    </message>
-    <message>
-        <source>settings_monitor_screen_preview_tip</source>
-        <translation>Administrators see what is on this screen.</translation>
-    </message>
-    <message>
-        <source>settings_monitor_screen_preview_title</source>
-        <translation>See the screen</translation>
-    </message>
-    <message>
-        <source>settings_monitor_tip_v2</source>
-        <translation>Administrators use mouse and keyboard of this device. They have to see the screen for that.</translation>
-    </message>
-    <message>
-        <source>settings_monitor_title_v2</source>
-        <translation>Remote control</translation>
     </message>
     <message>
         <source>tag_refused_blank</source>

@@ -24,10 +24,6 @@
         <translation>Este dispositivo está inscrito.</translation>
     </message>
     <message>
-        <source>device_location_title_v2</source>
-        <translation>Localizar este dispositivo</translation>
-    </message>
-    <message>
         <source>dialog_bind_fail_text</source>
         <translation>No ha funcionado</translation>
     </message>
@@ -98,22 +94,6 @@
     <message>
         <source>setting_permission_bottom_tip</source>
         <translation>Cada cambio se aplica al momento.</translation>
-    </message>
-    <message>
-        <source>settings_monitor_screen_preview_tip</source>
-        <translation>Los administradores ven lo que muestra esta pantalla.</translation>
-    </message>
-    <message>
-        <source>settings_monitor_screen_preview_title</source>
-        <translation>Ver la pantalla</translation>
-    </message>
-    <message>
-        <source>settings_monitor_tip_v2</source>
-        <translation>Los administradores usan el ratón y el teclado de este dispositivo. Para ello deben ver la pantalla.</translation>
-    </message>
-    <message>
-        <source>settings_monitor_title_v2</source>
-        <translation>Controlar a distancia</translation>
     </message>
     <message>
         <source>tag_refused_blank</source>

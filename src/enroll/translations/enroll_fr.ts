@@ -24,10 +24,6 @@
         <translation>Cet appareil est inscrit.</translation>
     </message>
     <message>
-        <source>device_location_title_v2</source>
-        <translation>Localiser cet appareil</translation>
-    </message>
-    <message>
         <source>dialog_bind_fail_text</source>
         <translation>Cela n’a pas fonctionné</translation>
     </message>
@@ -98,22 +94,6 @@
     <message>
         <source>setting_permission_bottom_tip</source>
         <translation>Chaque modification prend effet immédiatement.</translation>
-    </message>
-    <message>
-        <source>settings_monitor_screen_preview_tip</source>
-        <translation>Les administrateurs voient ce qui est affiché à l’écran.</translation>
-    </message>
-    <message>
-        <source>settings_monitor_screen_preview_title</source>
-        <translation>Voir l’écran</translation>
-    </message>
-    <message>
-        <source>settings_monitor_tip_v2</source>
-        <translation>Les administrateurs utilisent la souris et le clavier de cet appareil. Pour cela, ils doivent voir l’écran.</translation>
-    </message>
-    <message>
-        <source>settings_monitor_title_v2</source>
-        <translation>Commander à distance</translation>
     </message>
     <message>
         <source>tag_refused_blank</source>

@@ -24,10 +24,6 @@
         <translation>このデバイスは登録されました。</translation>
     </message>
     <message>
-        <source>device_location_title_v2</source>
-        <translation>このデバイスの位置を調べる</translation>
-    </message>
-    <message>
         <source>dialog_bind_fail_text</source>
         <translation>うまくいきませんでした</translation>
     </message>
@@ -98,22 +94,6 @@
     <message>
         <source>setting_permission_bottom_tip</source>
         <translation>変更はすぐに反映されます。</translation>
-    </message>
-    <message>
-        <source>settings_monitor_screen_preview_tip</source>
-        <translation>管理者はこの画面の内容を見ることができます。</translation>
-    </message>
-    <message>
-        <source>settings_monitor_screen_preview_title</source>
-        <translation>画面を見る</translation>
-    </message>
-    <message>
-        <source>settings_monitor_tip_v2</source>
-        <translation>管理者はこのデバイスのマウスとキーボードを操作できます。そのためには画面を見る許可が必要です。</translation>
-    </message>
-    <message>
-        <source>settings_monitor_title_v2</source>
-        <translation>遠隔操作</translation>
     </message>
     <message>
         <source>tag_refused_blank</source>

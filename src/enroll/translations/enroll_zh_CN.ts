@@ -24,10 +24,6 @@
         <translation>此设备已注册。</translation>
     </message>
     <message>
-        <source>device_location_title_v2</source>
-        <translation>定位此设备</translation>
-    </message>
-    <message>
         <source>dialog_bind_fail_text</source>
         <translation>操作未成功</translation>
     </message>
@@ -98,22 +94,6 @@
     <message>
         <source>setting_permission_bottom_tip</source>
         <translation>每次更改立即生效。</translation>
-    </message>
-    <message>
-        <source>settings_monitor_screen_preview_tip</source>
-        <translation>管理员可以看到此屏幕上的内容。</translation>
-    </message>
-    <message>
-        <source>settings_monitor_screen_preview_title</source>
-        <translation>查看屏幕</translation>
-    </message>
-    <message>
-        <source>settings_monitor_tip_v2</source>
-        <translation>管理员可以使用此设备的鼠标和键盘。为此需要能够查看屏幕。</translation>
-    </message>
-    <message>
-        <source>settings_monitor_title_v2</source>
-        <translation>远程控制</translation>
     </message>
     <message>
         <source>tag_refused_blank</source>

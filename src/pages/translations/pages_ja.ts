@@ -16,6 +16,50 @@
         <translation>Velmora RYX について</translation>
     </message>
     <message>
+        <source>act_clock</source>
+        <translation>時計の表示形式が設定されました。</translation>
+    </message>
+    <message>
+        <source>act_locked</source>
+        <translation>画面がロックされました。</translation>
+    </message>
+    <message>
+        <source>act_message</source>
+        <translation>管理者からメッセージまたはファイルが届きました。</translation>
+    </message>
+    <message>
+        <source>act_permissions</source>
+        <translation>組織に許可する操作が変更されました。</translation>
+    </message>
+    <message>
+        <source>act_unenrolled</source>
+        <translation>デバイスは組織の管理から外れました。</translation>
+    </message>
+    <message>
+        <source>act_unlocked</source>
+        <translation>画面のロックが解除されました。</translation>
+    </message>
+    <message>
+        <source>act_wallpaper</source>
+        <translation>壁紙が設定されました。</translation>
+    </message>
+    <message>
+        <source>act_windows</source>
+        <translation>ほかのプログラムのウィンドウを閉じるよう求めました: %1</translation>
+    </message>
+    <message>
+        <source>acts_none</source>
+        <translation>まだ何もありません。</translation>
+    </message>
+    <message>
+        <source>acts_older</source>
+        <translation>以前のものを表示 (%1)</translation>
+    </message>
+    <message>
+        <source>acts_title</source>
+        <translation>ここで行われたこと</translation>
+    </message>
+    <message>
         <source>fact_account</source>
         <translation>管理者のアカウント</translation>
     </message>
@@ -26,6 +70,38 @@
     <message>
         <source>fact_version</source>
         <translation>バージョン</translation>
+    </message>
+    <message>
+        <source>live_no_player</source>
+        <translation>このデバイスには「%1」アドレスを再生できるプログラムがありません。</translation>
+    </message>
+    <message>
+        <source>live_no_service</source>
+        <translation>このデバイスのサービスに接続できないため、今はチャンネルを開始・停止できません。</translation>
+    </message>
+    <message>
+        <source>live_none</source>
+        <translation>現在、組織が提供するチャンネルはありません。</translation>
+    </message>
+    <message>
+        <source>live_not_enrolled</source>
+        <translation>このデバイスが登録されると、ここにチャンネルが表示されます。</translation>
+    </message>
+    <message>
+        <source>live_old</source>
+        <translation>この一覧は接続が切れる前のものです。</translation>
+    </message>
+    <message>
+        <source>live_play</source>
+        <translation>再生</translation>
+    </message>
+    <message>
+        <source>live_playing</source>
+        <translation>再生中</translation>
+    </message>
+    <message>
+        <source>live_refused</source>
+        <translation>このチャンネルのアドレスは再生できません。管理者に連絡してください。</translation>
     </message>
     <message>
         <source>licences_sentence</source>
@@ -40,8 +116,84 @@
         <translation>組織がこのディスプレイに配信するチャンネルをここで開始・停止します。</translation>
     </message>
     <message>
+        <source>live_stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>live_stopped</source>
+        <translation>停止中</translation>
+    </message>
+    <message>
+        <source>live_stopped_told</source>
+        <translation>チャンネルを停止しました。プレーヤーが開いたままの場合は、ご自身で閉じてください。</translation>
+    </message>
+    <message>
         <source>live_title</source>
         <translation>ライブチャンネル</translation>
+    </message>
+    <message>
+        <source>live_unnamed</source>
+        <translation>チャンネル %1</translation>
+    </message>
+    <message>
+        <source>live_waiting</source>
+        <translation>サービスからチャンネルの一覧がまだ届いていません。</translation>
+    </message>
+    <message>
+        <source>may_control</source>
+        <translation>%1 はこのデバイスのマウスとキーボードを操作できます。</translation>
+    </message>
+    <message>
+        <source>may_desktop</source>
+        <translation>%1 は時計の表示形式と壁紙を設定できます。</translation>
+    </message>
+    <message>
+        <source>may_location</source>
+        <translation>%1 はこのデバイスの場所を調べることができます。</translation>
+    </message>
+    <message>
+        <source>may_lock</source>
+        <translation>%1 はこの画面とシステムの設定をロックできます。</translation>
+    </message>
+    <message>
+        <source>may_message</source>
+        <translation>%1 はここにメッセージと画像を表示し、ファイルを送信できます。ファイルが自動的に開かれることはありません。</translation>
+    </message>
+    <message>
+        <source>may_nobody</source>
+        <translation>このデバイスを管理する組織はありません。このプログラムを通じて誰も何も行えません。</translation>
+    </message>
+    <message>
+        <source>may_not_control</source>
+        <translation>%1 はこのデバイスのマウスとキーボードを操作できません。</translation>
+    </message>
+    <message>
+        <source>may_not_files</source>
+        <translation>このプログラムは、ご自身がレポートで送信しない限り、ファイルや画像を送信しません。</translation>
+    </message>
+    <message>
+        <source>may_not_location</source>
+        <translation>%1 はこのデバイスの場所を調べることができません。</translation>
+    </message>
+    <message>
+        <source>may_not_typing</source>
+        <translation>このプログラムは、ほかのプログラムで入力した内容を記録しません。</translation>
+    </message>
+    <message>
+        <source>may_not_view</source>
+        <translation>%1 はこの画面の内容を見ることができません。</translation>
+    </message>
+    <message>
+        <source>may_popups</source>
+        <translation>%1 はルールに該当するほかのプログラムのウィンドウを閉じさせることができ、どのウィンドウかが通知されます。</translation>
+    </message>
+    <message>
+        <source>may_unknown</source>
+        <translation>%1 には「%2」も許可されていますが、このプログラムはこれを知りません。</translation>
+    </message>
+    <message>
+        <source>may_view</source>
+        <translation>%1 はこの画面の内容を見ることができます。</translation>
     </message>
     <message>
         <source>network_adapter_none</source>
@@ -356,16 +508,28 @@
         <translation>組織のサーバーまでの経路を確認しています…</translation>
     </message>
     <message>
-        <source>page_note_state_only</source>
-        <translation>現在のところ、このページには状態のみが表示されます。</translation>
-    </message>
-    <message>
         <source>settings_language</source>
         <translation>言語</translation>
     </message>
     <message>
         <source>settings_sentence</source>
-        <translation>このプログラムの外観と言語です。選択はすぐに反映されます。</translation>
+        <translation>このプログラムの外観と言語、および組織がこのデバイスで行える操作です。</translation>
+    </message>
+    <message>
+        <source>settings_text_large</source>
+        <translation>大</translation>
+    </message>
+    <message>
+        <source>settings_text_larger</source>
+        <translation>特大</translation>
+    </message>
+    <message>
+        <source>settings_text_normal</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>settings_text_size</source>
+        <translation>文字サイズ</translation>
     </message>
     <message>
         <source>settings_theme</source>
@@ -380,8 +544,16 @@
         <translation>ライト</translation>
     </message>
     <message>
+        <source>settings_theme_system</source>
+        <translation>システムに合わせる</translation>
+    </message>
+    <message>
         <source>settings_title</source>
         <translation>設定</translation>
+    </message>
+    <message>
+        <source>transparency_title</source>
+        <translation>具体的な内容</translation>
     </message>
     <message>
         <source>support_mail</source>

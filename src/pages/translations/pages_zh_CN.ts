@@ -16,6 +16,50 @@
         <translation>关于 Velmora RYX</translation>
     </message>
     <message>
+        <source>act_clock</source>
+        <translation>已设置时钟格式。</translation>
+    </message>
+    <message>
+        <source>act_locked</source>
+        <translation>屏幕已锁定。</translation>
+    </message>
+    <message>
+        <source>act_message</source>
+        <translation>收到了管理员的消息或文件。</translation>
+    </message>
+    <message>
+        <source>act_permissions</source>
+        <translation>组织的权限已更改。</translation>
+    </message>
+    <message>
+        <source>act_unenrolled</source>
+        <translation>设备已不再由组织管理。</translation>
+    </message>
+    <message>
+        <source>act_unlocked</source>
+        <translation>屏幕已解锁。</translation>
+    </message>
+    <message>
+        <source>act_wallpaper</source>
+        <translation>已设置壁纸。</translation>
+    </message>
+    <message>
+        <source>act_windows</source>
+        <translation>要求其他程序的窗口关闭：%1</translation>
+    </message>
+    <message>
+        <source>acts_none</source>
+        <translation>目前没有。</translation>
+    </message>
+    <message>
+        <source>acts_older</source>
+        <translation>显示更早的（%1）</translation>
+    </message>
+    <message>
+        <source>acts_title</source>
+        <translation>在此执行过的操作</translation>
+    </message>
+    <message>
         <source>fact_account</source>
         <translation>管理员账户</translation>
     </message>
@@ -26,6 +70,38 @@
     <message>
         <source>fact_version</source>
         <translation>版本</translation>
+    </message>
+    <message>
+        <source>live_no_player</source>
+        <translation>此设备上没有可播放“%1”地址的程序。</translation>
+    </message>
+    <message>
+        <source>live_no_service</source>
+        <translation>无法连接此设备上的服务：目前无法启动或停止频道。</translation>
+    </message>
+    <message>
+        <source>live_none</source>
+        <translation>您的组织目前不提供任何频道。</translation>
+    </message>
+    <message>
+        <source>live_not_enrolled</source>
+        <translation>此设备注册后，频道将显示在此处。</translation>
+    </message>
+    <message>
+        <source>live_old</source>
+        <translation>此列表来自连接中断之前。</translation>
+    </message>
+    <message>
+        <source>live_play</source>
+        <translation>播放</translation>
+    </message>
+    <message>
+        <source>live_playing</source>
+        <translation>正在播放</translation>
+    </message>
+    <message>
+        <source>live_refused</source>
+        <translation>无法播放此频道的地址。请告知管理员。</translation>
     </message>
     <message>
         <source>licences_sentence</source>
@@ -40,8 +116,84 @@
         <translation>您的组织发送到此显示屏的频道在此启动和停止。</translation>
     </message>
     <message>
+        <source>live_stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>live_stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>live_stopped_told</source>
+        <translation>频道已停止。如果播放器仍打开，请自行关闭。</translation>
+    </message>
+    <message>
         <source>live_title</source>
         <translation>直播频道</translation>
+    </message>
+    <message>
+        <source>live_unnamed</source>
+        <translation>频道 %1</translation>
+    </message>
+    <message>
+        <source>live_waiting</source>
+        <translation>服务尚未告知有哪些频道。</translation>
+    </message>
+    <message>
+        <source>may_control</source>
+        <translation>%1 可以操作此设备的鼠标和键盘。</translation>
+    </message>
+    <message>
+        <source>may_desktop</source>
+        <translation>%1 可以设置时钟格式和壁纸。</translation>
+    </message>
+    <message>
+        <source>may_location</source>
+        <translation>%1 可以获知此设备的位置。</translation>
+    </message>
+    <message>
+        <source>may_lock</source>
+        <translation>%1 可以锁定此屏幕和系统设置。</translation>
+    </message>
+    <message>
+        <source>may_message</source>
+        <translation>%1 可以在此显示消息和图片并向您发送文件，文件不会自动打开。</translation>
+    </message>
+    <message>
+        <source>may_nobody</source>
+        <translation>没有组织管理此设备：任何人都不能通过此程序在此执行操作。</translation>
+    </message>
+    <message>
+        <source>may_not_control</source>
+        <translation>%1 不可以操作此设备的鼠标和键盘。</translation>
+    </message>
+    <message>
+        <source>may_not_files</source>
+        <translation>此程序不会发送您的任何文件和图片，除非您自己在报告中发送。</translation>
+    </message>
+    <message>
+        <source>may_not_location</source>
+        <translation>%1 不可以获知此设备的位置。</translation>
+    </message>
+    <message>
+        <source>may_not_typing</source>
+        <translation>此程序不会记录您在其他程序中输入的内容。</translation>
+    </message>
+    <message>
+        <source>may_not_view</source>
+        <translation>%1 不可以查看此屏幕上的内容。</translation>
+    </message>
+    <message>
+        <source>may_popups</source>
+        <translation>%1 可以按其规则关闭其他程序的窗口，并会获知是哪些窗口。</translation>
+    </message>
+    <message>
+        <source>may_unknown</source>
+        <translation>%1 还获得了“%2”，此程序不了解该权限。</translation>
+    </message>
+    <message>
+        <source>may_view</source>
+        <translation>%1 可以查看此屏幕上的内容。</translation>
     </message>
     <message>
         <source>network_adapter_none</source>
@@ -356,16 +508,28 @@
         <translation>正在检查通往您组织服务器的路径…</translation>
     </message>
     <message>
-        <source>page_note_state_only</source>
-        <translation>目前此页面仅显示当前状态。</translation>
-    </message>
-    <message>
         <source>settings_language</source>
         <translation>语言</translation>
     </message>
     <message>
         <source>settings_sentence</source>
-        <translation>此程序的外观和语言。选择后立即生效。</translation>
+        <translation>此程序的外观和语言，以及您的组织可以在此设备上执行的操作。</translation>
+    </message>
+    <message>
+        <source>settings_text_large</source>
+        <translation>大</translation>
+    </message>
+    <message>
+        <source>settings_text_larger</source>
+        <translation>特大</translation>
+    </message>
+    <message>
+        <source>settings_text_normal</source>
+        <translation>标准</translation>
+    </message>
+    <message>
+        <source>settings_text_size</source>
+        <translation>文字大小</translation>
     </message>
     <message>
         <source>settings_theme</source>
@@ -380,8 +544,16 @@
         <translation>浅色</translation>
     </message>
     <message>
+        <source>settings_theme_system</source>
+        <translation>跟随系统</translation>
+    </message>
+    <message>
         <source>settings_title</source>
         <translation>设置</translation>
+    </message>
+    <message>
+        <source>transparency_title</source>
+        <translation>这意味着什么</translation>
     </message>
     <message>
         <source>support_mail</source>

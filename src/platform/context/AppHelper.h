@@ -1,12 +1,20 @@
 #pragma once
 
-/// Start-up steps that the platform offers to its programs. GUI thread, after the application object.
+class QString;
+
+/// Start-up steps that the platform offers to its programs, and what the user chooses above the machine's
+/// configuration. GUI thread, after the application object.
 class AppHelper {
 public:
-    /// Applies the style sheet of the configured theme.
+    /// Applies the style sheet of the chosen or configured theme, and the chosen size of text.
     static void InitQss();
-    /// Installs the configured language, or the system's.
+    /// Installs the chosen or configured language, or the system's.
     static void InitLanguage();
     /// Hands the configuration to those who work by it: device context and pipe link.
     static void LoadConfig();
+
+    /// Each takes effect at once, and is remembered for this user.
+    static void ChooseLanguage(const QString& code);
+    static void ChooseTheme(const QString& name);
+    static void ChooseTextSize(int percent);
 };

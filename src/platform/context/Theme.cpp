@@ -1,6 +1,7 @@
 #include "platform/context/Theme.h"
 
 #include "platform/context/LanguageHelper.h"
+#include "platform/system/SystemAppearance.h"
 
 #include <QApplication>
 #include <QDir>
@@ -13,8 +14,11 @@
 #include <QStyle>
 #include <QWidget>
 #include <glog/logging.h>
+#include <utility>
 
 namespace {
+
+constexpr int LookAgainMs = 5000;
 
 QByteArray ReadResource(const QString& path) {
     QFile file(path);
@@ -23,7 +27,7 @@ QByteArray ReadResource(const QString& path) {
     return file.readAll();
 }
 
-void ReadTokens(const QString& path, QHash<QString, QString>& tokens) {
+void AddTokens(const QString& path, QHash<QString, QString>& tokens) {
     const QJsonObject table = QJsonDocument::fromJson(ReadResource(path)).object();
     for (auto token = table.begin(); token != table.end(); ++token)
         tokens.insert(token.key(), token.value().toString());
@@ -40,6 +44,13 @@ QString ReadStyleSheets() {
 
 } // namespace
 
+Theme::Theme() {
+    connect(&m_lookAgain, &QTimer::timeout, this, [this] {
+        if (LooksDark() != IsDark())
+            Apply(Choice());
+    });
+}
+
 Theme* Theme::Instance() {
     static Theme theme;
     return &theme;
@@ -52,10 +63,30 @@ QStringList Theme::Names() {
 void Theme::Apply(const QString& name) {
     if (m_name.isEmpty())
         m_desktopDark = QApplication::palette().color(QPalette::Window).lightness() < 128;
-    m_name = Names().contains(name) ? name : Names().constFirst();
-    m_tokens = {{QStringLiteral("theme"), m_name}};
-    ReadTokens(QStringLiteral(":/res/qss/tokens.json"), m_tokens);
-    ReadTokens(QStringLiteral(":/res/%1/tokens.json").arg(m_name), m_tokens);
+    m_followsDesktop = name == QLatin1String("system");
+    if (m_followsDesktop && SystemAppearance::Native().AreProgramsDark())
+        m_lookAgain.start(LookAgainMs);
+    else
+        m_lookAgain.stop();
+    if (m_followsDesktop)
+        ApplyName(LooksDark() ? QStringLiteral("dark") : QStringLiteral("light"));
+    else
+        ApplyName(Names().contains(name) ? name : Names().constFirst());
+}
+
+bool Theme::LooksDark() const {
+    return SystemAppearance::Native().AreProgramsDark().value_or(m_desktopDark);
+}
+
+void Theme::SetTextSize(int percent) {
+    const int before = std::exchange(m_textSize, TextSizes().contains(percent) ? percent : 100);
+    if (m_textSize != before && !m_name.isEmpty())
+        ApplyName(m_name);
+}
+
+void Theme::ApplyName(const QString& name) {
+    m_name = name;
+    ReadTokens();
 
     // One base style on every system, so that the style sheet has the same ground to stand on.
     if (QApplication::style()->objectName() != QLatin1String("fusion"))
@@ -71,6 +102,16 @@ void Theme::Apply(const QString& name) {
         LOG(ERROR) << "The style sheet uses the unknown token " << token.toStdString();
     qApp->setStyleSheet(sheet);
     emit Changed();
+}
+
+void Theme::ReadTokens() {
+    m_tokens = {{QStringLiteral("theme"), m_name}};
+    AddTokens(QStringLiteral(":/res/qss/tokens.json"), m_tokens);
+    AddTokens(QStringLiteral(":/res/%1/tokens.json").arg(m_name), m_tokens);
+    for (const char* name : {"fontSmall", "fontBody", "fontLarge", "fontTitle", "fontHero"}) {
+        QString& size = m_tokens[QLatin1String(name)];
+        size = QStringLiteral("%1px").arg(Length(QLatin1String(name)) * m_textSize / 100);
+    }
 }
 
 int Theme::Length(const QString& token) const {

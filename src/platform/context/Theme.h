@@ -5,6 +5,8 @@
 #include <QObject>
 #include <QString>
 #include <QStringList>
+#include <QTimer>
+#include <QVector>
 
 class QWidget;
 
@@ -21,10 +23,21 @@ public:
     /// Names of the themes, which are also the names of their resource folders.
     static QStringList Names();
 
-    /// Applies a theme to the whole application; an empty or unknown name means "light".
+    /// Applies a theme to the whole application: one of Names(), or "system" for whichever the desktop looks
+    /// like, also after it changes. An empty or unknown name means "light".
     void Apply(const QString& name);
 
+    /// What Apply understands: Names() and "system".
+    static QStringList Choices() { return Names() + QStringList(QStringLiteral("system")); }
+    /// The one in force.
+    QString Choice() const { return m_followsDesktop ? QStringLiteral("system") : m_name; }
     QString Name() const { return m_name; }
+
+    /// Sizes of text to choose from, in percent.
+    static QVector<int> TextSizes() { return {100, 115, 130}; }
+    /// Sets the size of all text; one that is not to choose means 100.
+    void SetTextSize(int percent);
+    int TextSize() const { return m_textSize; }
     bool IsDark() const { return m_name == QLatin1String("dark"); }
 
     /// Whether the desktop itself is dark, as far as it told Qt when the first theme was applied.
@@ -50,11 +63,17 @@ signals:
     void Changed();
 
 private:
-    Theme() = default;
+    Theme();
+    bool LooksDark() const;
+    void ApplyName(const QString& name);
+    void ReadTokens();
     void ApplyPalette() const;
     void ApplyFont() const;
 
     QString m_name;
     bool m_desktopDark = false;
+    bool m_followsDesktop = false;
+    int m_textSize = 100;
+    QTimer m_lookAgain;
     QHash<QString, QString> m_tokens;
 };

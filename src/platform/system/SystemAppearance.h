@@ -11,5 +11,8 @@ public:
     /// May change at any time, unannounced.
     virtual std::optional<bool> IsTaskbarDark() const = 0;
 
+    /// Whether the user wants programs to be dark; empty where Qt's own palette tells. May change likewise.
+    virtual std::optional<bool> AreProgramsDark() const = 0;
+
     static const SystemAppearance& Native();
 };

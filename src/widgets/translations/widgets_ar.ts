@@ -16,6 +16,10 @@
         <translation>موافق</translation>
     </message>
     <message>
+        <source>device_location_title_v2</source>
+        <translation>تحديد موقع هذا الجهاز</translation>
+    </message>
+    <message>
         <source>fact_addresses</source>
         <translation>عناوين الشبكة</translation>
     </message>
@@ -38,6 +42,42 @@
     <message>
         <source>loading</source>
         <translation>يُرجى الانتظار…</translation>
+    </message>
+    <message>
+        <source>organisation_unnamed</source>
+        <translation>مؤسستك</translation>
+    </message>
+    <message>
+        <source>permission_held</source>
+        <translation>هذا الإعداد مقفل من %1. لا يغيّره إلا من يعرف الأرقام الستة.</translation>
+    </message>
+    <message>
+        <source>permission_held_opened</source>
+        <translation>هذا الإعداد مقفل من %1. يمكن تغييره حتى تغادر هذه الصفحة.</translation>
+    </message>
+    <message>
+        <source>permission_no_service</source>
+        <translation>يتعذر الوصول إلى الخدمة على هذا الجهاز: لا يمكن تغيير شيء الآن، وهذه آخر حالة معروفة.</translation>
+    </message>
+    <message>
+        <source>permission_old</source>
+        <translation>هذه آخر حالة معروفة. لم تؤكدها الخدمة منذ إعادة الاتصال.</translation>
+    </message>
+    <message>
+        <source>settings_monitor_screen_preview_tip</source>
+        <translation>يرى المسؤولون ما يظهر على هذه الشاشة.</translation>
+    </message>
+    <message>
+        <source>settings_monitor_screen_preview_title</source>
+        <translation>عرض الشاشة</translation>
+    </message>
+    <message>
+        <source>settings_monitor_tip_v2</source>
+        <translation>يستخدم المسؤولون فأرة هذا الجهاز ولوحة مفاتيحه. ويتطلب ذلك عرض الشاشة.</translation>
+    </message>
+    <message>
+        <source>settings_monitor_title_v2</source>
+        <translation>التحكم عن بُعد</translation>
     </message>
     <message>
         <source>status_connected</source>

@@ -16,6 +16,10 @@
         <translation>OK</translation>
     </message>
     <message>
+        <source>device_location_title_v2</source>
+        <translation>Dieses Gerät orten</translation>
+    </message>
+    <message>
         <source>fact_addresses</source>
         <translation>Netzwerkadressen</translation>
     </message>
@@ -38,6 +42,42 @@
     <message>
         <source>loading</source>
         <translation>Bitte warten …</translation>
+    </message>
+    <message>
+        <source>organisation_unnamed</source>
+        <translation>Ihre Organisation</translation>
+    </message>
+    <message>
+        <source>permission_held</source>
+        <translation>%1 hat diese Einstellung gesperrt. Ändern darf sie, wer die sechs Ziffern kennt.</translation>
+    </message>
+    <message>
+        <source>permission_held_opened</source>
+        <translation>%1 hat diese Einstellung gesperrt. Sie lässt sich ändern, bis Sie diese Seite verlassen.</translation>
+    </message>
+    <message>
+        <source>permission_no_service</source>
+        <translation>Der Dienst auf diesem Gerät ist nicht erreichbar: Jetzt lässt sich nichts ändern. Dies ist der letzte bekannte Stand.</translation>
+    </message>
+    <message>
+        <source>permission_old</source>
+        <translation>Dies ist der letzte bekannte Stand. Der Dienst hat ihn seit der neuen Verbindung noch nicht bestätigt.</translation>
+    </message>
+    <message>
+        <source>settings_monitor_screen_preview_tip</source>
+        <translation>Die Administration sieht, was auf diesem Bildschirm steht.</translation>
+    </message>
+    <message>
+        <source>settings_monitor_screen_preview_title</source>
+        <translation>Bildschirm ansehen</translation>
+    </message>
+    <message>
+        <source>settings_monitor_tip_v2</source>
+        <translation>Die Administration bedient Maus und Tastatur dieses Geräts. Dazu muss sie den Bildschirm sehen.</translation>
+    </message>
+    <message>
+        <source>settings_monitor_title_v2</source>
+        <translation>Fernsteuerung</translation>
     </message>
     <message>
         <source>status_connected</source>

@@ -16,6 +16,10 @@
         <translation>OK</translation>
     </message>
     <message>
+        <source>device_location_title_v2</source>
+        <translation>Find this device</translation>
+    </message>
+    <message>
         <source>fact_addresses</source>
         <translation>Network addresses</translation>
     </message>
@@ -38,6 +42,42 @@
     <message>
         <source>loading</source>
         <translation>Please wait …</translation>
+    </message>
+    <message>
+        <source>organisation_unnamed</source>
+        <translation>Your organisation</translation>
+    </message>
+    <message>
+        <source>permission_held</source>
+        <translation>%1 holds this setting. Whoever knows the six digits may change it.</translation>
+    </message>
+    <message>
+        <source>permission_held_opened</source>
+        <translation>%1 holds this setting. It can be changed until you leave this page.</translation>
+    </message>
+    <message>
+        <source>permission_no_service</source>
+        <translation>The service on this device is not reached: nothing can be changed now, and this is what was known last.</translation>
+    </message>
+    <message>
+        <source>permission_old</source>
+        <translation>This is what was known last. The service has not confirmed it since it was reached again.</translation>
+    </message>
+    <message>
+        <source>settings_monitor_screen_preview_tip</source>
+        <translation>Administrators see what is on this screen.</translation>
+    </message>
+    <message>
+        <source>settings_monitor_screen_preview_title</source>
+        <translation>See the screen</translation>
+    </message>
+    <message>
+        <source>settings_monitor_tip_v2</source>
+        <translation>Administrators use mouse and keyboard of this device. They have to see the screen for that.</translation>
+    </message>
+    <message>
+        <source>settings_monitor_title_v2</source>
+        <translation>Remote control</translation>
     </message>
     <message>
         <source>status_connected</source>

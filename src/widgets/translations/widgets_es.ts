@@ -16,6 +16,10 @@
         <translation>Aceptar</translation>
     </message>
     <message>
+        <source>device_location_title_v2</source>
+        <translation>Localizar este dispositivo</translation>
+    </message>
+    <message>
         <source>fact_addresses</source>
         <translation>Direcciones de red</translation>
     </message>
@@ -38,6 +42,42 @@
     <message>
         <source>loading</source>
         <translation>Espere, por favor…</translation>
+    </message>
+    <message>
+        <source>organisation_unnamed</source>
+        <translation>Su organización</translation>
+    </message>
+    <message>
+        <source>permission_held</source>
+        <translation>%1 ha bloqueado este ajuste. Solo puede cambiarlo quien conozca los seis dígitos.</translation>
+    </message>
+    <message>
+        <source>permission_held_opened</source>
+        <translation>%1 ha bloqueado este ajuste. Puede cambiarse hasta que salga de esta página.</translation>
+    </message>
+    <message>
+        <source>permission_no_service</source>
+        <translation>No se puede contactar con el servicio de este dispositivo: ahora no se puede cambiar nada. Este es el último estado conocido.</translation>
+    </message>
+    <message>
+        <source>permission_old</source>
+        <translation>Este es el último estado conocido. El servicio aún no lo ha confirmado desde la nueva conexión.</translation>
+    </message>
+    <message>
+        <source>settings_monitor_screen_preview_tip</source>
+        <translation>Los administradores ven lo que muestra esta pantalla.</translation>
+    </message>
+    <message>
+        <source>settings_monitor_screen_preview_title</source>
+        <translation>Ver la pantalla</translation>
+    </message>
+    <message>
+        <source>settings_monitor_tip_v2</source>
+        <translation>Los administradores usan el ratón y el teclado de este dispositivo. Para ello deben ver la pantalla.</translation>
+    </message>
+    <message>
+        <source>settings_monitor_title_v2</source>
+        <translation>Controlar a distancia</translation>
     </message>
     <message>
         <source>status_connected</source>

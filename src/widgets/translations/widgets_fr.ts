@@ -16,6 +16,10 @@
         <translation>OK</translation>
     </message>
     <message>
+        <source>device_location_title_v2</source>
+        <translation>Localiser cet appareil</translation>
+    </message>
+    <message>
         <source>fact_addresses</source>
         <translation>Adresses réseau</translation>
     </message>
@@ -38,6 +42,42 @@
     <message>
         <source>loading</source>
         <translation>Veuillez patienter …</translation>
+    </message>
+    <message>
+        <source>organisation_unnamed</source>
+        <translation>Votre organisation</translation>
+    </message>
+    <message>
+        <source>permission_held</source>
+        <translation>%1 a verrouillé ce paramètre. Seul qui connaît les six chiffres peut le modifier.</translation>
+    </message>
+    <message>
+        <source>permission_held_opened</source>
+        <translation>%1 a verrouillé ce paramètre. Vous pouvez le modifier jusqu’à ce que vous quittiez cette page.</translation>
+    </message>
+    <message>
+        <source>permission_no_service</source>
+        <translation>Le service de cet appareil est injoignable : rien ne peut être modifié pour l’instant. Voici le dernier état connu.</translation>
+    </message>
+    <message>
+        <source>permission_old</source>
+        <translation>Voici le dernier état connu. Le service ne l’a pas confirmé depuis la reconnexion.</translation>
+    </message>
+    <message>
+        <source>settings_monitor_screen_preview_tip</source>
+        <translation>Les administrateurs voient ce qui est affiché à l’écran.</translation>
+    </message>
+    <message>
+        <source>settings_monitor_screen_preview_title</source>
+        <translation>Voir l’écran</translation>
+    </message>
+    <message>
+        <source>settings_monitor_tip_v2</source>
+        <translation>Les administrateurs utilisent la souris et le clavier de cet appareil. Pour cela, ils doivent voir l’écran.</translation>
+    </message>
+    <message>
+        <source>settings_monitor_title_v2</source>
+        <translation>Commander à distance</translation>
     </message>
     <message>
         <source>status_connected</source>

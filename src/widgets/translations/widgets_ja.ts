@@ -16,6 +16,10 @@
         <translation>OK</translation>
     </message>
     <message>
+        <source>device_location_title_v2</source>
+        <translation>このデバイスの位置を調べる</translation>
+    </message>
+    <message>
         <source>fact_addresses</source>
         <translation>ネットワークアドレス</translation>
     </message>
@@ -38,6 +42,42 @@
     <message>
         <source>loading</source>
         <translation>お待ちください…</translation>
+    </message>
+    <message>
+        <source>organisation_unnamed</source>
+        <translation>組織</translation>
+    </message>
+    <message>
+        <source>permission_held</source>
+        <translation>%1 がこの設定をロックしています。6 桁の数字を知っている人だけが変更できます。</translation>
+    </message>
+    <message>
+        <source>permission_held_opened</source>
+        <translation>%1 がこの設定をロックしています。このページを離れるまで変更できます。</translation>
+    </message>
+    <message>
+        <source>permission_no_service</source>
+        <translation>このデバイスのサービスに接続できないため、今は変更できません。最後に確認された状態を表示しています。</translation>
+    </message>
+    <message>
+        <source>permission_old</source>
+        <translation>最後に確認された状態です。再接続後、サービスはまだ確認していません。</translation>
+    </message>
+    <message>
+        <source>settings_monitor_screen_preview_tip</source>
+        <translation>管理者はこの画面の内容を見ることができます。</translation>
+    </message>
+    <message>
+        <source>settings_monitor_screen_preview_title</source>
+        <translation>画面を見る</translation>
+    </message>
+    <message>
+        <source>settings_monitor_tip_v2</source>
+        <translation>管理者はこのデバイスのマウスとキーボードを操作できます。そのためには画面を見る許可が必要です。</translation>
+    </message>
+    <message>
+        <source>settings_monitor_title_v2</source>
+        <translation>遠隔操作</translation>
     </message>
     <message>
         <source>status_connected</source>

@@ -16,6 +16,10 @@
         <translation>确定</translation>
     </message>
     <message>
+        <source>device_location_title_v2</source>
+        <translation>定位此设备</translation>
+    </message>
+    <message>
         <source>fact_addresses</source>
         <translation>网络地址</translation>
     </message>
@@ -38,6 +42,42 @@
     <message>
         <source>loading</source>
         <translation>请稍候……</translation>
+    </message>
+    <message>
+        <source>organisation_unnamed</source>
+        <translation>您的组织</translation>
+    </message>
+    <message>
+        <source>permission_held</source>
+        <translation>%1 已锁定此设置。知道六位数密码的人才能更改。</translation>
+    </message>
+    <message>
+        <source>permission_held_opened</source>
+        <translation>%1 已锁定此设置。在您离开此页面之前可以更改。</translation>
+    </message>
+    <message>
+        <source>permission_no_service</source>
+        <translation>无法连接此设备上的服务：目前无法更改。此处显示的是最后已知的状态。</translation>
+    </message>
+    <message>
+        <source>permission_old</source>
+        <translation>此处显示的是最后已知的状态。重新连接后服务尚未确认。</translation>
+    </message>
+    <message>
+        <source>settings_monitor_screen_preview_tip</source>
+        <translation>管理员可以看到此屏幕上的内容。</translation>
+    </message>
+    <message>
+        <source>settings_monitor_screen_preview_title</source>
+        <translation>查看屏幕</translation>
+    </message>
+    <message>
+        <source>settings_monitor_tip_v2</source>
+        <translation>管理员可以使用此设备的鼠标和键盘。为此需要能够查看屏幕。</translation>
+    </message>
+    <message>
+        <source>settings_monitor_title_v2</source>
+        <translation>远程控制</translation>
     </message>
     <message>
         <source>status_connected</source>

@@ -5,6 +5,7 @@ namespace {
 class UnixAppearance final : public SystemAppearance {
 public:
     std::optional<bool> IsTaskbarDark() const override { return std::nullopt; }
+    std::optional<bool> AreProgramsDark() const override { return std::nullopt; }
 };
 
 } // namespace

@@ -1,0 +1,168 @@
+#include "platform/context/DevicePermissions.h"
+
+#include "entity/EnrollEntities.h"
+#include "entity/SettingsEntities.h"
+#include "platform/context/AppContextData.h"
+#include "platform/files/JsonFile.h"
+#include "platform/link/PipeClientService.h"
+#include "platform/link/RyxPackage.h"
+
+#include <QCoreApplication>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+constexpr qint64 LargestFile = 64 * 1024;
+
+/// A switch as the service and the file know it.
+struct SwitchKey {
+    PipeKey key;
+    const char* name;
+    const char* otherName; ///< of the service's, too
+};
+
+constexpr SwitchKey SwitchKeys[] = {{PipeKey::LocationSetting, "location", nullptr},
+                                    {PipeKey::ScreenShotSetting, "screen", "screenshot"},
+                                    {PipeKey::ScreenNotifySetting, "remoteControl", nullptr}};
+
+const SwitchKey& KeyOf(DevicePermissions::Switch which) {
+    return SwitchKeys[static_cast<std::size_t>(which)];
+}
+
+bool IsNameOf(const SwitchKey& key, const std::string& name) {
+    return name == key.name || (key.otherName && name == key.otherName);
+}
+
+bool IsNamed(DevicePermissions::Switch which, const std::vector<std::string>& names) {
+    return std::any_of(names.begin(), names.end(),
+                       [&](const std::string& name) { return IsNameOf(KeyOf(which), name); });
+}
+
+bool Report(DevicePermissions::Switch which, bool on) {
+    DeviceSettingNotify state;
+    state.status = on;
+    return PipeClientService::Instance()->Send(
+        RyxPackage::PackageData(KeyOf(which).key, state.WriteToString()));
+}
+
+} // namespace
+
+DevicePermissions::DevicePermissions(const QString& file, QObject* parent) : QObject(parent), m_file(file) {
+    Read();
+    PipeClientService::Instance()->Subscribe(this, &DevicePermissions::OnPipeDataReceived);
+    connect(AppContextData::Instance(), &AppContextData::Changed, this, [this](AppContextData::Field field) {
+        if (field == AppContextData::Field::PermissionList)
+            Grant();
+        else if (field == AppContextData::Field::Enrolled && !AppContextData::Instance()->Enrolled())
+            Set({}, false);
+        else if (field == AppContextData::Field::Linked)
+            Set(m_state, false);
+    });
+}
+
+DevicePermissions* DevicePermissions::OfApplication() {
+    return QCoreApplication::instance()->findChild<DevicePermissions*>(QString(), Qt::FindDirectChildrenOnly);
+}
+
+bool DevicePermissions::IsOn(Switch which) const {
+    return Told(which) && (which != Switch::RemoteControl || Told(Switch::ScreenView));
+}
+
+bool DevicePermissions::IsHeld(Switch which) const {
+    // Switching the view off would switch off what the user may not.
+    if (which == Switch::ScreenView && IsOn(Switch::RemoteControl) && IsHeld(Switch::RemoteControl))
+        return true;
+    return IsNamed(which, m_state.held);
+}
+
+bool DevicePermissions::IsSwitchName(const std::string& name) {
+    return std::any_of(std::begin(SwitchKeys), std::end(SwitchKeys),
+                       [&](const SwitchKey& key) { return IsNameOf(key, name); });
+}
+
+bool DevicePermissions::Change(Switch which, bool on) {
+    if (!Report(which, on))
+        return false;
+    State state = m_state;
+    state.told[static_cast<std::size_t>(which)] = on;
+    if (which == Switch::ScreenView && !on && Report(Switch::RemoteControl, false))
+        state.told[static_cast<std::size_t>(Switch::RemoteControl)] = false;
+    Set(state, m_confirmed);
+    return true;
+}
+
+// What a body does not say, or says in a way that cannot be read, stays.
+void DevicePermissions::OnPipeDataReceived(PipeKey key, const std::string& body) {
+    State state = m_state;
+    if (key == PipeKey::SettingPermission) {
+        PermissionInfo info;
+        info.keyList = state.held;
+        info.ReadFromString(body);
+        state.held = info.keyList;
+        TakeFromService(state);
+    }
+    for (const Switch which : AllSwitches) {
+        if (key != KeyOf(which).key)
+            continue;
+        DeviceSettingNotify notice;
+        notice.status = Told(which);
+        notice.ReadFromString(body);
+        state.told[static_cast<std::size_t>(which)] = notice.status;
+        TakeFromService(state);
+    }
+}
+
+void DevicePermissions::TakeFromService(const State& state) {
+    const bool isNew = !(state == m_state);
+    Set(state, true);
+    if (isNew)
+        emit ChangedByService();
+}
+
+void DevicePermissions::Grant() {
+    const std::vector<std::string>& granted = AppContextData::Instance()->PermissionList();
+    State state = m_state;
+    for (const Switch which : AllSwitches)
+        state.told[static_cast<std::size_t>(which)] = IsNamed(which, granted);
+    Set(state, AppContextData::Instance()->Linked());
+}
+
+void DevicePermissions::Set(State state, bool confirmed) {
+    const State before = std::exchange(m_state, std::move(state));
+    m_confirmed = confirmed;
+    if (!(before == m_state))
+        Write();
+    if (before.held != m_state.held)
+        emit HeldChanged();
+    emit Changed();
+}
+
+void DevicePermissions::Read() {
+    if (!AppContextData::Instance()->Enrolled())
+        return;
+    const QJsonDocument document = JsonFile::Read(m_file, LargestFile);
+    if (!document.isObject()) {
+        JsonFile::SetAside(m_file);
+        return Grant();
+    }
+    const QJsonObject json = document.object();
+    for (const Switch which : AllSwitches)
+        Told(which) = json[QLatin1String(KeyOf(which).name)].toBool();
+    for (const QJsonValue& name : json[QStringLiteral("held")].toArray())
+        m_state.held.push_back(name.toString().toStdString());
+}
+
+void DevicePermissions::Write() const {
+    if (m_file.isEmpty())
+        return;
+    QJsonArray held;
+    for (const std::string& name : m_state.held)
+        held.append(QString::fromStdString(name));
+    QJsonObject json{{QStringLiteral("held"), held}};
+    for (const Switch which : AllSwitches)
+        json.insert(QLatin1String(KeyOf(which).name), Told(which));
+    JsonFile::Write(m_file, QJsonDocument(json));
+}
