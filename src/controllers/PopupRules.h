@@ -2,6 +2,7 @@
 
 #include "platform/application/PopupWindow.h"
 
+#include <QHashFunctions>
 #include <deque>
 #include <mutex>
 #include <optional>

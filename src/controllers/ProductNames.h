@@ -3,6 +3,7 @@
 #include "platform/system/SystemPrograms.h"
 
 #include <QDateTime>
+#include <QHashFunctions>
 #include <mutex>
 #include <unordered_map>
 

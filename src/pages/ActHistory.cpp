@@ -114,7 +114,7 @@ void ActHistory::Read() {
     if (!json[QStringLiteral("records")].isArray())
         return JsonFile::SetAside(m_file);
     m_hourFormat = json[QStringLiteral("hourFormat")].toInt(-1);
-    for (const QJsonValue& value : json[QStringLiteral("records")].toArray()) {
+    for (const auto& value : json[QStringLiteral("records")].toArray()) {
         const QJsonObject record = value.toObject();
         bool isKnown = false;
         const int act = Names().keyToValue(record[QStringLiteral("act")].toString().toLatin1(), &isKnown);

@@ -151,7 +151,7 @@ void DevicePermissions::Read() {
     const QJsonObject json = document.object();
     for (const Switch which : AllSwitches)
         Told(which) = json[QLatin1String(KeyOf(which).name)].toBool();
-    for (const QJsonValue& name : json[QStringLiteral("held")].toArray())
+    for (const auto& name : json[QStringLiteral("held")].toArray())
         m_state.held.push_back(name.toString().toStdString());
 }
 

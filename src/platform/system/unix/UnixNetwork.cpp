@@ -1,7 +1,9 @@
 #include "platform/system/SystemNetwork.h"
 
+#include <QByteArrayList>
 #include <QFile>
 #include <QHostAddress>
+#include <QVector>
 #include <QtEndian>
 
 namespace {

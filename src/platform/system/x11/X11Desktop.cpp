@@ -3,6 +3,8 @@
 #include "platform/system/x11/X11Facts.h"
 #include "platform/system/x11/X11ShownWindows.h"
 
+#include <QByteArrayList>
+
 namespace {
 
 xcb_window_t Id(WId window) {
