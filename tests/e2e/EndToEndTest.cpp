@@ -344,7 +344,10 @@ TEST_F(EndToEndTest, AReportArrivesWithTheLogAndAFailedOneLeavesNothingBehind) {
     press("Tab", 1);
     press("space", 1);
     ASSERT_TRUE(screen->WaitForWindow("Choose attachments"));
-    screen->Type(product.PathForPrograms(attachment));
+    std::string path = product.PathForPrograms(attachment);
+    if (product.HasLauncher())
+        std::replace(path.begin(), path.end(), '/', '\\'); // the dialog there takes nothing else
+    screen->Type(path);
     press("Return", 1);
     EXPECT_TRUE(screen->WaitForNoWindow("Choose attachments"));
     ASSERT_TRUE(product.AgentSays("/file/downloadUrl 0 bytes: 200"));
