@@ -62,6 +62,7 @@ TEST_P(LockUnderAttack, IsWholeAgainWithinTwoSecondsAndOpensWithTheDigits) {
         EXPECT_TRUE(WaitUntil([&] { return product.AgentLines("client 1 disconnected") > 0; },
                               std::chrono::seconds(2)));
         EXPECT_TRUE(lock.Wait());
+        EXPECT_TRUE(product.AgentSays("client 2 received")); // its word to lock begins anew
     } else {
         EXPECT_TRUE(IsWholeForGood());
         screen->Press("k", {"Control_L", "Alt_L"});
