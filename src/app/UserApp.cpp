@@ -131,6 +131,7 @@ int UserApp::Run(int argc, char** argv) {
 
     const LoggerGuard logger(true, "User");
     SystemSession::Native().ProtectProcess();
+    SystemSession::Native().QuitOnSignals();
     LOG_IF(WARNING, !application.StartProblem().isEmpty())
         << "UserApp::Run " << LogText(application.StartProblem());
     QSharedMemory marker;

@@ -61,6 +61,10 @@ public:
     /// has asked this program for its state, which is all there is to go by where the system cannot tell.
     virtual bool IsEnding(bool wasAskedToSave) const = 0;
 
+    /// Where the system ends programs with signals (SIGTERM, SIGINT, SIGHUP): lets them quit the application
+    /// as any other request does, so that nothing is left behind. Main thread, after the application's start.
+    virtual void QuitOnSignals() const = 0;
+
     /// The same text from one start of the system to the next, and never again; empty when it cannot be told.
     virtual std::string BootId() const = 0;
 

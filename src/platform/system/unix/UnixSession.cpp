@@ -1,13 +1,29 @@
 #include "platform/system/SystemSession.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QSharedMemory>
+#include <QSocketNotifier>
 #include <QStandardPaths>
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <fcntl.h>
 #include <fstream>
+#include <glog/logging.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
+
+int signalPipe = -1; // into which the handler writes: hardly anything else is allowed to it
+
+void OnSignal(int number) {
+    const int error = errno;
+    const char byte = static_cast<char>(number);
+    [[maybe_unused]] const ssize_t written = ::write(signalPipe, &byte, 1); // a full pipe tells enough
+    errno = error;
+}
 
 class UnixSession final : public SystemSession {
 public:
@@ -54,6 +70,28 @@ public:
     }
 
     bool IsEnding(bool wasAskedToSave) const override { return wasAskedToSave; }
+
+    void QuitOnSignals() const override {
+        std::array<int, 2> ends{};
+        if (::pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK) != 0)
+            return;
+        signalPipe = ends[1];
+        auto* notifier = new QSocketNotifier(ends[0], QSocketNotifier::Read, qApp);
+        QObject::connect(notifier, &QSocketNotifier::activated, qApp, [end = ends[0]] {
+            char number = 0;
+            if (::read(end, &number, 1) == 1)
+                LOG(INFO) << "UnixSession::QuitOnSignals signal " << static_cast<int>(number);
+            QCoreApplication::quit();
+        });
+        struct sigaction action {};
+        action.sa_handler = &OnSignal;
+        action.sa_flags = SA_RESTART;
+        for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
+            struct sigaction before {};
+            if (::sigaction(number, nullptr, &before) == 0 && before.sa_handler != SIG_IGN) // as nohup wants
+                ::sigaction(number, &action, nullptr);
+        }
+    }
 
     std::string BootId() const override {
         std::string id;

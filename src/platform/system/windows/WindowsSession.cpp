@@ -117,6 +117,8 @@ public:
 
     bool IsEnding(bool) const override { return GetSystemMetrics(SM_SHUTTINGDOWN) != 0; }
 
+    void QuitOnSignals() const override {}
+
     std::string BootId() const override {
         // Linked against, its library would take functions of the C library's name from the real one.
         const auto query = reinterpret_cast<decltype(&NtQuerySystemInformation)>(
