@@ -16,7 +16,8 @@ constexpr int LookAgainMs = 1000;
 } // namespace
 
 Notifier::Notifier(QWidget& window, QSystemTrayIcon& tray)
-    : m_window(window), m_tray(tray), m_toast(new UToast(&window)) {
+    : QObject(&window), m_window(window), m_tray(tray), m_toast(new UToast(&window)) {
+    m_later.setObjectName(QStringLiteral("waitingNoticesTimer"));
     m_later.setInterval(LookAgainMs);
     connect(&m_later, &QTimer::timeout, this, &Notifier::TellWaiting);
     connect(&m_tray, &QSystemTrayIcon::messageClicked, this, [this] {
@@ -25,8 +26,18 @@ Notifier::Notifier(QWidget& window, QSystemTrayIcon& tray)
     });
 }
 
+// A toast in a window that nobody sees would be gone before it is read.
+bool Notifier::IsWindowSeen() const {
+    return m_window.isVisible() && !m_window.isMinimized();
+}
+
+bool Notifier::MustWait() const {
+    return WindowStack::Instance()->IsLocked() ||
+           (!IsWindowSeen() && !QSystemTrayIcon::isSystemTrayAvailable());
+}
+
 void Notifier::TellWaiting() {
-    if (WindowStack::Instance()->IsLocked())
+    if (MustWait())
         return;
     m_later.stop();
     for (const Notice& notice : std::exchange(m_waiting, {}))
@@ -34,13 +45,13 @@ void Notifier::TellWaiting() {
 }
 
 void Notifier::Notify(NoticeKind kind, const QString& text, std::function<void()> action) {
-    if (WindowStack::Instance()->IsLocked()) {
+    if (MustWait()) {
+        LOG(INFO) << "Notifier::Notify later: " << LogText(text);
         m_waiting.append({kind, text, std::move(action)});
         m_later.start();
         return;
     }
-    // A toast in a window that nobody sees would be gone before it is read.
-    if (!m_window.isVisible() || m_window.isMinimized()) {
+    if (!IsWindowSeen()) {
         LOG(INFO) << "Notifier::Notify in the tray: " << LogText(text);
         m_trayAction = std::move(action);
         m_tray.showMessage(m_window.windowTitle(), text, m_window.windowIcon());

@@ -13,7 +13,8 @@ class QWidget;
 class UToast;
 
 /// Tells the user what has happened: with a toast in the window, or, while nobody sees that, in the tray.
-/// What happens behind a lock is told when it has gone. GUI thread.
+/// What happens behind a lock is told when it has gone, and where there is no tray, when the window is seen
+/// again. GUI thread.
 class Notifier : public QObject {
 public:
     Notifier(QWidget& window, QSystemTrayIcon& tray);
@@ -28,6 +29,8 @@ private:
         std::function<void()> action;
     };
 
+    bool IsWindowSeen() const;
+    bool MustWait() const;
     void TellWaiting();
 
     QWidget& m_window;

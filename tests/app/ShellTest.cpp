@@ -337,6 +337,9 @@ TEST_F(Shell, NoticesTellWhatHappenedAsPlainText) {
     Window().hide();
     stage->Receive(75);
     EXPECT_EQ(ShownToast(), QString()) << "nobody would see it";
+    Window().show();
+    QMetaObject::invokeMethod(&Find<QTimer>("waitingNoticesTimer"), "timeout");
+    EXPECT_EQ(ShownToast().isEmpty(), QSystemTrayIcon::isSystemTrayAvailable()) << "it is told once";
 }
 
 TEST_F(Shell, PagesReachTheirWindowWithoutKnowingIt) {

@@ -231,7 +231,8 @@ TEST_F(EnrolmentEndToEndTest, WhatHappensBehindAClosedWindowIsToldInTheTray) {
     ASSERT_TRUE(product.AgentSays("received 3 Binding"));
     screen->Close(screen->Find(MainPage::Title).value());
     ASSERT_TRUE(IsHidden());
-    EXPECT_TRUE(product.WaitForLog("Notifier::Notify in the tray: error ."));
+    EXPECT_TRUE(product.WaitForLog(product.HasLauncher() ? "Notifier::Notify in the tray: error ."
+                                                         : "Notifier::Notify later: error ."));
     EXPECT_FALSE(screen->Find(MainPage::Title));
 }
 
