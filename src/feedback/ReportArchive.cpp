@@ -41,11 +41,12 @@ ReportArchive::Result ReportArchive::Save(const TaskControl& control) const {
         return Result::Failed;
 
     QVector<NamedFile> files{{QStringLiteral("report.txt"), description.fileName(), true}};
+    // A user will have it: no log in it, an attached one neither, may tell the hashes of passwords.
     for (const NamedFile& log : ListFiles(QString::fromStdWString(logFolder)))
-        files.append({QStringLiteral("log/") + log.name, log.path, false, true}); // a user will have it
+        files.append({QStringLiteral("log/") + log.name, log.path, false, true});
     QSet<QString> taken;
     for (const QString& attachment : attachments)
-        files.append({FreeName(QFileInfo(attachment).fileName(), taken), attachment, true});
+        files.append({FreeName(QFileInfo(attachment).fileName(), taken), attachment, true, true});
 
     // The archive takes the place of what stands at the target: that is this, unless more may be replaced.
     QFile place(target);

@@ -123,7 +123,7 @@ TEST_F(LogReportRun, StopsAtTheStepThatFailsAndLeavesNoArchive) {
 }
 
 TEST_F(LogReportRun, SavedAsAnArchiveItHoldsEverythingAndReplacesNothingUnasked) {
-    Write("fault.png", "picture");
+    Write("fault.png", "password update: ab");
     ASSERT_TRUE(folder.mkpath(QStringLiteral("more")));
     Write("more/fault.png", "another");
     const QString target = folder.filePath(QStringLiteral("report.zip"));
@@ -143,11 +143,14 @@ TEST_F(LogReportRun, SavedAsAnArchiveItHoldsEverythingAndReplacesNothingUnasked)
     ASSERT_TRUE(zip);
     for (zip_int64_t i = 0; i < zip_get_num_entries(zip, 0); ++i)
         names.insert(zip_get_name(zip, static_cast<zip_uint64_t>(i), 0));
-    QByteArray packed(100, '\0');
-    zip_file_t* file = zip_fopen(zip, "log/1-User.1", 0);
-    packed.truncate(static_cast<int>(zip_fread(file, packed.data(), 100)));
-    EXPECT_EQ(packed, "a\nUnlock password update: *******\nz") << "a user will have it";
-    zip_fclose(file);
+    for (const auto& [name, masked] : {std::pair{"log/1-User.1", "a\nUnlock password update: *******\nz"},
+                                       {"attachments/fault.png", "password update: **"}}) {
+        QByteArray packed(100, '\0');
+        zip_file_t* file = zip_fopen(zip, name, 0);
+        packed.truncate(static_cast<int>(zip_fread(file, packed.data(), 100)));
+        EXPECT_EQ(packed, masked) << "a user will have it";
+        zip_fclose(file);
+    }
     zip_discard(zip);
     EXPECT_EQ(names, (std::set<std::string>{"attachments/2-fault.png", "attachments/fault.png",
                                             "log/1-User.1", "log/older/1-User.0", "report.txt"}));
