@@ -7,11 +7,14 @@
 #include "platform/context/Text.h"
 #include "widgets/UAlert.h"
 #include "widgets/UBackButton.h"
+#include "widgets/UToast.h"
 
 #include <QDir>
+#include <QDragEnterEvent>
 #include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTextEdit>
@@ -75,7 +78,9 @@ public:
         m_page.SetBackend({Upload, [](auto&&, const Cancellation& cancellation, const ProgressMeter& meter) {
                                meter.Set(55);
                                WaitUntilCancelled(cancellation);
-                               return LogReportOutcome();
+                               LogReportOutcome cancelled;
+                               cancelled.error = WebError::Cancelled;
+                               return cancelled;
                            }});
     }
 
@@ -113,6 +118,20 @@ public:
     bool HasProgress(bool expected) const {
         const auto bars = m_page.findChildren<QProgressBar*>();
         return expected == std::any_of(bars.begin(), bars.end(), [](auto* bar) { return bar->value() > 0; });
+    }
+
+    void WaitForNotice() const {
+        WaitFor([this] {
+            const auto toasts = m_window.findChildren<UToast*>();
+            return std::any_of(toasts.begin(), toasts.end(), [](auto* toast) { return toast->isVisible(); });
+        });
+    }
+
+    void DragFileOver() {
+        QMimeData file;
+        file.setUrls({QUrl::fromLocalFile(QDir::temp().filePath(QStringLiteral("photo.png")))});
+        QDragEnterEvent event({50, 50}, Qt::CopyAction, &file, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&m_page, &event);
     }
 
     void GoBack() { m_page.findChild<UBackButton*>()->click(); }
@@ -157,12 +176,12 @@ Scene On(const char* name, const std::function<void(FeedbackStage&)>& play) {
             }};
 }
 
-void MakeLogs() {
+void MakeLogs(const QVector<int>& lengths = {100, 3000, 40}) {
     const QDir folder = FeedbackStage::Folder(QStringLiteral("ryx-scenes-log"));
     AppConfigData::Instance()->logFolder = folder.path().toStdString();
     const QByteArray line = "I20260302 10:15:00.000000  4711 MainController.cpp:52] MainController::"
                             "OnConnectChanged connected\n";
-    for (const int lines : {100, 3000, 40})
+    for (const int lines : lengths)
         if (QFile file(folder.filePath(QStringLiteral("1-User.20260302-10150%1.4711").arg(lines % 7)));
             file.open(QIODevice::WriteOnly))
             file.write(line.repeated(lines));
@@ -247,11 +266,43 @@ QVector<Scene> FeedbackScenes() {
                page.Save([](auto&&) { return ReportArchive::Result::Failed; });
                WaitFor([&] { return page.Asks(); });
            }),
+        On("saved",
+           [](FeedbackStage& page) {
+               page.Save([](auto&&) { return ReportArchive::Result::Saved; });
+               page.WaitForNotice();
+           }),
+        On("cancelled",
+           [](FeedbackStage& page) {
+               page.NeverEnds();
+               page.Submit();
+               page.Press("cancelButton");
+               page.WaitForNotice();
+           }),
+        On("goes-on",
+           [](FeedbackStage& page) {
+               page.NeverEnds();
+               page.Submit();
+               page.GoBack();
+               page.WaitForNotice();
+           }),
+        On("drop", [](FeedbackStage& page) { page.DragFileOver(); }),
         On("leave", [](FeedbackStage& page) { page.GoBack(); }),
         On("log-files",
            [](FeedbackStage& page) {
                MakeLogs();
                page.Press("logFilesButton");
+           }),
+        On("log-files-none",
+           [](FeedbackStage& page) {
+               MakeLogs({});
+               page.Press("logFilesButton");
+           }),
+        On("log-view-unreadable",
+           [](FeedbackStage& page) {
+               MakeLogs();
+               page.Press("logFilesButton");
+               FeedbackStage::Folder(QStringLiteral("ryx-scenes-log"));
+               page.Press("logFileOpen");
            }),
         On("log-view",
            [](FeedbackStage& page) {

@@ -8,6 +8,8 @@
 #include <QImage>
 #include <QLinearGradient>
 #include <QPainter>
+#include <QTcpServer>
+#include <QTcpSocket>
 #include <QTimer>
 #include <QUuid>
 
@@ -51,6 +53,20 @@ public:
             return file.stage != MessageFile::Stage::Loading && file.picture.isNull() != isPicture;
         });
     }
+    /// A file of which nearly one half is there, and no more comes.
+    void SendEndlessFile(const std::string& name) {
+        QObject::connect(&m_server, &QTcpServer::newConnection, [this] {
+            m_server.nextPendingConnection()->write("HTTP/1.1 200 OK\r\nContent-Length: 1000\r\n\r\n" +
+                                                    QByteArray(420, 'x'));
+        });
+        m_server.listen(QHostAddress::LocalHost);
+        MessageRequest request;
+        request.jobStatus = true;
+        request.fileInfoParams.name = name;
+        request.fileInfoParams.url = "http://127.0.0.1:" + std::to_string(m_server.serverPort());
+        m_dialog.SetDataRequest(request, request.fileInfoParams);
+        WaitFor([this] { return m_files.Of(m_history.Messages().back().id).percent > 0; });
+    }
     UMessageFileDialog& Dialog() { return m_dialog; }
     MessageHistory& History() { return m_history; }
 
@@ -70,6 +86,7 @@ private:
         return folder;
     }
 
+    QTcpServer m_server;
     const QDir m_folder = MakeFolder();
     MessageHistory m_history{m_folder.filePath(QStringLiteral("messages.json"))};
     MessageFiles m_files{m_history, m_folder.path(), 1000000};
@@ -106,8 +123,17 @@ QVector<Scene> MessageScenes() {
         Dialog("message-picture",
                [](MessageStage& stage) { stage.SendFile("playing field.png", true, true); }),
         Dialog("message-file", [](MessageStage& stage) { stage.SendFile("timetable.pdf", true); }),
+        Dialog("message-file-loading", [](MessageStage& stage) { stage.SendEndlessFile("timetable.pdf"); }),
         Dialog("message-program", [](MessageStage& stage) { stage.SendFile("setup.exe", true); }),
         Dialog("message-file-failed", [](MessageStage& stage) { stage.SendFile("timetable.pdf", false); }),
+        {QStringLiteral("messages-none"), true,
+         [](Stage& stage) {
+             auto history = std::make_shared<MessageHistory>(QString());
+             auto list = std::make_shared<UMessageList>(*history);
+             list->show();
+             stage.ShowWindow(*list,
+                              std::make_shared<std::pair<decltype(history), decltype(list)>>(history, list));
+         }},
         {QStringLiteral("messages"), true, [](Stage& stage) {
              auto messages = std::make_shared<MessageStage>();
              messages->Send("The library closes at six today.");
