@@ -31,6 +31,11 @@ void RemoveLeftOvers(const QDir& folder) {
             QFile::remove(file.filePath());
 }
 
+bool LacksRoom(const QString& folder, std::int64_t needed) {
+    const qint64 room = QStorageInfo(folder).bytesAvailable();
+    return room >= 0 && room < needed;
+}
+
 } // namespace
 
 FileFetchOutcome FetchFile(const FileFetchRequest& request, const TaskControl& control) {
@@ -49,8 +54,7 @@ FileFetchOutcome FetchFile(const FileFetchRequest& request, const TaskControl& c
     if (!RyxWebClient::Instance()->DownloadFile(
             {request.file.url, part.toStdWString(), request.maxBytes, request.file.md5}, watched, &failure)) {
         outcome.error = failure.error;
-        const qint64 room = QStorageInfo(folder).bytesAvailable();
-        outcome.diskFull = failure.error == WebError::File && room >= 0 && room < needed;
+        outcome.diskFull = failure.error == WebError::File && LacksRoom(request.folder, needed);
         return outcome;
     }
     LOG_IF(WARNING, !SystemSession::Native().MarkFromInternet(part))
@@ -60,6 +64,16 @@ FileFetchOutcome FetchFile(const FileFetchRequest& request, const TaskControl& c
     if (outcome.path.isEmpty()) {
         QFile::remove(part);
         outcome.error = control.IsCancelled() ? WebError::Cancelled : WebError::File;
+    }
+    return outcome;
+}
+
+FileFetchOutcome SaveCopy(const QString& file, const QString& target) {
+    FileFetchOutcome outcome;
+    outcome.path = FileNames::Copy(file, target);
+    if (outcome.path.isEmpty()) {
+        outcome.error = WebError::File;
+        outcome.diskFull = LacksRoom(QFileInfo(target).path(), QFileInfo(file).size());
     }
     return outcome;
 }

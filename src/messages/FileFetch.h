@@ -24,6 +24,9 @@ struct FileFetchOutcome {
 /// unfinished bears its name, and nothing is overwritten. Worker thread.
 FileFetchOutcome FetchFile(const FileFetchRequest& request, const TaskControl& control);
 
+/// Copies a file to `target`, or to a name beside it that is free. Worker thread.
+FileFetchOutcome SaveCopy(const QString& file, const QString& target);
+
 /// The picture that a file contains, whatever its name says, at most as large as a screen; null when it is
 /// none, is broken, or would be too large to decode. Worker thread.
 QImage ReadPicture(const QString& path);

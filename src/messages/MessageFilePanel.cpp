@@ -45,6 +45,10 @@ QString Breakable(const QString& path) {
     return text;
 }
 
+QString Latest(const MessageFile& file) {
+    return file.copy.path.isEmpty() ? file.outcome.path : file.copy.path;
+}
+
 } // namespace
 
 MessageFilePanel::MessageFilePanel(MessageFiles& files, QWidget* parent)
@@ -129,10 +133,9 @@ QString MessageFilePanel::StatusText(const MessageFile& file) const {
     case MessageFile::Stage::Saved:
         break;
     }
-    if (file.copyFailed)
-        return tr("message_file_unwritable");
-    const QString& latest = file.copy.isEmpty() ? file.outcome.path : file.copy;
-    const QString saved = tr("message_file_saved").arg(Breakable(QDir::toNativeSeparators(latest)));
+    if (file.copy.error != WebError::None)
+        return FailureText(file.copy);
+    const QString saved = tr("message_file_saved").arg(Breakable(QDir::toNativeSeparators(Latest(file))));
     return m_hasDigest ? saved : saved + QLatin1Char(' ') + tr("message_file_unverified");
 }
 
@@ -141,7 +144,8 @@ void MessageFilePanel::Show() {
     const bool saved = file.stage == MessageFile::Stage::Saved;
     const bool loading = file.stage == MessageFile::Stage::Loading;
     m_status->setText(StatusText(file));
-    Theme::SetProperty(m_status, "failed", file.copyFailed || file.stage == MessageFile::Stage::Failed);
+    Theme::SetProperty(m_status, "failed",
+                       file.stage == MessageFile::Stage::Failed || file.copy.error != WebError::None);
     m_progress->setVisible(loading);
     m_progress->setValue(file.percent);
     m_progress->setAccessibleName(m_name->Text());
@@ -175,9 +179,7 @@ void MessageFilePanel::Open() {
 }
 
 void MessageFilePanel::ShowInFolder() {
-    const MessageFile file = m_files.Of(m_id);
-    const QFileInfo info(file.copy.isEmpty() ? file.outcome.path : file.copy);
-    QDesktopServices::openUrl(QUrl::fromLocalFile(info.path()));
+    QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(Latest(m_files.Of(m_id))).path()));
 }
 
 void MessageFilePanel::SaveAs() {

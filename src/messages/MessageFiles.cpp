@@ -1,7 +1,5 @@
 #include "messages/MessageFiles.h"
 
-#include "messages/FileNames.h"
-
 #include <QFileInfo>
 #include <QFutureWatcher>
 
@@ -140,14 +138,13 @@ MessageFile MessageFiles::Of(int id) const {
 
 void MessageFiles::CopyTo(int id, const QString& target) {
     Run(
-        m_disk, [from = Of(id).outcome.path, target] { return FileNames::Copy(from, target); }, {},
-        [this, id](const QString& copy) {
+        m_disk, [from = Of(id).outcome.path, target] { return SaveCopy(from, target); },
+        {{}, WebError::Internal, false},
+        [this, id](const FileFetchOutcome& copy) {
             const auto job = m_jobs.find(id);
             if (job == m_jobs.end())
                 return;
-            job->file.copyFailed = copy.isEmpty();
-            if (!copy.isEmpty())
-                job->file.copy = copy;
+            job->file.copy = copy;
             emit Changed(id);
         });
 }

@@ -16,9 +16,8 @@ struct MessageFile {
     Stage stage = Stage::Absent;
     int percent = 0; ///< while loading
     FileFetchOutcome outcome;
-    QImage picture;          ///< what the file shows, while it is looked at; null when it is no picture
-    QString copy;            ///< path of the copy that was made last
-    bool copyFailed = false; ///< the last wish for a copy
+    QImage picture;        ///< what the file shows, while it is looked at; null when it is no picture
+    FileFetchOutcome copy; ///< the last one that was wished for
 };
 
 /// Fetches the files of messages on threads of its own, and keeps in the history where they are. What is on

@@ -127,9 +127,10 @@ TEST_F(MessageFilesTest, EveryFaultIsToldAndLeavesNothingBehind) {
     const QString saved = history.Messages().front().savedAs;
     EXPECT_EQ(saved, Path(QStringLiteral("in/a.pdf")));
     files.CopyTo(1, saved);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return files.Of(1).copy == Path(QStringLiteral("in/a (4).pdf")); }));
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return files.Of(1).copy.path == Path(QStringLiteral("in/a (4).pdf")); }));
     files.CopyTo(1, Path(QStringLiteral("nowhere/a.pdf")));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return files.Of(1).copyFailed; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return files.Of(1).copy.error == WebError::File; }));
 }
 
 TEST_F(MessageFilesTest, ADownloadIsCancelledAndBegunAgain) {

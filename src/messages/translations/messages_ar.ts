@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>message_file_disk_full</source>
-        <translation>لا توجد مساحة كافية على هذا الجهاز.</translation>
+        <translation>لا توجد مساحة كافية للملف.</translation>
     </message>
     <message>
         <source>message_file_loading</source>

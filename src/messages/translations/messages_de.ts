@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>message_file_disk_full</source>
-        <translation>Auf diesem Gerät ist nicht genug Platz.</translation>
+        <translation>Für die Datei ist nicht genug Platz.</translation>
     </message>
     <message>
         <source>message_file_loading</source>

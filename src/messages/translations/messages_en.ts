@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>message_file_disk_full</source>
-        <translation>There is not enough room on this device.</translation>
+        <translation>There is not enough room for the file.</translation>
     </message>
     <message>
         <source>message_file_loading</source>

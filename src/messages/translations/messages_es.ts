@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>message_file_disk_full</source>
-        <translation>No hay espacio suficiente en este dispositivo.</translation>
+        <translation>No hay espacio suficiente para el archivo.</translation>
     </message>
     <message>
         <source>message_file_loading</source>

@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>message_file_disk_full</source>
-        <translation>Il n’y a pas assez de place sur cet appareil.</translation>
+        <translation>Il n’y a pas assez de place pour le fichier.</translation>
     </message>
     <message>
         <source>message_file_loading</source>

@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>message_file_disk_full</source>
-        <translation>このデバイスの空き容量が足りません。</translation>
+        <translation>ファイルを保存する空き容量が足りません。</translation>
     </message>
     <message>
         <source>message_file_loading</source>

@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>message_file_disk_full</source>
-        <translation>此设备空间不足。</translation>
+        <translation>空间不足，无法保存文件。</translation>
     </message>
     <message>
         <source>message_file_loading</source>
