@@ -8,6 +8,7 @@
 #include "platform/context/EmailAddress.h"
 #include "platform/context/LanguageHelper.h"
 #include "platform/context/Theme.h"
+#include "support/StandInWeb.h"
 #include "widgets/UAlert.h"
 #include "widgets/UBackButton.h"
 
@@ -21,6 +22,7 @@
 #include <QMimeData>
 #include <QTextEdit>
 #include <QVBoxLayout>
+#include <array>
 #include <atomic>
 
 namespace {
@@ -309,6 +311,31 @@ TEST_F(Feedback, AFailedReportIsRetriedAsItIsAndASentOneIsGone) {
     EXPECT_FALSE(CanSubmit());
     Answer("OK");
     EXPECT_EQ(left, 1);
+}
+
+/// The page as it is delivered, with the stand-in web service behind it.
+struct FeedbackAtService : Feedback, StandInWeb {};
+
+TEST_F(FeedbackAtService, EveryFaultEndsWithItsMessageAndLeavesNoArchive) {
+    settings.silence = std::chrono::milliseconds(300);
+    RyxWebClient::Instance()->Configure(settings);
+    page->SetBackend({});
+    QDir(folder.path()).mkdir(QStringLiteral("log"));
+    Make(QStringLiteral("log/1-User"));
+    Write(QStringLiteral("x"));
+    for (const auto& row : {std::array{"policy", "wrong", "could not be understood"},
+                            {"upload", "503", "The service says: told to fail"},
+                            {"notice", "gone", "could not be reached"},
+                            {"log", "slow 5", "did not answer in time"},
+                            {"url", "redirect http://localhost:1", "is not allowed"},
+                            {"feedback", "half", "may send it twice"}}) {
+        const std::string endpoint = std::string("web ") + row[0];
+        Tell(endpoint + ' ' + row[1]);
+        Alert() ? Answer("Try again") : Submit();
+        EXPECT_TRUE(Comes([&] { return AlertSays().find(row[2]) != std::string::npos; })) << AlertSays();
+        EXPECT_TRUE(QDir(folder.filePath(QStringLiteral("data/temp"))).isEmpty(QDir::Files)) << endpoint;
+        Tell(endpoint + " ok");
+    }
 }
 
 TEST_F(Feedback, LeavingAsksOnlyForWhatWouldBeLost) {
