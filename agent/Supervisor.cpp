@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr int GraceMs = 1000;
+constexpr int GraceMs = 2500; // the front end takes two seconds at most
 
 } // namespace
 
