@@ -213,7 +213,7 @@ public:
             return {WebError::TooLarge,
                     "the file is larger than " + std::to_string(m_request.maxBytes) + " bytes"};
         if (m_file.write(bytes) != bytes.size())
-            return {WebError::File, LogText(m_file.errorString())};
+            return {WebError::File, "the file could not be written: " + LogText(m_file.errorString())};
         m_hash.addData(bytes);
         m_control.Tell(offset + bytes.size(), total);
         return {};
