@@ -223,7 +223,7 @@ TEST_F(EnrolmentEndToEndTest, AStickFillsTheFormInOrIsRefused) {
     EXPECT_EQ(product.Configured("deviceName"), QLatin1String("stick"));
 }
 
-TEST_F(EnrolmentEndToEndTest, WhatHappensBehindAClosedWindowIsToldInTheTray) {
+TEST_F(EnrolmentEndToEndTest, WhatHappensBehindAClosedWindowIsTold) {
     ASSERT_TRUE(StartFilled());
     Order("binding-delay 1");
     Order("binding fail error");
