@@ -21,12 +21,14 @@ namespace {
 
 constexpr int CardWidth = 760;
 constexpr int LowestList = 60;
-constexpr int HighestView = 4000;        // as high as there is room
+constexpr int AroundView = 230;          // margins, title and note
 constexpr qint64 MostShown = 256 * 1024; // of a file, its end
 
+/// As high as the window has room for, and no higher: the note above it wraps, and a card with a text that
+/// wraps gets the height that it asks for.
 class LogView : public QPlainTextEdit {
 public:
-    QSize sizeHint() const override { return {CardWidth, HighestView}; }
+    QSize sizeHint() const override { return {CardWidth, qMax(LowestList, window()->height() - AroundView)}; }
 };
 
 } // namespace
@@ -136,10 +138,11 @@ void LogFilesDialog::ShowFile(const NamedFile& named) {
     HashMask().Apply(text.data(), static_cast<std::size_t>(text.size()));
     m_view->setPlainText(QString::fromUtf8(text));
     m_view->setAccessibleName(named.name);
+    m_view->setVisible(m_isReadable);
     m_listPart->hide();
     m_viewPart->show();
     m_view->moveCursor(QTextCursor::End);
-    m_view->setFocus();
+    (m_isReadable ? static_cast<QWidget*>(m_view) : m_back)->setFocus();
     Retranslate();
 }
 
@@ -164,6 +167,11 @@ void LogFilesDialog::Dismiss() {
         Close();
     else
         ShowList();
+}
+
+void LogFilesDialog::resizeEvent(QResizeEvent* event) {
+    m_view->updateGeometry();
+    UOverlay::resizeEvent(event);
 }
 
 void LogFilesDialog::changeEvent(QEvent* event) {

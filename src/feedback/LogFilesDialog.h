@@ -21,6 +21,7 @@ public:
 protected:
     void Presented() override;
     void Dismiss() override;
+    void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:

@@ -304,6 +304,12 @@ QVector<Scene> FeedbackScenes() {
                FeedbackStage::Folder(QStringLiteral("ryx-scenes-log"));
                page.Press("logFileOpen");
            }),
+        On("log-view-end",
+           [](FeedbackStage& page) {
+               MakeLogs({3000});
+               page.Press("logFilesButton");
+               page.Press("logFileOpen");
+           }),
         On("log-view",
            [](FeedbackStage& page) {
                MakeLogs();
