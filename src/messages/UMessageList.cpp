@@ -63,6 +63,7 @@ void UMessageList::Fill() {
     m_list->setAccessibleName(title);
     m_none->setText(tr("messages_none"));
     m_none->setVisible(m_history.Messages().empty());
+    m_list->setVisible(!m_history.Messages().empty());
     const QListWidgetItem* current = m_list->currentItem();
     const int currentId = current ? current->data(Qt::UserRole).toInt() : 0;
     m_list->clear();
