@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr int CompressionLevel = 6; // the library's own choice is the slowest
+constexpr int CompressionLevel = 5; // 6 makes logs 2 % smaller and takes a fifth longer
 
 /// What all files of one archive have in common.
 struct Packing {
