@@ -28,6 +28,8 @@ public:
     bool IsOn(Switch which) const;
     /// The organisation alone may change it.
     bool IsHeld(Switch which) const;
+    /// The service's names of all that the organisation holds, those of no switch as well.
+    const std::vector<std::string>& Held() const { return m_state.held; }
     /// The service has spoken since the link came up: what is known is not of before.
     bool IsConfirmed() const { return m_confirmed; }
     /// Whether the service's name for a permission means one of the switches.
