@@ -1,5 +1,6 @@
 #include "pages/LiveChannels.h"
 
+#include "entity/JsonText.h"
 #include "platform/context/AppContextData.h"
 #include "platform/link/PipeClientService.h"
 
@@ -47,11 +48,9 @@ bool LiveChannels::Control(const QString& identity, bool play) {
 }
 
 void LiveChannels::OnPipeDataReceived(PipeKey key, const std::string& body) {
-    if (key != PipeKey::LiveChannelList)
-        return;
     LiveChannelListRequest list;
-    list.liveChannelList = m_channels; // stays when the body cannot be read
-    list.ReadFromString(body);
+    if (key != PipeKey::LiveChannelList || !ReadObject(list, body))
+        return;
     std::vector<LiveChannelRequest> channels;
     QSet<QString> known;
     for (const LiveChannelRequest& channel : list.liveChannelList) {

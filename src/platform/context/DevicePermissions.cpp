@@ -1,6 +1,7 @@
 #include "platform/context/DevicePermissions.h"
 
 #include "entity/EnrollEntities.h"
+#include "entity/JsonText.h"
 #include "entity/SettingsEntities.h"
 #include "platform/context/AppContextData.h"
 #include "platform/files/JsonFile.h"
@@ -94,13 +95,13 @@ bool DevicePermissions::Change(Switch which, bool on) {
     return true;
 }
 
-// What a body does not say, or says in a way that cannot be read, stays.
+// A body that cannot be read changes and confirms nothing.
 void DevicePermissions::OnPipeDataReceived(PipeKey key, const std::string& body) {
     State state = m_state;
     if (key == PipeKey::SettingPermission) {
         PermissionInfo info;
-        info.keyList = state.held;
-        info.ReadFromString(body);
+        if (!ReadObject(info, body))
+            return;
         state.held = info.keyList;
         TakeFromService(state);
     }
@@ -108,8 +109,8 @@ void DevicePermissions::OnPipeDataReceived(PipeKey key, const std::string& body)
         if (key != KeyOf(which).key)
             continue;
         DeviceSettingNotify notice;
-        notice.status = Told(which);
-        notice.ReadFromString(body);
+        if (!ReadObject(notice, body, "status"))
+            return;
         state.told[static_cast<std::size_t>(which)] = notice.status;
         TakeFromService(state);
     }
