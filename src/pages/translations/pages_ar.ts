@@ -229,7 +229,7 @@
     </message>
     <message>
         <source>network_certificate_advice</source>
-        <translation>لا تُدخل كلمات مرور في هذه الشبكة؛ فقد يتنصت أحد.</translation>
+        <translation>استخدم شبكة أخرى ولا تُدخل كلمات مرور في هذه؛ فقد يتنصت أحد.</translation>
     </message>
     <message>
         <source>network_certificate_bad</source>

@@ -229,7 +229,7 @@
     </message>
     <message>
         <source>network_certificate_advice</source>
-        <translation>Geben Sie in diesem Netzwerk keine Passwörter ein; vielleicht hört jemand mit.</translation>
+        <translation>Benutzen Sie ein anderes Netzwerk, und geben Sie in diesem keine Passwörter ein; vielleicht hört jemand mit.</translation>
     </message>
     <message>
         <source>network_certificate_bad</source>

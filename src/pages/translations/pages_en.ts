@@ -229,7 +229,7 @@
     </message>
     <message>
         <source>network_certificate_advice</source>
-        <translation>Do not enter passwords in this network; somebody may be listening in.</translation>
+        <translation>Use another network, and enter no passwords in this one; somebody may be listening in.</translation>
     </message>
     <message>
         <source>network_certificate_bad</source>

@@ -229,7 +229,7 @@
     </message>
     <message>
         <source>network_certificate_advice</source>
-        <translation>No escriba contraseñas en esta red; alguien podría estar escuchando.</translation>
+        <translation>Use otra red y no escriba contraseñas en esta; alguien podría estar escuchando.</translation>
     </message>
     <message>
         <source>network_certificate_bad</source>

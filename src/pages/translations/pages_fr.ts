@@ -229,7 +229,7 @@
     </message>
     <message>
         <source>network_certificate_advice</source>
-        <translation>N’entrez pas de mot de passe sur ce réseau ; quelqu’un pourrait écouter.</translation>
+        <translation>Utilisez un autre réseau et n’entrez pas de mot de passe sur celui-ci ; quelqu’un pourrait écouter.</translation>
     </message>
     <message>
         <source>network_certificate_bad</source>

@@ -229,7 +229,7 @@
     </message>
     <message>
         <source>network_certificate_advice</source>
-        <translation>このネットワークではパスワードを入力しないでください。盗聴のおそれがあります。</translation>
+        <translation>別のネットワークを使い、このネットワークではパスワードを入力しないでください。盗聴のおそれがあります。</translation>
     </message>
     <message>
         <source>network_certificate_bad</source>

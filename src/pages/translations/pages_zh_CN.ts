@@ -229,7 +229,7 @@
     </message>
     <message>
         <source>network_certificate_advice</source>
-        <translation>请勿在此网络中输入密码；可能有人在窃听。</translation>
+        <translation>请改用其他网络，并且不要在此网络中输入密码；可能有人在窃听。</translation>
     </message>
     <message>
         <source>network_certificate_bad</source>
