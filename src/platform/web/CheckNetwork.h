@@ -86,8 +86,6 @@ public:
     /// Takes a step other than the pipe's; blocks while it does.
     NetworkResult Take(NetworkResult step, const TaskControl& control) const;
 
-    QVector<NetworkAdapter> Adapters() const { return m_probe->Adapters(); }
-
 private:
     void Look(NetworkResult& step, const TaskControl& control) const;
     void LookAtAdapters(NetworkResult& step) const;
