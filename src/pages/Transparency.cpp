@@ -70,6 +70,9 @@ QVector<Transparency::Sentence> Transparency::Sentences() const {
         for (const std::string& name : context.PermissionList())
             if (!DevicePermissions::IsSwitchName(name))
                 sentences.append({true, tr("may_unknown").arg(manager, QString::fromStdString(name))});
+        for (const std::string& name : m_permissions.Held())
+            if (!DevicePermissions::IsSwitchName(name))
+                sentences.append({true, tr("holds_unknown").arg(manager, QString::fromStdString(name))});
     } else {
         sentences.append({false, tr("may_nobody")});
     }

@@ -72,11 +72,12 @@ struct SettingsPage : testing::Test {
 
 TEST_F(SettingsPage, ShowsWhatCameBeforeItWasOpenedAndSaysWhenItIsOld) {
     stage.Receive(76, R"({"status": true})");
-    stage.Receive(77, R"({"keyList": ["screenshot"]})");
+    stage.Receive(77, R"({"keyList": ["screenshot", "kiosk"]})");
     Open();
     EXPECT_TRUE(Switch("locationRow").isChecked());
     EXPECT_TRUE(Shows("Northern Comprehensive School holds this setting."));
     EXPECT_TRUE(Shows("Northern Comprehensive School may find out where this device is."));
+    EXPECT_TRUE(Shows("also holds “kiosk”"));
     EXPECT_FALSE(Shows("known last"));
     AppContextData::Instance()->SetLinked(false);
     EXPECT_TRUE(Shows("is not reached"));

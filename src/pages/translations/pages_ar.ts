@@ -72,6 +72,10 @@
         <translation>الإصدار</translation>
     </message>
     <message>
+        <source>holds_unknown</source>
+        <translation>أقفلت %1 أيضًا الإعداد «%2» الذي لا يعرفه هذا البرنامج.</translation>
+    </message>
+    <message>
         <source>live_no_player</source>
         <translation>لا يوجد على هذا الجهاز برنامج يشغّل عناوين «%1».</translation>
     </message>

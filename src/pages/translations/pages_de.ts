@@ -72,6 +72,10 @@
         <translation>Version</translation>
     </message>
     <message>
+        <source>holds_unknown</source>
+        <translation>%1 hat auch „%2“ gesperrt, was dieses Programm nicht kennt.</translation>
+    </message>
+    <message>
         <source>live_no_player</source>
         <translation>Auf diesem Gerät gibt es kein Programm, das „%1“-Adressen abspielt.</translation>
     </message>

@@ -72,6 +72,10 @@
         <translation>Version</translation>
     </message>
     <message>
+        <source>holds_unknown</source>
+        <translation>%1 also holds “%2”, which this program does not know.</translation>
+    </message>
+    <message>
         <source>live_no_player</source>
         <translation>There is no program on this device that plays “%1” addresses.</translation>
     </message>

@@ -72,6 +72,10 @@
         <translation>Versión</translation>
     </message>
     <message>
+        <source>holds_unknown</source>
+        <translation>%1 también ha bloqueado «%2», que este programa no conoce.</translation>
+    </message>
+    <message>
         <source>live_no_player</source>
         <translation>En este dispositivo no hay ningún programa que reproduzca direcciones «%1».</translation>
     </message>

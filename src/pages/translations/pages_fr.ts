@@ -72,6 +72,10 @@
         <translation>Version</translation>
     </message>
     <message>
+        <source>holds_unknown</source>
+        <translation>%1 a aussi verrouillé « %2 », que ce programme ne connaît pas.</translation>
+    </message>
+    <message>
         <source>live_no_player</source>
         <translation>Aucun programme de cet appareil ne lit les adresses « %1 ».</translation>
     </message>

@@ -72,6 +72,10 @@
         <translation>バージョン</translation>
     </message>
     <message>
+        <source>holds_unknown</source>
+        <translation>%1 は「%2」もロックしていますが、このプログラムはこれを知りません。</translation>
+    </message>
+    <message>
         <source>live_no_player</source>
         <translation>このデバイスには「%1」アドレスを再生できるプログラムがありません。</translation>
     </message>

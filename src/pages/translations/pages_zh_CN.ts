@@ -72,6 +72,10 @@
         <translation>版本</translation>
     </message>
     <message>
+        <source>holds_unknown</source>
+        <translation>%1 还锁定了“%2”，此程序不了解该设置。</translation>
+    </message>
+    <message>
         <source>live_no_player</source>
         <translation>此设备上没有可播放“%1”地址的程序。</translation>
     </message>
