@@ -92,6 +92,16 @@ TEST_F(NetworkPage, NamesTheStepAtFaultAndChecksNothingBehindItButThePipe) {
          [](ScriptedProbe& probe) {
              probe.plain.redirect = QUrl(QStringLiteral("https://www.school.example/"));
          }},
+        {"+++++x---+ This network wants you to sign in first, at device.school.example.",
+         [](ScriptedProbe& probe) {
+             probe.encrypted.distrust = QStringLiteral("of login.cafe.example");
+             probe.encrypted.isForOther = true;
+         }},
+        {"++++++-x-+ device.school.example:443 does not answer.",
+         [](ScriptedProbe& probe) {
+             probe.encrypted = {};
+             probe.encrypted.isTls = true;
+         }},
         {"++++++x--+ The clock of this device is off by 3 hours from the server’s.",
          [](ScriptedProbe& probe) { probe.now = probe.now.addSecs(-3 * 3600); }},
         {"++++++-x-+ device.school.example:443 refuses connections.",

@@ -93,6 +93,8 @@ private:
     void LookAtName(NetworkResult& step, const TaskControl& control) const;
     void LookForSignIn(NetworkResult& step, const TaskControl& control) const;
     void LookAtClock(NetworkResult& step, const TaskControl& control) const;
+    /// Whether a server that takes connections says nothing.
+    bool IsMute(const QUrl& server, const TaskControl& control) const;
     void LookAtServer(NetworkResult& step, const TaskControl& control) const;
     void LookAtCertificate(NetworkResult& step, const TaskControl& control) const;
 

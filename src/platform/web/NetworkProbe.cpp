@@ -136,9 +136,11 @@ public:
         Wait wait(control);
         const std::unique_ptr<QNetworkReply> reply(manager.get(request));
         QObject::connect(reply.get(), &QNetworkReply::sslErrors, &wait, [&](const QList<QSslError>& errors) {
-            for (const QSslError& error : errors)
+            for (const QSslError& error : errors) {
                 answer.distrust +=
                     (answer.distrust.isEmpty() ? QString() : QStringLiteral("; ")) + error.errorString();
+                answer.isForOther |= error.error() == QSslError::HostNameMismatch;
+            }
             reply->ignoreSslErrors();
         });
         QObject::connect(reply.get(), &QNetworkReply::encrypted, &wait, [&] {
