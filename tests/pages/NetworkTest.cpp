@@ -81,6 +81,11 @@ TEST_F(NetworkPage, NamesTheStepAtFaultAndChecksNothingBehindItButThePipe) {
              useProxy(probe);
              probe.addresses.clear();
          }},
+        {"+++++++x-+ The proxy does not let this device through to device.school.example:443.",
+         [&](ScriptedProbe& probe) {
+             useProxy(probe);
+             probe.connections[server] = Connection::Silent;
+         }},
         {"++++x----+ The name device.school.example could not be found.",
          [](ScriptedProbe& probe) { probe.addresses.clear(); }},
         {"+++++x---+ This network wants you to sign in first, at portal.",

@@ -230,7 +230,7 @@ void CheckNetwork::LookAtServer(NetworkResult& step, const TaskControl& control)
     case Connection::Silent:
         break;
     }
-    step.Set(Finding::ServerSilent, place);
+    step.Set(proxy.type() == QNetworkProxy::NoProxy ? Finding::ServerSilent : Finding::ServerByProxy, place);
 }
 
 void CheckNetwork::LookAtCertificate(NetworkResult& step, const TaskControl& control) const {
