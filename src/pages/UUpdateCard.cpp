@@ -9,6 +9,7 @@
 #include "widgets/UTextButton.h"
 #include "widgets/UTextLabel.h"
 
+#include <QApplication>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QProgressBar>
@@ -155,6 +156,9 @@ void UUpdateCard::Show() {
     const bool isOffer = state == State::Available && m_store.MayChoose();
     const bool mayRetry = isOver && m_store.Version().hasUpdate && m_store.MayChoose();
     const bool isUnderWay = state == State::Requested || state == State::Downloading;
+    // Stays where it is, for a second press must not meet what moves into its place.
+    const bool isPressed = isUnderWay && !isOver && m_store.Version().hasUpdate && m_store.MayChoose();
+    const bool hasFocus = isAncestorOf(QApplication::focusWidget());
     m_icon->SetIcon(isOver                     ? QStringLiteral("warning")
                     : state == State::UpToDate ? QStringLiteral("success")
                                                : QStringLiteral("update"),
@@ -171,10 +175,13 @@ void UUpdateCard::Show() {
     m_notes->setVisible(m_store.Version().hasUpdate && !m_notes->text().isEmpty());
     m_progress->setAccessibleName(m_title->text());
     ShowProgress();
-    m_update->setVisible(isOffer || mayRetry);
+    m_update->setVisible(isOffer || mayRetry || isPressed);
+    m_update->setEnabled(!isPressed);
     m_update->setText(mayRetry ? tr("update_retry") : tr("update_now"));
     m_later->setVisible(isOffer && !m_store.Version().isForceUpdate && !m_store.IsPostponed());
     m_later->setText(tr("update_later"));
     m_check->setVisible(!m_update->isVisibleTo(this) && (!isUnderWay || isOver));
     m_check->setText(tr("update_check"));
+    if (hasFocus && !isAncestorOf(QApplication::focusWidget()))
+        setFocus();
 }
