@@ -28,6 +28,11 @@ QString LiveChannels::Identity(const LiveChannelRequest& channel) {
     return QString::number(channel.id) + QLatin1Char(' ') + QString::fromStdString(channel.url);
 }
 
+QString LiveChannels::Name(const LiveChannelRequest& channel) {
+    constexpr int Most = 200;
+    return QString::fromStdString(channel.name.substr(0, 4 * Most)).simplified().left(Most);
+}
+
 const LiveChannelRequest* LiveChannels::Find(const QString& identity) const {
     const auto found = std::find_if(m_channels.begin(), m_channels.end(),
                                     [&](const auto& channel) { return Identity(channel) == identity; });
@@ -63,7 +68,7 @@ void LiveChannels::OnPipeDataReceived(PipeKey key, const std::string& body) {
     Set(std::move(channels), true);
     for (const LiveChannelRequest& channel : before)
         if (channel.jobStatus && !known.contains(Identity(channel)))
-            emit Vanished(QString::fromStdString(channel.name));
+            emit Vanished(Name(channel));
 }
 
 void LiveChannels::Set(std::vector<LiveChannelRequest> channels, bool confirmed) {

@@ -31,6 +31,12 @@ const char* KeyOf(DevicePermissions::Switch which, bool on) {
 constexpr const char* Always[] = {QT_TRANSLATE_NOOP("", "may_lock"), QT_TRANSLATE_NOOP("", "may_message"),
                                   QT_TRANSLATE_NOOP("", "may_popups"), QT_TRANSLATE_NOOP("", "may_desktop")};
 
+/// A name of the service's, as much of it as anybody reads.
+QString Shown(const std::string& name) {
+    constexpr int Most = 60;
+    return QString::fromStdString(name).simplified().left(Most);
+}
+
 } // namespace
 
 Transparency::Transparency(const DevicePermissions& permissions, QWidget* parent)
@@ -69,10 +75,10 @@ QVector<Transparency::Sentence> Transparency::Sentences() const {
             sentences.append({true, tr(key).arg(manager)});
         for (const std::string& name : context.PermissionList())
             if (!DevicePermissions::IsSwitchName(name))
-                sentences.append({true, tr("may_unknown").arg(manager, QString::fromStdString(name))});
+                sentences.append({true, tr("may_unknown").arg(manager, Shown(name))});
         for (const std::string& name : m_permissions.Held())
             if (!DevicePermissions::IsSwitchName(name))
-                sentences.append({true, tr("holds_unknown").arg(manager, QString::fromStdString(name))});
+                sentences.append({true, tr("holds_unknown").arg(manager, Shown(name))});
     } else {
         sentences.append({false, tr("may_nobody")});
     }

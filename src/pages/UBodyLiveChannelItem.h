@@ -5,6 +5,7 @@
 #include <QFrame>
 
 class QLabel;
+class UElidedLabel;
 class UIconLabel;
 class UTextButton;
 
@@ -24,6 +25,7 @@ signals:
     void Pressed(bool play);
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
@@ -31,7 +33,7 @@ private:
 
     LiveChannelRequest m_channel;
     UIconLabel* m_icon;
-    QLabel* m_name;
+    UElidedLabel* m_name;
     QLabel* m_state;
     UTextButton* m_button;
 };
