@@ -89,8 +89,11 @@ bool DevicePermissions::Change(Switch which, bool on) {
         return false;
     State state = m_state;
     state.told[static_cast<std::size_t>(which)] = on;
-    if (which == Switch::ScreenView && !on && Report(Switch::RemoteControl, false))
-        state.told[static_cast<std::size_t>(Switch::RemoteControl)] = false;
+    if (which == Switch::ScreenView) { // who switches it on has said nothing of remote control
+        state.told[static_cast<std::size_t>(Switch::RemoteControl)] = on && IsOn(Switch::RemoteControl);
+        if (!on)
+            Report(Switch::RemoteControl, false);
+    }
     Set(state, m_confirmed);
     return true;
 }
@@ -112,6 +115,8 @@ void DevicePermissions::OnPipeDataReceived(PipeKey key, const std::string& body)
         if (!ReadObject(notice, body, "status"))
             return;
         state.told[static_cast<std::size_t>(which)] = notice.status;
+        if (which == Switch::ScreenView && !notice.status)
+            state.told[static_cast<std::size_t>(Switch::RemoteControl)] = false;
         TakeFromService(state);
     }
 }

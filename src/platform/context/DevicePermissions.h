@@ -48,7 +48,8 @@ signals:
 
 private:
     struct State {
-        std::array<bool, 3> told{}; // to or by the service; remote control also while it is off for the view
+        // By the user or the service, which may tell of remote control just before it tells of the view.
+        std::array<bool, 3> told{};
         std::vector<std::string> held;
         bool operator==(const State& other) const { return told == other.told && held == other.held; }
     };
