@@ -277,7 +277,9 @@ TEST_F(KeptState, PermissionsAreKeptAndABrokenFileMeansWhatWasGranted) {
     Start();
     EXPECT_TRUE(permissions->IsOn(Switch::Location));
     AppContextData::Instance()->SetEnrolled(false);
+    Deliver(PipeKey::LocationSetting, R"({"status": true})");
     Start();
+    AppContextData::Instance()->SetEnrolled(true);
     EXPECT_FALSE(permissions->IsOn(Switch::Location));
 }
 

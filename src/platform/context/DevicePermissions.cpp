@@ -98,8 +98,10 @@ bool DevicePermissions::Change(Switch which, bool on) {
     return true;
 }
 
-// A body that cannot be read changes and confirms nothing.
+// A body that cannot be read changes and confirms nothing, and where nobody manages nothing is permitted.
 void DevicePermissions::OnPipeDataReceived(PipeKey key, const std::string& body) {
+    if (!AppContextData::Instance()->Enrolled())
+        return;
     State state = m_state;
     if (key == PipeKey::SettingPermission) {
         PermissionInfo info;
