@@ -17,7 +17,6 @@ UBodyLiveChannelItem::UBodyLiveChannelItem(QWidget* parent)
       m_button(new UTextButton) {
     m_name->setObjectName(QStringLiteral("channelName"));
     m_button->setObjectName(QStringLiteral("channelButton"));
-    m_button->installEventFilter(this);
     auto* texts = new QVBoxLayout;
     texts->setSpacing(2);
     texts->addWidget(m_name);
@@ -48,11 +47,6 @@ void UBodyLiveChannelItem::ShowTexts() {
     m_state->setText(plays ? tr("live_playing") : tr("live_stopped"));
     m_button->setText(plays ? tr("live_stop") : tr("live_play"));
     m_button->setAccessibleName(m_button->text() + QStringLiteral(": ") + m_name->Text());
-}
-
-// A double click plays; its second press would stop again.
-bool UBodyLiveChannelItem::eventFilter(QObject* watched, QEvent* event) {
-    return event->type() == QEvent::MouseButtonDblClick || QFrame::eventFilter(watched, event);
 }
 
 void UBodyLiveChannelItem::changeEvent(QEvent* event) {

@@ -25,7 +25,6 @@ signals:
     void Pressed(bool play);
 
 protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
