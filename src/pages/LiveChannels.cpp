@@ -2,6 +2,7 @@
 
 #include "entity/JsonText.h"
 #include "platform/context/AppContextData.h"
+#include "platform/context/ShownText.h"
 #include "platform/link/PipeClientService.h"
 
 #include <QCoreApplication>
@@ -26,11 +27,6 @@ LiveChannels* LiveChannels::OfApplication() {
 // Numbers alone need not differ: they may be missing.
 QString LiveChannels::Identity(const LiveChannelRequest& channel) {
     return QString::number(channel.id) + QLatin1Char(' ') + QString::fromStdString(channel.url);
-}
-
-QString LiveChannels::Name(const LiveChannelRequest& channel) {
-    constexpr int Most = 200;
-    return QString::fromStdString(channel.name.substr(0, 4 * Most)).simplified().left(Most);
 }
 
 const LiveChannelRequest* LiveChannels::Find(const QString& identity) const {
@@ -68,7 +64,7 @@ void LiveChannels::OnPipeDataReceived(PipeKey key, const std::string& body) {
     Set(std::move(channels), true);
     for (const LiveChannelRequest& channel : before)
         if (channel.jobStatus && !known.contains(Identity(channel)))
-            emit Vanished(Name(channel));
+            emit Vanished(ShownName(channel.name));
 }
 
 void LiveChannels::Set(std::vector<LiveChannelRequest> channels, bool confirmed) {

@@ -28,9 +28,6 @@ public:
     /// The same text for the same channel in every list.
     static QString Identity(const LiveChannelRequest& channel);
 
-    /// On one line, and no longer than anybody reads; empty when it has none.
-    static QString Name(const LiveChannelRequest& channel);
-
     /// Tells the service that the channel is to play or to stop; false, and nothing has changed, when it is
     /// not reached or the channel has gone.
     bool Control(const QString& identity, bool play);

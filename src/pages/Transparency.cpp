@@ -2,6 +2,7 @@
 
 #include "platform/context/AppContextData.h"
 #include "platform/context/DevicePermissions.h"
+#include "platform/context/ShownText.h"
 #include "widgets/CommonFacts.h"
 #include "widgets/UIconLabel.h"
 #include "widgets/UTextLabel.h"
@@ -31,11 +32,7 @@ const char* KeyOf(DevicePermissions::Switch which, bool on) {
 constexpr const char* Always[] = {QT_TRANSLATE_NOOP("", "may_lock"), QT_TRANSLATE_NOOP("", "may_message"),
                                   QT_TRANSLATE_NOOP("", "may_popups"), QT_TRANSLATE_NOOP("", "may_desktop")};
 
-/// A name of the service's, as much of it as anybody reads.
-QString Shown(const std::string& name) {
-    constexpr int Most = 60;
-    return QString::fromStdString(name).simplified().left(Most);
-}
+constexpr int MostOfName = 60;
 
 } // namespace
 
@@ -75,10 +72,10 @@ QVector<Transparency::Sentence> Transparency::Sentences() const {
             sentences.append({true, tr(key).arg(manager)});
         for (const std::string& name : context.PermissionList())
             if (!DevicePermissions::IsSwitchName(name))
-                sentences.append({true, tr("may_unknown").arg(manager, Shown(name))});
+                sentences.append({true, tr("may_unknown").arg(manager, ShownName(name, MostOfName))});
         for (const std::string& name : m_permissions.Held())
             if (!DevicePermissions::IsSwitchName(name))
-                sentences.append({true, tr("holds_unknown").arg(manager, Shown(name))});
+                sentences.append({true, tr("holds_unknown").arg(manager, ShownName(name, MostOfName))});
     } else {
         sentences.append({false, tr("may_nobody")});
     }

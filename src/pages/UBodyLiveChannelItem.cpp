@@ -1,6 +1,6 @@
 #include "pages/UBodyLiveChannelItem.h"
 
-#include "pages/LiveChannels.h"
+#include "platform/context/ShownText.h"
 #include "widgets/UElidedLabel.h"
 #include "widgets/UIconLabel.h"
 #include "widgets/UTextButton.h"
@@ -42,7 +42,7 @@ QWidget* UBodyLiveChannelItem::TabStop() const {
 void UBodyLiveChannelItem::ShowTexts() {
     const bool plays = m_channel.jobStatus;
     m_icon->SetIcon(QStringLiteral("live"), plays ? QStringLiteral("accent") : QStringLiteral("textMuted"));
-    const QString name = LiveChannels::Name(m_channel);
+    const QString name = ShownName(m_channel.name);
     m_name->SetText(name.isEmpty() ? tr("live_unnamed").arg(m_channel.id) : name);
     m_state->setText(plays ? tr("live_playing") : tr("live_stopped"));
     m_button->setText(plays ? tr("live_stop") : tr("live_play"));

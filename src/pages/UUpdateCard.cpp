@@ -4,6 +4,7 @@
 #include "platform/application/RyxWindow.h"
 #include "platform/context/AppContextData.h"
 #include "platform/context/LanguageHelper.h"
+#include "platform/context/ShownText.h"
 #include "widgets/UFactsPage.h"
 #include "widgets/UIconLabel.h"
 #include "widgets/UTextButton.h"
@@ -22,10 +23,6 @@ constexpr int MostOfNotes = 4000;
 constexpr int MostOfName = 80;
 
 using State = UpdateStore::State;
-
-QString Words(const std::string& utf8, int most) {
-    return QString::fromStdString(utf8).left(most).trimmed();
-}
 
 /// The number may be anything.
 qint64 Bytes(double value) {
@@ -102,7 +99,7 @@ void UUpdateCard::changeEvent(QEvent* event) {
 
 QString UUpdateCard::VersionWords() const {
     const OtaUpdateVersionInfo& version = m_store.Version();
-    const QString name = Words(version.versionCode, MostOfName);
+    const QString name = ShownName(version.versionCode, MostOfName);
     QString words =
         version.fileSize > 0
             ? tr("update_available_size").arg(name, LanguageHelper::Instance()->SizeText(version.fileSize))
@@ -170,7 +167,8 @@ void UUpdateCard::Show() {
     const QString told = LanguageHelper::Instance()->Locale().toString(m_store.Told(), QLocale::ShortFormat);
     m_age->setText((m_store.IsOld() ? tr("update_old") : tr("update_told")).arg(told));
     m_age->setVisible(m_store.Told().isValid());
-    m_notes->setText(Words(m_store.Version().updateDesc, MostOfNotes));
+    m_notes->setText(
+        ShownText(QString::fromStdString(m_store.Version().updateDesc).left(MostOfNotes)).trimmed());
     m_notes->setAlignment(UFactsPage::ValueAlignment(this));
     m_notes->setVisible(m_store.Version().hasUpdate && !m_notes->text().isEmpty());
     m_progress->setAccessibleName(m_title->text());

@@ -18,7 +18,8 @@ class UIconLabel;
 ///     toast->show();
 ///
 /// The toasts of a window never cover each other: show() shows the message at once when none is on screen,
-/// else when those before it are gone; one that is on screen or waits is not told twice. Screen readers announce it as it appears, and it never has the focus.
+/// else when those before it are gone; one that is on screen or waits is not told twice. Screen readers
+/// announce it as it appears, and it never has the focus.
 class UToast : public QFrame {
     Q_OBJECT
 
