@@ -516,6 +516,10 @@
         <translation>اللغة</translation>
     </message>
     <message>
+        <source>settings_not_kept</source>
+        <translation>تعذّر حفظ اختيارك؛ وهو سارٍ حتى ينتهي البرنامج.</translation>
+    </message>
+    <message>
         <source>settings_sentence</source>
         <translation>مظهر هذا البرنامج ولغته، وما يُسمح لمؤسستك بفعله على هذا الجهاز.</translation>
     </message>

@@ -516,6 +516,10 @@
         <translation>Sprache</translation>
     </message>
     <message>
+        <source>settings_not_kept</source>
+        <translation>Ihre Wahl konnte nicht gespeichert werden; sie gilt, bis das Programm endet.</translation>
+    </message>
+    <message>
         <source>settings_sentence</source>
         <translation>Wie dieses Programm aussieht, welche Sprache es spricht, und was Ihre Organisation auf diesem Gerät darf.</translation>
     </message>

@@ -516,6 +516,10 @@
         <translation>Language</translation>
     </message>
     <message>
+        <source>settings_not_kept</source>
+        <translation>Your choice could not be saved; it counts until the program ends.</translation>
+    </message>
+    <message>
         <source>settings_sentence</source>
         <translation>How this program looks and which language it speaks, and what your organisation may do on this device.</translation>
     </message>

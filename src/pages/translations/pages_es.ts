@@ -516,6 +516,10 @@
         <translation>Idioma</translation>
     </message>
     <message>
+        <source>settings_not_kept</source>
+        <translation>No se pudo guardar su elección; vale hasta que termine el programa.</translation>
+    </message>
+    <message>
         <source>settings_sentence</source>
         <translation>El aspecto de este programa y su idioma, y lo que su organización puede hacer en este dispositivo.</translation>
     </message>

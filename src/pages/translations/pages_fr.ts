@@ -516,6 +516,10 @@
         <translation>Langue</translation>
     </message>
     <message>
+        <source>settings_not_kept</source>
+        <translation>Votre choix n’a pas pu être enregistré ; il vaut jusqu’à la fin du programme.</translation>
+    </message>
+    <message>
         <source>settings_sentence</source>
         <translation>L’apparence de ce programme et sa langue, et ce que votre organisation peut faire sur cet appareil.</translation>
     </message>

@@ -516,6 +516,10 @@
         <translation>言語</translation>
     </message>
     <message>
+        <source>settings_not_kept</source>
+        <translation>選択を保存できませんでした。プログラムを終了するまで有効です。</translation>
+    </message>
+    <message>
         <source>settings_sentence</source>
         <translation>このプログラムの外観と言語、および組織がこのデバイスで行える操作です。</translation>
     </message>

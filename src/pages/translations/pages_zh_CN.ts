@@ -516,6 +516,10 @@
         <translation>语言</translation>
     </message>
     <message>
+        <source>settings_not_kept</source>
+        <translation>您的选择无法保存；仅在程序退出前有效。</translation>
+    </message>
+    <message>
         <source>settings_sentence</source>
         <translation>此程序的外观和语言，以及您的组织可以在此设备上执行的操作。</translation>
     </message>
