@@ -83,6 +83,9 @@ TEST_F(SettingsPage, ShowsWhatCameBeforeItWasOpenedAndSaysWhenItIsOld) {
     EXPECT_TRUE(Shows("is not reached"));
     AppContextData::Instance()->SetLinked(true);
     EXPECT_TRUE(Shows("has not confirmed it"));
+    for (const char* useless : {"{}", R"({"keyList": "x"})", "[]", "none"})
+        stage.Receive(77, useless);
+    EXPECT_TRUE(Shows("has not confirmed it"));
     EXPECT_TRUE(Switch("screenViewRow").IsHeld()) << "what is old is still shown";
     stage.Receive(76, R"({"status": false})");
     EXPECT_FALSE(Shows("has not confirmed it"));

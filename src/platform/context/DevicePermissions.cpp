@@ -12,6 +12,7 @@
 #include <QJsonArray>
 #include <QJsonObject>
 #include <algorithm>
+#include <glog/logging.h>
 #include <utility>
 
 namespace {
@@ -98,29 +99,40 @@ bool DevicePermissions::Change(Switch which, bool on) {
     return true;
 }
 
-// A body that cannot be read changes and confirms nothing, and where nobody manages nothing is permitted.
+// Where nobody manages, nothing is held or permitted.
 void DevicePermissions::OnPipeDataReceived(PipeKey key, const std::string& body) {
     if (!AppContextData::Instance()->Enrolled())
         return;
+    bool isUsed = key != PipeKey::SettingPermission || TakeHeld(body);
+    for (const Switch which : AllSwitches)
+        isUsed &= key != KeyOf(which).key || TakeSwitch(which, body);
+    LOG_IF(WARNING, !isUsed) << "DevicePermissions::OnPipeDataReceived cannot use the body of key "
+                             << static_cast<int>(key);
+}
+
+bool DevicePermissions::TakeHeld(const std::string& body) {
+    const auto json = ParseJsonObject(body);
+    // An empty list is written as null.
+    if (!json || !json->isMember("keyList") || !((*json)["keyList"].isArray() || (*json)["keyList"].isNull()))
+        return false;
+    PermissionInfo info;
+    info.ReadFromJson(*json);
     State state = m_state;
-    if (key == PipeKey::SettingPermission) {
-        PermissionInfo info;
-        if (!ReadObject(info, body))
-            return;
-        state.held = info.keyList;
-        TakeFromService(state);
-    }
-    for (const Switch which : AllSwitches) {
-        if (key != KeyOf(which).key)
-            continue;
-        DeviceSettingNotify notice;
-        if (!ReadObject(notice, body, "status"))
-            return;
-        state.told[static_cast<std::size_t>(which)] = notice.status;
-        if (which == Switch::ScreenView && !notice.status)
-            state.told[static_cast<std::size_t>(Switch::RemoteControl)] = false;
-        TakeFromService(state);
-    }
+    state.held = info.keyList;
+    TakeFromService(state);
+    return true;
+}
+
+bool DevicePermissions::TakeSwitch(Switch which, const std::string& body) {
+    DeviceSettingNotify notice;
+    if (!ReadObject(notice, body, "status"))
+        return false;
+    State state = m_state;
+    state.told[static_cast<std::size_t>(which)] = notice.status;
+    if (which == Switch::ScreenView && !notice.status)
+        state.told[static_cast<std::size_t>(Switch::RemoteControl)] = false;
+    TakeFromService(state);
+    return true;
 }
 
 void DevicePermissions::TakeFromService(const State& state) {

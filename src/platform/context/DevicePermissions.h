@@ -57,6 +57,9 @@ private:
     bool& Told(Switch which) { return m_state.told[static_cast<std::size_t>(which)]; }
     bool Told(Switch which) const { return m_state.told[static_cast<std::size_t>(which)]; }
     void OnPipeDataReceived(PipeKey key, const std::string& body);
+    /// Each is false for a body that cannot be used, which changes and confirms nothing.
+    bool TakeHeld(const std::string& body);
+    bool TakeSwitch(Switch which, const std::string& body);
     void TakeFromService(const State& state);
     void Grant();
     void Set(State state, bool confirmed);
