@@ -10,6 +10,12 @@
 #include <algorithm>
 #include <utility>
 
+namespace {
+
+constexpr std::size_t Most = 100;
+
+} // namespace
+
 LiveChannels::LiveChannels(QObject* parent) : QObject(parent) {
     PipeClientService::Instance()->Subscribe(this, &LiveChannels::OnPipeDataReceived);
     connect(AppContextData::Instance(), &AppContextData::Changed, this, [this](AppContextData::Field field) {
@@ -56,7 +62,7 @@ void LiveChannels::OnPipeDataReceived(PipeKey key, const std::string& body) {
     QSet<QString> known;
     for (const LiveChannelRequest& channel : list.liveChannelList) {
         const QString identity = Identity(channel);
-        if (!known.contains(identity))
+        if (channels.size() < Most && !known.contains(identity))
             channels.push_back(channel);
         known.insert(identity);
     }

@@ -199,7 +199,8 @@ struct KeptState : testing::Test {
         Start();
     }
     void Start() {
-        acts.reset(); // writes
+        acts.reset(); // this and the next write
+        permissions.reset();
         permissions = std::make_unique<DevicePermissions>(Path("permissions"));
         acts = std::make_unique<ActHistory>(Path("acts"), *permissions, clock);
     }

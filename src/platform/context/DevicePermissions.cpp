@@ -18,6 +18,9 @@
 namespace {
 
 constexpr qint64 LargestFile = 64 * 1024;
+constexpr int WriteAfterMs = 1000; // a burst is written once
+constexpr std::size_t MostHeld = 100;
+constexpr std::size_t LongestName = 100;
 
 /// A switch as the service and the file know it.
 struct SwitchKey {
@@ -53,6 +56,9 @@ bool Report(DevicePermissions::Switch which, bool on) {
 } // namespace
 
 DevicePermissions::DevicePermissions(const QString& file, QObject* parent) : QObject(parent), m_file(file) {
+    m_writeTimer.setSingleShot(true);
+    m_writeTimer.setInterval(WriteAfterMs);
+    connect(&m_writeTimer, &QTimer::timeout, this, &DevicePermissions::Write);
     Read();
     PipeClientService::Instance()->Subscribe(this, &DevicePermissions::OnPipeDataReceived);
     connect(AppContextData::Instance(), &AppContextData::Changed, this, [this](AppContextData::Field field) {
@@ -63,6 +69,11 @@ DevicePermissions::DevicePermissions(const QString& file, QObject* parent) : QOb
         else if (field == AppContextData::Field::Linked)
             Set(m_state, false);
     });
+}
+
+DevicePermissions::~DevicePermissions() {
+    if (m_writeTimer.isActive())
+        Write();
 }
 
 DevicePermissions* DevicePermissions::OfApplication() {
@@ -118,7 +129,10 @@ bool DevicePermissions::TakeHeld(const std::string& body) {
     PermissionInfo info;
     info.ReadFromJson(*json);
     State state = m_state;
-    state.held = info.keyList;
+    state.held.clear();
+    for (const std::string& name : info.keyList)
+        if (state.held.size() < MostHeld && name.size() <= LongestName)
+            state.held.push_back(name);
     TakeFromService(state);
     return true;
 }
@@ -153,8 +167,8 @@ void DevicePermissions::Grant() {
 void DevicePermissions::Set(State state, bool confirmed) {
     const State before = std::exchange(m_state, std::move(state));
     m_confirmed = confirmed;
-    if (!(before == m_state))
-        Write();
+    if (!(before == m_state) && !m_file.isEmpty() && !m_writeTimer.isActive())
+        m_writeTimer.start();
     if (before.held != m_state.held)
         emit HeldChanged();
     emit Changed();
@@ -176,8 +190,6 @@ void DevicePermissions::Read() {
 }
 
 void DevicePermissions::Write() const {
-    if (m_file.isEmpty())
-        return;
     QJsonArray held;
     for (const std::string& name : m_state.held)
         held.append(QString::fromStdString(name));

@@ -3,6 +3,7 @@
 #include "platform/link/PipeKey.h"
 
 #include <QObject>
+#include <QTimer>
 #include <array>
 #include <string>
 #include <vector>
@@ -20,6 +21,8 @@ public:
     /// Reads what an earlier start has kept in `file`, or else begins with what was granted at the enrolment;
     /// without a name nothing is kept.
     explicit DevicePermissions(const QString& file, QObject* parent = nullptr);
+    /// Writes what is not written yet.
+    ~DevicePermissions() override;
 
     /// The application object's; null when it has none.
     static DevicePermissions* OfApplication();
@@ -28,7 +31,7 @@ public:
     bool IsOn(Switch which) const;
     /// The organisation alone may change it.
     bool IsHeld(Switch which) const;
-    /// The service's names of all that the organisation holds, those of no switch as well.
+    /// The service's names of what the organisation holds, those of no switch as well; a hundred at most.
     const std::vector<std::string>& Held() const { return m_state.held; }
     /// The service has spoken since the link came up: what is known is not of before.
     bool IsConfirmed() const { return m_confirmed; }
@@ -69,4 +72,5 @@ private:
     const QString m_file;
     State m_state;
     bool m_confirmed = false;
+    QTimer m_writeTimer{this};
 };
