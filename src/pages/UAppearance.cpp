@@ -11,11 +11,18 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QListView>
+#include <QWheelEvent>
 
 namespace {
 
+/// Leaves the wheel to the page, which is scrolled with it.
+class Box : public QComboBox {
+protected:
+    void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+};
+
 QComboBox* MakeBox(const char* objectName, QLabel* label) {
-    auto* box = new QComboBox;
+    auto* box = new Box;
     box->setObjectName(QString::fromLatin1(objectName));
     // The style sheet reaches the rows of a list view of our own, but not those of the built-in popup.
     box->setView(new QListView(box));
