@@ -60,7 +60,7 @@ UMenu::UMenu(QWidget* parent) : QWidget(parent), m_scroll(new GestureScrollArea)
     Select(0);
     Retranslate();
     connect(AppContextData::Instance(), &AppContextData::Changed, this, [this](AppContextData::Field field) {
-        if (field == AppContextData::Field::Linked)
+        if (field == AppContextData::Field::Linked || field == AppContextData::Field::Enrolled)
             UpdateMarks();
     });
     if (const UpdateStore* updates = UpdateStore::OfApplication())
@@ -154,7 +154,9 @@ void UMenu::UpdateMarks() {
     const UpdateStore* updates = UpdateStore::OfApplication();
     mark(PageId::About, updates && updates->WantsAttention(), "dot", tr("menu_mark_update"));
     const DevicePermissions* permissions = DevicePermissions::OfApplication();
-    mark(PageId::Settings, permissions && !permissions->Held().empty(), "managed", tr("menu_mark_managed"));
+    mark(PageId::Settings,
+         permissions && AppContextData::Instance()->Enrolled() && !permissions->Held().empty(), "managed",
+         tr("menu_mark_managed"));
 }
 
 void UMenu::UpdateWidth() {

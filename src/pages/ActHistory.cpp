@@ -39,7 +39,10 @@ ActHistory::ActHistory(const QString& file, const DevicePermissions& permissions
     connect(&m_writeTimer, &QTimer::timeout, this, &ActHistory::Write);
     Read();
     QCoreApplication::instance()->installEventFilter(this);
-    connect(&permissions, &DevicePermissions::ChangedByService, this, [this] { Add(Act::Permissions); });
+    connect(&permissions, &DevicePermissions::ChangedByService, this, [this] {
+        if (AppContextData::Instance()->Enrolled())
+            Add(Act::Permissions);
+    });
     connect(AppContextData::Instance(), &AppContextData::Changed, this, [this](AppContextData::Field field) {
         if (field == AppContextData::Field::Enrolled && !AppContextData::Instance()->Enrolled())
             Add(Act::Unenrolled);

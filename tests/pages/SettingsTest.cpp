@@ -85,6 +85,8 @@ TEST_F(SettingsPage, ShowsWhatCameBeforeItWasOpenedAndSaysWhenItIsOld) {
     EXPECT_TRUE(Shows("has not confirmed it"));
     EXPECT_TRUE(Switch("screenViewRow").IsHeld()) << "what is old is still shown";
     stage.Receive(76, R"({"status": false})");
+    EXPECT_TRUE(Shows("has not confirmed it")) << "what is held is of before";
+    stage.Receive(77, R"({"keyList": ["screenshot"]})");
     EXPECT_FALSE(Shows("has not confirmed it"));
     EXPECT_TRUE(Shows("may not find out where this device is."));
     AppContextData::Instance()->SetPermissionList({"<b>newOne</b>"});

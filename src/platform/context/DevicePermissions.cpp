@@ -18,7 +18,8 @@
 namespace {
 
 constexpr qint64 LargestFile = 64 * 1024;
-constexpr int WriteAfterMs = 1000; // a burst is written once
+constexpr int WriteAfterMs = 1000;   // a burst is written once
+constexpr std::size_t HeldPlace = 3; // behind the switches
 constexpr std::size_t MostHeld = 100;
 constexpr std::size_t LongestName = 100;
 
@@ -62,12 +63,15 @@ DevicePermissions::DevicePermissions(const QString& file, QObject* parent) : QOb
     Read();
     PipeClientService::Instance()->Subscribe(this, &DevicePermissions::OnPipeDataReceived);
     connect(AppContextData::Instance(), &AppContextData::Changed, this, [this](AppContextData::Field field) {
-        if (field == AppContextData::Field::PermissionList)
+        if (field == AppContextData::Field::PermissionList) {
             Grant();
-        else if (field == AppContextData::Field::Enrolled && !AppContextData::Instance()->Enrolled())
-            Set({}, false);
-        else if (field == AppContextData::Field::Linked)
-            Set(m_state, false);
+        } else if (field == AppContextData::Field::Enrolled) {
+            Set(AppContextData::Instance()->Enrolled() ? m_state : State());
+            WriteLater();
+        } else if (field == AppContextData::Field::Linked) {
+            m_confirmed.fill(false);
+            emit Changed();
+        }
     });
 }
 
@@ -91,6 +95,14 @@ bool DevicePermissions::IsHeld(Switch which) const {
     return IsNamed(which, m_state.held);
 }
 
+bool DevicePermissions::IsConfirmed() const {
+    bool isConfirmed =
+        m_confirmed != decltype(m_confirmed){} && (m_state.held.empty() || m_confirmed[HeldPlace]);
+    for (std::size_t place = 0; place < m_state.told.size(); ++place)
+        isConfirmed &= m_confirmed[place] || !m_state.told[place];
+    return isConfirmed;
+}
+
 bool DevicePermissions::IsSwitchName(const std::string& name) {
     return std::any_of(std::begin(SwitchKeys), std::end(SwitchKeys),
                        [&](const SwitchKey& key) { return IsNameOf(key, name); });
@@ -106,14 +118,11 @@ bool DevicePermissions::Change(Switch which, bool on) {
         if (!on)
             Report(Switch::RemoteControl, false);
     }
-    Set(state, m_confirmed);
+    Set(state);
     return true;
 }
 
-// Where nobody manages, nothing is held or permitted.
 void DevicePermissions::OnPipeDataReceived(PipeKey key, const std::string& body) {
-    if (!AppContextData::Instance()->Enrolled())
-        return;
     bool isUsed = key != PipeKey::SettingPermission || TakeHeld(body);
     for (const Switch which : AllSwitches)
         isUsed &= key != KeyOf(which).key || TakeSwitch(which, body);
@@ -133,42 +142,44 @@ bool DevicePermissions::TakeHeld(const std::string& body) {
     for (const std::string& name : info.keyList)
         if (state.held.size() < MostHeld && name.size() <= LongestName)
             state.held.push_back(name);
-    TakeFromService(state);
+    TakeFromService(state, HeldPlace);
     return true;
 }
 
 bool DevicePermissions::TakeSwitch(Switch which, const std::string& body) {
     DeviceSettingNotify notice;
-    if (!ReadObject(notice, body, "status"))
+    if (!ReadObject(notice, body))
         return false;
     State state = m_state;
     state.told[static_cast<std::size_t>(which)] = notice.status;
     if (which == Switch::ScreenView && !notice.status)
         state.told[static_cast<std::size_t>(Switch::RemoteControl)] = false;
-    TakeFromService(state);
+    TakeFromService(state, static_cast<std::size_t>(which));
     return true;
 }
 
-void DevicePermissions::TakeFromService(const State& state) {
+void DevicePermissions::TakeFromService(const State& state, std::size_t what) {
     const bool isNew = !(state == m_state);
-    Set(state, true);
+    m_confirmed[what] = true;
+    Set(state);
     if (isNew)
         emit ChangedByService();
 }
 
+// What an enrolment brings. Nothing is held before the service says so.
 void DevicePermissions::Grant() {
     const std::vector<std::string>& granted = AppContextData::Instance()->PermissionList();
-    State state = m_state;
+    State state;
     for (const Switch which : AllSwitches)
         state.told[static_cast<std::size_t>(which)] = IsNamed(which, granted);
-    Set(state, AppContextData::Instance()->Linked());
+    m_confirmed.fill(AppContextData::Instance()->Linked());
+    Set(state);
 }
 
-void DevicePermissions::Set(State state, bool confirmed) {
+void DevicePermissions::Set(State state) {
     const State before = std::exchange(m_state, std::move(state));
-    m_confirmed = confirmed;
-    if (!(before == m_state) && !m_file.isEmpty() && !m_writeTimer.isActive())
-        m_writeTimer.start();
+    if (!(before == m_state))
+        WriteLater();
     if (before.held != m_state.held)
         emit HeldChanged();
     emit Changed();
@@ -189,12 +200,19 @@ void DevicePermissions::Read() {
         m_state.held.push_back(name.toString().toStdString());
 }
 
+void DevicePermissions::WriteLater() {
+    if (!m_file.isEmpty() && !m_writeTimer.isActive())
+        m_writeTimer.start();
+}
+
+// What is told of a device that nobody manages, as an enrolment begins or by mistake, is not kept.
 void DevicePermissions::Write() const {
+    const State state = AppContextData::Instance()->Enrolled() ? m_state : State();
     QJsonArray held;
-    for (const std::string& name : m_state.held)
+    for (const std::string& name : state.held)
         held.append(QString::fromStdString(name));
     QJsonObject json{{QStringLiteral("held"), held}};
     for (const Switch which : AllSwitches)
-        json.insert(QLatin1String(KeyOf(which).name), Told(which));
+        json.insert(QLatin1String(KeyOf(which).name), state.told[static_cast<std::size_t>(which)]);
     JsonFile::Write(m_file, QJsonDocument(json));
 }

@@ -33,8 +33,8 @@ public:
     bool IsHeld(Switch which) const;
     /// The service's names of what the organisation holds, those of no switch as well; a hundred at most.
     const std::vector<std::string>& Held() const { return m_state.held; }
-    /// The service has spoken since the link came up: what is known is not of before.
-    bool IsConfirmed() const { return m_confirmed; }
+    /// The service has told anew since the link came up what is on and what is held: it is not of before.
+    bool IsConfirmed() const;
     /// Whether the service's name for a permission means one of the switches.
     static bool IsSwitchName(const std::string& name);
 
@@ -63,14 +63,15 @@ private:
     /// Each is false for a body that cannot be used, which changes and confirms nothing.
     bool TakeHeld(const std::string& body);
     bool TakeSwitch(Switch which, const std::string& body);
-    void TakeFromService(const State& state);
+    void TakeFromService(const State& state, std::size_t what);
     void Grant();
-    void Set(State state, bool confirmed);
+    void Set(State state);
     void Read();
+    void WriteLater();
     void Write() const;
 
     const QString m_file;
     State m_state;
-    bool m_confirmed = false;
+    std::array<bool, 4> m_confirmed{}; // each switch, and what is held
     QTimer m_writeTimer{this};
 };
