@@ -368,6 +368,10 @@
         <translation>الوكيل %1 لا يستجيب.</translation>
     </message>
     <message>
+        <source>network_proxy_own_advice</source>
+        <translation>هذا الوكيل محدد في إعدادات البرنامج، ويجب تصحيحه هناك.</translation>
+    </message>
+    <message>
         <source>network_proxy_reached</source>
         <translation>يمكن الوصول إلى الوكيل %1.</translation>
     </message>

@@ -368,6 +368,10 @@
         <translation>Der Proxy %1 antwortet nicht.</translation>
     </message>
     <message>
+        <source>network_proxy_own_advice</source>
+        <translation>Dieser Proxy steht in der Konfiguration des Programms und muss dort berichtigt werden.</translation>
+    </message>
+    <message>
         <source>network_proxy_reached</source>
         <translation>Der Proxy %1 ist erreichbar.</translation>
     </message>

@@ -368,6 +368,10 @@
         <translation>The proxy %1 does not answer.</translation>
     </message>
     <message>
+        <source>network_proxy_own_advice</source>
+        <translation>This proxy is set in the program’s configuration, where it has to be corrected.</translation>
+    </message>
+    <message>
         <source>network_proxy_reached</source>
         <translation>The proxy %1 is reached.</translation>
     </message>

@@ -368,6 +368,10 @@
         <translation>El proxy %1 no responde.</translation>
     </message>
     <message>
+        <source>network_proxy_own_advice</source>
+        <translation>Este proxy está en la configuración del programa; hay que corregirlo allí.</translation>
+    </message>
+    <message>
         <source>network_proxy_reached</source>
         <translation>Se llega al proxy %1.</translation>
     </message>

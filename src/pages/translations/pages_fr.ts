@@ -368,6 +368,10 @@
         <translation>Le proxy %1 ne répond pas.</translation>
     </message>
     <message>
+        <source>network_proxy_own_advice</source>
+        <translation>Ce proxy est défini dans la configuration du programme ; c’est là qu’il faut le corriger.</translation>
+    </message>
+    <message>
         <source>network_proxy_reached</source>
         <translation>Le proxy %1 est joignable.</translation>
     </message>

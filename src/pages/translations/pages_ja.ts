@@ -368,6 +368,10 @@
         <translation>プロキシ %1 が応答しません。</translation>
     </message>
     <message>
+        <source>network_proxy_own_advice</source>
+        <translation>このプロキシはプログラムの構成で設定されています。そこで修正する必要があります。</translation>
+    </message>
+    <message>
         <source>network_proxy_reached</source>
         <translation>プロキシ %1 に接続できます。</translation>
     </message>

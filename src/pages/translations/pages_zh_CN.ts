@@ -368,6 +368,10 @@
         <translation>代理 %1 没有响应。</translation>
     </message>
     <message>
+        <source>network_proxy_own_advice</source>
+        <translation>此代理在程序的配置中设置，需要在那里更正。</translation>
+    </message>
+    <message>
         <source>network_proxy_reached</source>
         <translation>可以连接代理 %1。</translation>
     </message>

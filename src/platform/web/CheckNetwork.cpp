@@ -150,12 +150,15 @@ void CheckNetwork::LookAtProxy(NetworkResult& step, const TaskControl& control) 
     const QNetworkProxy proxy = m_probe->Proxy(m_settings, step.server);
     if (proxy.type() == QNetworkProxy::NoProxy)
         return step.Set(Finding::ProxyNone);
+    // A configured one may be written so that it names no host.
+    const QString place = proxy.hostName().isEmpty() ? m_settings.proxy.section(QLatin1Char('@'), -1)
+                                                     : Place(proxy.hostName(), proxy.port());
     const Connection connection =
         m_probe->Connect(proxy.hostName(), proxy.port(), QNetworkProxy(QNetworkProxy::NoProxy), control);
     step.Set(connection == Connection::Made       ? Finding::ProxyReached
              : connection == Connection::NotFound ? Finding::ProxyNotFound
                                                   : Finding::ProxyNotReached,
-             {Place(proxy.hostName(), proxy.port())});
+             {place});
 }
 
 // Where there is a proxy, it looks the names of servers up.
