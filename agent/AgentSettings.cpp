@@ -43,6 +43,8 @@ void AgentSettings::Switch(PipeKey key, bool isOn) {
     DeviceSettingNotify state;
     state.status = isOn;
     m_server.Send(key, m_told[key] = state.WriteToString());
+    if (key == PipeKey::ScreenShotSetting && !isOn) // every front end takes remote control along
+        m_told[PipeKey::ScreenNotifySetting] = m_told[key];
 }
 
 void AgentSettings::AddChannel(const std::string& name, const std::string& url) {

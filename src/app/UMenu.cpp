@@ -2,11 +2,11 @@
 
 #include "app/Pages.h"
 #include "app/UMenuEntry.h"
-#include "entity/EnrollEntities.h"
 #include "entity/IotEntities.h"
 #include "pages/UpdateStore.h"
 #include "platform/application/IotStatus.h"
 #include "platform/context/AppContextData.h"
+#include "platform/context/DevicePermissions.h"
 #include "platform/link/PipeEventWatcher.h"
 #include "widgets/AccessibleRole.h"
 #include "widgets/GestureScrollArea.h"
@@ -60,11 +60,13 @@ UMenu::UMenu(QWidget* parent) : QWidget(parent), m_scroll(new GestureScrollArea)
     Select(0);
     Retranslate();
     connect(AppContextData::Instance(), &AppContextData::Changed, this, [this](AppContextData::Field field) {
-        if (field == AppContextData::Field::Linked)
+        if (field == AppContextData::Field::Linked || field == AppContextData::Field::Enrolled)
             UpdateMarks();
     });
     if (const UpdateStore* updates = UpdateStore::OfApplication())
         connect(updates, &UpdateStore::Changed, this, &UMenu::UpdateMarks);
+    if (const DevicePermissions* permissions = DevicePermissions::OfApplication())
+        connect(permissions, &DevicePermissions::HeldChanged, this, &UMenu::UpdateMarks);
     new PipeEventWatcher(this, [this](PipeKey key, const std::string& body) { OnPipeReceive(key, body); });
 }
 
@@ -125,22 +127,14 @@ void UMenu::changeEvent(QEvent* event) {
 }
 
 void UMenu::OnPipeReceive(PipeKey key, const std::string& body) {
-    if (key == PipeKey::IotStatusNotify) {
-        IotStatusEntity entity;
-        entity.ReadFromString(body);
-        if (!IsKnownIotStatus(entity.status))
-            return;
-        const auto status = static_cast<IotStatus>(entity.status);
-        m_disconnected = status == IotStatus::Disconnected;
-        if (status == IotStatus::NotEnrolled)
-            m_managed = false; // what an organisation holds goes with it
-        UpdateMarks();
-    } else if (key == PipeKey::SettingPermission) {
-        PermissionInfo permissions;
-        permissions.ReadFromString(body);
-        m_managed = !permissions.keyList.empty();
-        UpdateMarks();
-    }
+    if (key != PipeKey::IotStatusNotify)
+        return;
+    IotStatusEntity entity;
+    entity.ReadFromString(body);
+    if (!IsKnownIotStatus(entity.status))
+        return;
+    m_disconnected = static_cast<IotStatus>(entity.status) == IotStatus::Disconnected;
+    UpdateMarks();
 }
 
 void UMenu::Retranslate() {
@@ -159,7 +153,10 @@ void UMenu::UpdateMarks() {
          tr("menu_mark_disconnected"));
     const UpdateStore* updates = UpdateStore::OfApplication();
     mark(PageId::About, updates && updates->WantsAttention(), "dot", tr("menu_mark_update"));
-    mark(PageId::Settings, m_managed, "managed", tr("menu_mark_managed"));
+    const DevicePermissions* permissions = DevicePermissions::OfApplication();
+    mark(PageId::Settings,
+         permissions && AppContextData::Instance()->Enrolled() && !permissions->Held().empty(), "managed",
+         tr("menu_mark_managed"));
 }
 
 void UMenu::UpdateWidth() {

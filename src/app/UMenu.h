@@ -52,5 +52,4 @@ private:
     GestureScrollArea* m_scroll;
     bool m_compact = false;
     bool m_disconnected = false; // the service said so
-    bool m_managed = false;
 };

@@ -103,6 +103,17 @@ int Execute(QApplication& application, const UDeviceScreenLock& screenLock) {
     }
 }
 
+/// Has the acts of those who do something for the organisation written down.
+void Follow(ActHistory& acts, const UDeviceScreenLock& screenLock, const MessageController& message) {
+    using Act = ActHistory::Act;
+    QObject::connect(&screenLock, &UDeviceScreenLock::VisibleChanged, &acts,
+                     [&acts](bool visible) { acts.Add(visible ? Act::Locked : Act::Unlocked); });
+    QObject::connect(&message, &MessageController::MessageCame, &acts, [&acts] { acts.Add(Act::Message); });
+    QObject::connect(&message, &MessageController::HourFormatSet, &acts, &ActHistory::AddHourFormat);
+    QObject::connect(&message, &MessageController::WallpaperSet, &acts,
+                     [&acts] { acts.Add(Act::Wallpaper); });
+}
+
 /// The link runs while this lives.
 struct PipeLinkGuard {
     PipeLinkGuard() { PipeClientService::Instance()->Start(); }
@@ -178,9 +189,7 @@ int UserApp::Run(int argc, char** argv) {
     const DevicePermissions permissions(dataFolder + QStringLiteral("/permissions.json"), &application);
     const LiveChannels channels(&application);
     ActHistory acts(dataFolder + QStringLiteral("/acts.json"), permissions, Clock::System(), &application);
-    connect(&screenLock, &UDeviceScreenLock::VisibleChanged, &acts, [&acts](bool visible) {
-        acts.Add(visible ? ActHistory::Act::Locked : ActHistory::Act::Unlocked);
-    });
+    Follow(acts, screenLock, message);
     const PipeLinkGuard link;
 
     MainWindow window;

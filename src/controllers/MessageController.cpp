@@ -66,23 +66,25 @@ void MessageController::OnPipeDataReceived(PipeKey key, const std::string& body)
     }
 }
 
-void MessageController::ProcessTimeFormat(const std::string& body) const {
+void MessageController::ProcessTimeFormat(const std::string& body) {
     HourFormatSettingProperty property;
     property.ReadFromString(body);
-    m_preferences.SetHourFormat(property.hourFormatSetting == 0 ? HourFormat::Hours12 : HourFormat::Hours24);
+    const HourFormat format = property.hourFormatSetting == 0 ? HourFormat::Hours12 : HourFormat::Hours24;
+    m_preferences.SetHourFormat(format);
+    emit HourFormatSet(format);
 }
 
-void MessageController::ProcessDeviceSettingWallpaper(const std::string& body) const {
+void MessageController::ProcessDeviceSettingWallpaper(const std::string& body) {
     BootLogoDataRequest request;
     request.ReadFromString(body);
     const std::string& chosen = request.fileInfoParams.path;
     const QString file = chosen.empty() ? m_preferences.DefaultWallpaper() : QString::fromStdString(chosen);
     if (file.isEmpty())
-        LogWallpaper("changes nothing: no file is named, and there is no default one here");
-    else if (!QFileInfo(file).isFile())
-        LogWallpaper("SetWallpaper failed, file not exists: " + LogText(file));
-    else
-        m_preferences.SetWallpaper(file, Placement(request.displayMode), LogWallpaper);
+        return LogWallpaper("changes nothing: no file is named, and there is no default one here");
+    if (!QFileInfo(file).isFile())
+        return LogWallpaper("SetWallpaper failed, file not exists: " + LogText(file));
+    m_preferences.SetWallpaper(file, Placement(request.displayMode), LogWallpaper);
+    emit WallpaperSet();
 }
 
 void MessageController::ProcessMessageFile(const std::string& body) {
@@ -96,6 +98,8 @@ void MessageController::ProcessMessageFile(const std::string& body) {
     if (request.HasFile())
         file = request.fileInfoParams;
     m_dialog.SetDataRequest(request, file);
+    if (!request.Withdraws())
+        emit MessageCame();
 }
 
 void MessageController::OpenMessages() {

@@ -23,9 +23,15 @@ public:
     /// Opens the list of the last messages.
     void OpenMessages();
 
+signals:
+    /// What has been done for the organisation: a message or file has come, clock and wallpaper were set.
+    void MessageCame();
+    void HourFormatSet(HourFormat format);
+    void WallpaperSet();
+
 private:
-    void ProcessTimeFormat(const std::string& body) const;
-    void ProcessDeviceSettingWallpaper(const std::string& body) const;
+    void ProcessTimeFormat(const std::string& body);
+    void ProcessDeviceSettingWallpaper(const std::string& body);
     void ProcessMessageFile(const std::string& body);
 
     const SystemPreferences& m_preferences;

@@ -44,6 +44,10 @@ void UBodyEnrollPermissionsModal::InitConnect() {
             &UBodyEnrollPermissionsModal::ModifiedSuccessfullyToast);
     connect(m_switches, &PermissionSwitches::NotSent, this,
             [this] { UEnrollToast::Of(this)->Tell(NoticeKind::Error, tr("permission_not_changed")); });
+    connect(m_switches, &PermissionSwitches::HeldPressed, this, [this] {
+        UEnrollToast::Of(this)->Tell(NoticeKind::Info,
+                                     tr("permission_held_elsewhere").arg(tr("menu_settings")));
+    });
     connect(m_done, &QPushButton::clicked, this, &QWidget::hide);
 }
 

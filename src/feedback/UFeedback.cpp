@@ -23,7 +23,6 @@
 #include <QMimeData>
 #include <QProgressBar>
 #include <QShortcut>
-#include <QStandardPaths>
 #include <QVBoxLayout>
 #include <glog/logging.h>
 #include <utility>
@@ -237,7 +236,7 @@ void UFeedback::ShowFailure() {
 }
 
 void UFeedback::ChooseArchive() {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const QString folder = QString::fromStdWString(RyxPath::GetDocumentsDir());
     const QString name =
         QStringLiteral("RYXREPORT-%1.zip")
             .arg(QLocale::c().toString(Clock::System().Now(), QStringLiteral("yyyyMMddhhmmss")));

@@ -1,17 +1,15 @@
 #include "pages/ActHistory.h"
 
-#include "entity/FileEntities.h"
-#include "entity/SettingsEntities.h"
 #include "platform/context/AppContextData.h"
 #include "platform/context/DevicePermissions.h"
 #include "platform/files/JsonFile.h"
-#include "platform/link/PipeClientService.h"
 #include "platform/link/PipeSendEvent.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QMetaEnum>
+#include <utility>
 
 namespace {
 
@@ -31,15 +29,6 @@ bool IsPartOf(const ActHistory::Record& last, ActHistory::Act act, const QDateTi
                                (act == Act::Permissions && last.time.secsTo(now) < 60));
 }
 
-/// Whether the body of key 44 brings something, instead of taking it back.
-bool BringsMessage(const std::string& body) {
-    const QJsonObject message = QJsonDocument::fromJson(QByteArray::fromStdString(body)).object();
-    const QString file =
-        message[QStringLiteral("fileInfoParams")].toObject()[QStringLiteral("url")].toString();
-    const bool isActive = message[QStringLiteral("jobStatus")].toBool(true) || !file.isEmpty();
-    return isActive && !(message[QStringLiteral("text")].toString() + file).isEmpty();
-}
-
 } // namespace
 
 ActHistory::ActHistory(const QString& file, const DevicePermissions& permissions, const Clock& clock,
@@ -50,8 +39,10 @@ ActHistory::ActHistory(const QString& file, const DevicePermissions& permissions
     connect(&m_writeTimer, &QTimer::timeout, this, &ActHistory::Write);
     Read();
     QCoreApplication::instance()->installEventFilter(this);
-    PipeClientService::Instance()->Subscribe(this, &ActHistory::OnPipeDataReceived);
-    connect(&permissions, &DevicePermissions::ChangedByService, this, [this] { Add(Act::Permissions); });
+    connect(&permissions, &DevicePermissions::ChangedByService, this, [this] {
+        if (AppContextData::Instance()->Enrolled())
+            Add(Act::Permissions);
+    });
     connect(AppContextData::Instance(), &AppContextData::Changed, this, [this](AppContextData::Field field) {
         if (field == AppContextData::Field::Enrolled && !AppContextData::Instance()->Enrolled())
             Add(Act::Unenrolled);
@@ -90,22 +81,9 @@ bool ActHistory::eventFilter(QObject* watched, QEvent* event) {
     return QObject::eventFilter(watched, event);
 }
 
-void ActHistory::OnPipeDataReceived(PipeKey key, const std::string& body) {
-    if (key == PipeKey::MessageFile && BringsMessage(body)) {
-        Add(Act::Message);
-    } else if (key == PipeKey::TimeFormatSetting) {
-        OnHourFormat(body);
-    } else if (key == PipeKey::WallpaperSetting) {
-        BootLogoDataRequest().ReadFromString(body); // what cannot be read was not done
-        Add(Act::Wallpaper);
-    }
-}
-
-void ActHistory::OnHourFormat(const std::string& body) {
-    HourFormatSettingProperty property;
-    property.ReadFromString(body);
-    const int format = property.hourFormatSetting == 0 ? 0 : 1;
-    if (std::exchange(m_hourFormat, format) != format)
+void ActHistory::AddHourFormat(HourFormat format) {
+    const auto number = static_cast<int>(format);
+    if (std::exchange(m_hourFormat, number) != number)
         Add(Act::Clock);
 }
 

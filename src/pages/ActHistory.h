@@ -1,13 +1,12 @@
 #pragma once
 
 #include "platform/application/Clock.h"
-#include "platform/link/PipeKey.h"
+#include "platform/system/SystemPreferences.h"
 
 #include <QDateTime>
 #include <QObject>
 #include <QTimer>
 #include <deque>
-#include <string>
 
 class DevicePermissions;
 
@@ -43,6 +42,8 @@ public:
     /// Windows that are closed one after the other on one day make one record, and so do changes of
     /// permissions within a minute.
     void Add(Act act);
+    /// The clock was set; the service says so at every connect, and only a change is an act.
+    void AddHourFormat(HourFormat format);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -50,14 +51,12 @@ signals:
     void Changed();
 
 private:
-    void OnPipeDataReceived(PipeKey key, const std::string& body);
-    void OnHourFormat(const std::string& body);
     void Read();
     void Write();
 
     const QString m_file;
     const Clock& m_clock;
     std::deque<Record> m_records;
-    int m_hourFormat = -1; // that was set last: the service says it at every connect
+    int m_hourFormat = -1; // that was set last
     QTimer m_writeTimer{this};
 };

@@ -1,6 +1,7 @@
 #include "pages/ActList.h"
 
 #include "platform/context/LanguageHelper.h"
+#include "widgets/LateUpdate.h"
 #include "widgets/UTextButton.h"
 #include "widgets/UTextLabel.h"
 
@@ -62,10 +63,8 @@ ActList::ActList(const ActHistory& history, QWidget* parent)
         m_showsAll = true;
         ShowAll();
     });
-    connect(&m_history, &ActHistory::Changed, this, [this] {
-        if (isVisible())
-            ShowAll();
-    });
+    auto* update = new LateUpdate(this, [this] { ShowAll(); });
+    connect(&m_history, &ActHistory::Changed, update, &LateUpdate::Ask);
     ShowAll();
 }
 

@@ -1,12 +1,20 @@
 #include "pages/LiveChannels.h"
 
+#include "entity/JsonText.h"
 #include "platform/context/AppContextData.h"
+#include "platform/context/ShownText.h"
 #include "platform/link/PipeClientService.h"
 
 #include <QCoreApplication>
 #include <QSet>
 #include <algorithm>
 #include <utility>
+
+namespace {
+
+constexpr std::size_t Most = 100;
+
+} // namespace
 
 LiveChannels::LiveChannels(QObject* parent) : QObject(parent) {
     PipeClientService::Instance()->Subscribe(this, &LiveChannels::OnPipeDataReceived);
@@ -47,16 +55,14 @@ bool LiveChannels::Control(const QString& identity, bool play) {
 }
 
 void LiveChannels::OnPipeDataReceived(PipeKey key, const std::string& body) {
-    if (key != PipeKey::LiveChannelList)
-        return;
     LiveChannelListRequest list;
-    list.liveChannelList = m_channels; // stays when the body cannot be read
-    list.ReadFromString(body);
+    if (key != PipeKey::LiveChannelList || !ReadObject(list, body))
+        return;
     std::vector<LiveChannelRequest> channels;
     QSet<QString> known;
     for (const LiveChannelRequest& channel : list.liveChannelList) {
         const QString identity = Identity(channel);
-        if (!known.contains(identity))
+        if (channels.size() < Most && !known.contains(identity))
             channels.push_back(channel);
         known.insert(identity);
     }
@@ -64,7 +70,7 @@ void LiveChannels::OnPipeDataReceived(PipeKey key, const std::string& body) {
     Set(std::move(channels), true);
     for (const LiveChannelRequest& channel : before)
         if (channel.jobStatus && !known.contains(Identity(channel)))
-            emit Vanished(QString::fromStdString(channel.name));
+            emit Vanished(ShownName(channel.name));
 }
 
 void LiveChannels::Set(std::vector<LiveChannelRequest> channels, bool confirmed) {

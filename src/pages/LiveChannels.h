@@ -18,7 +18,8 @@ public:
     /// The application object's; null when it has none.
     static LiveChannels* OfApplication();
 
-    /// In the service's order, each once; its "jobStatus" is whether it plays.
+    /// In the service's order, each once, and no more than anybody looks through; its "jobStatus" is whether
+    /// it plays.
     const std::vector<LiveChannelRequest>& Channels() const { return m_channels; }
     /// The list has come since the link came up.
     bool IsConfirmed() const { return m_confirmed; }

@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <algorithm>
+#include <glog/logging.h>
 
 namespace {
 
@@ -88,6 +89,10 @@ void NetworkCheck::BeginStep(int index) {
     if (next.step == NetworkStep::Pipe) {
         m_current = -1;
         LookAtPipe();
+        const NetworkResult* failure = Failure();
+        LOG(INFO) << "NetworkCheck::BeginStep has ended, "
+                  << (failure ? "failed at step " + std::to_string(failure - m_results.constData() + 1)
+                              : std::string("no step failed"));
     } else {
         next.state = NetworkState::Running;
         m_cancellation = {};

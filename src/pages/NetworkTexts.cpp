@@ -3,6 +3,7 @@
 #include "pages/NetworkCheck.h"
 #include "pages/SupportContact.h"
 #include "platform/application/RyxWindow.h"
+#include "platform/context/AppConfigData.h"
 #include "platform/context/AppContextData.h"
 #include "platform/context/LanguageHelper.h"
 #include "platform/context/Text.h"
@@ -134,8 +135,10 @@ QString NetworkTexts::Advice(const NetworkResult& result) {
     const Wording* wording = Find(result.finding);
     if (!wording || !wording->advice)
         return {};
+    const bool isOurProxy = result.step == NetworkStep::Proxy && !AppConfigData::Instance()->webProxy.empty();
     const SupportContact contact = SupportContact::Configured();
-    return Text(wording->advice) + QLatin1Char(' ') +
+    return Text(isOurProxy ? QT_TRANSLATE_NOOP("", "network_proxy_own_advice") : wording->advice) +
+           QLatin1Char(' ') +
            (contact.IsKnown() ? Text("network_tell_support").arg(contact.Line())
                               : Text("network_tell_administrator"));
 }

@@ -2,7 +2,9 @@
 
 #include "platform/context/AppContextData.h"
 #include "platform/context/DevicePermissions.h"
+#include "platform/context/ShownText.h"
 #include "widgets/CommonFacts.h"
+#include "widgets/LateUpdate.h"
 #include "widgets/UIconLabel.h"
 #include "widgets/UTextLabel.h"
 
@@ -31,6 +33,9 @@ const char* KeyOf(DevicePermissions::Switch which, bool on) {
 constexpr const char* Always[] = {QT_TRANSLATE_NOOP("", "may_lock"), QT_TRANSLATE_NOOP("", "may_message"),
                                   QT_TRANSLATE_NOOP("", "may_popups"), QT_TRANSLATE_NOOP("", "may_desktop")};
 
+constexpr int MostOfName = 60;
+constexpr int MostUnknown = 20;
+
 } // namespace
 
 Transparency::Transparency(const DevicePermissions& permissions, QWidget* parent)
@@ -47,12 +52,9 @@ Transparency::Transparency(const DevicePermissions& permissions, QWidget* parent
     column->setSpacing(8);
     column->addWidget(m_title);
     column->addWidget(card);
-    const auto follow = [this] {
-        if (isVisible())
-            ShowAll();
-    };
-    connect(&m_permissions, &DevicePermissions::Changed, this, follow);
-    connect(AppContextData::Instance(), &AppContextData::Changed, this, follow);
+    auto* update = new LateUpdate(this, [this] { ShowAll(); });
+    connect(&m_permissions, &DevicePermissions::Changed, update, &LateUpdate::Ask);
+    connect(AppContextData::Instance(), &AppContextData::Changed, update, &LateUpdate::Ask);
     ShowAll();
 }
 
@@ -67,9 +69,14 @@ QVector<Transparency::Sentence> Transparency::Sentences() const {
         }
         for (const char* key : Always)
             sentences.append({true, tr(key).arg(manager)});
-        for (const std::string& name : context.PermissionList())
-            if (!DevicePermissions::IsSwitchName(name))
-                sentences.append({true, tr("may_unknown").arg(manager, QString::fromStdString(name))});
+        const auto addUnknown = [&](const std::vector<std::string>& names, const QString& words) {
+            int count = 0;
+            for (const std::string& name : names)
+                if (!DevicePermissions::IsSwitchName(name) && count++ < MostUnknown)
+                    sentences.append({true, words.arg(manager, ShownName(name, MostOfName))});
+        };
+        addUnknown(context.PermissionList(), tr("may_unknown"));
+        addUnknown(m_permissions.Held(), tr("holds_unknown"));
     } else {
         sentences.append({false, tr("may_nobody")});
     }

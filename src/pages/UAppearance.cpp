@@ -1,5 +1,6 @@
 #include "pages/UAppearance.h"
 
+#include "platform/application/RyxWindow.h"
 #include "platform/context/AppHelper.h"
 #include "platform/context/LanguageHelper.h"
 #include "platform/context/Theme.h"
@@ -10,11 +11,18 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QListView>
+#include <QWheelEvent>
 
 namespace {
 
+/// Leaves the wheel to the page, which is scrolled with it.
+class Box : public QComboBox {
+protected:
+    void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+};
+
 QComboBox* MakeBox(const char* objectName, QLabel* label) {
-    auto* box = new QComboBox;
+    auto* box = new Box;
     box->setObjectName(QString::fromLatin1(objectName));
     // The style sheet reaches the rows of a list view of our own, but not those of the built-in popup.
     box->setView(new QListView(box));
@@ -60,12 +68,15 @@ UAppearance::UAppearance(QWidget* parent)
     Retranslate();
 
     const auto onChosen = [this](QComboBox* box, const auto& choose) {
-        connect(box, QOverload<int>::of(&QComboBox::activated), this,
-                [box, choose](int index) { choose(box->itemData(index)); });
+        connect(box, QOverload<int>::of(&QComboBox::activated), this, [this, box, choose](int index) {
+            RyxWindow* window = RyxWindow::Of(this);
+            if (!choose(box->itemData(index)) && window)
+                window->Notify(NoticeKind::Warning, tr("settings_not_kept"));
+        });
     };
-    onChosen(m_language, [](const QVariant& code) { AppHelper::ChooseLanguage(code.toString()); });
-    onChosen(m_theme, [](const QVariant& name) { AppHelper::ChooseTheme(name.toString()); });
-    onChosen(m_textSize, [](const QVariant& percent) { AppHelper::ChooseTextSize(percent.toInt()); });
+    onChosen(m_language, [](const QVariant& code) { return AppHelper::ChooseLanguage(code.toString()); });
+    onChosen(m_theme, [](const QVariant& name) { return AppHelper::ChooseTheme(name.toString()); });
+    onChosen(m_textSize, [](const QVariant& percent) { return AppHelper::ChooseTextSize(percent.toInt()); });
     connect(LanguageHelper::Instance(), &LanguageHelper::LanguageChanged, this, &UAppearance::ShowChoices);
     connect(Theme::Instance(), &Theme::Changed, this, &UAppearance::ShowChoices);
     ShowChoices();

@@ -5,6 +5,7 @@
 #include "platform/application/RyxWindow.h"
 #include "platform/context/AppContextData.h"
 #include "widgets/CommonFacts.h"
+#include "widgets/LateUpdate.h"
 #include "widgets/UTextLabel.h"
 
 #include <QEvent>
@@ -44,7 +45,8 @@ UBodyLiveChannel::UBodyLiveChannel(QWidget* parent, const SystemPlayer& player)
     column->addLayout(m_list);
     m_list->setSpacing(8);
     AddWidget(channels);
-    connect(m_channels, &LiveChannels::Changed, this, &UBodyLiveChannel::ShowAll);
+    auto* update = new LateUpdate(this, [this] { ShowAll(); });
+    connect(m_channels, &LiveChannels::Changed, update, &LateUpdate::Ask);
     ShowAll();
 }
 
@@ -101,6 +103,7 @@ void UBodyLiveChannel::OnPressed(const QString& identity, bool play) {
         Tell(NoticeKind::Info, tr("live_stopped_told"));
     else
         Tell(NoticeKind::Warning, tr("permission_not_changed"));
+    ShowAll(); // what the next press is to mean
 }
 
 void UBodyLiveChannel::Play(const QString& identity) {

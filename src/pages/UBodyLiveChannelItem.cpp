@@ -1,5 +1,7 @@
 #include "pages/UBodyLiveChannelItem.h"
 
+#include "platform/context/ShownText.h"
+#include "widgets/UElidedLabel.h"
 #include "widgets/UIconLabel.h"
 #include "widgets/UTextButton.h"
 #include "widgets/UTextLabel.h"
@@ -10,9 +12,10 @@
 UBodyLiveChannelItem::UBodyLiveChannelItem(QWidget* parent)
     : QFrame(parent),
       m_icon(new UIconLabel(28)),
-      m_name(new UTextLabel("channelName")),
+      m_name(new UElidedLabel),
       m_state(new UTextLabel("channelState")),
       m_button(new UTextButton) {
+    m_name->setObjectName(QStringLiteral("channelName"));
     m_button->setObjectName(QStringLiteral("channelButton"));
     auto* texts = new QVBoxLayout;
     texts->setSpacing(2);
@@ -39,17 +42,15 @@ QWidget* UBodyLiveChannelItem::TabStop() const {
 void UBodyLiveChannelItem::ShowTexts() {
     const bool plays = m_channel.jobStatus;
     m_icon->SetIcon(QStringLiteral("live"), plays ? QStringLiteral("accent") : QStringLiteral("textMuted"));
-    m_name->setText(m_channel.name.empty() ? tr("live_unnamed").arg(m_channel.id)
-                                           : QString::fromStdString(m_channel.name));
-    // A name stands above its state, whatever script it is written in.
-    m_name->setAlignment(Qt::AlignAbsolute | (isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
+    const QString name = ShownName(m_channel.name);
+    m_name->SetText(name.isEmpty() ? tr("live_unnamed").arg(m_channel.id) : name);
     m_state->setText(plays ? tr("live_playing") : tr("live_stopped"));
     m_button->setText(plays ? tr("live_stop") : tr("live_play"));
-    m_button->setAccessibleName(m_button->text() + QStringLiteral(": ") + m_name->text());
+    m_button->setAccessibleName(m_button->text() + QStringLiteral(": ") + m_name->Text());
 }
 
 void UBodyLiveChannelItem::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::LanguageChange || event->type() == QEvent::LayoutDirectionChange)
+    if (event->type() == QEvent::LanguageChange)
         ShowTexts();
     QFrame::changeEvent(event);
 }

@@ -5,6 +5,7 @@
 #include <QFrame>
 
 class QLabel;
+class UElidedLabel;
 class UIconLabel;
 class UTextButton;
 
@@ -31,7 +32,7 @@ private:
 
     LiveChannelRequest m_channel;
     UIconLabel* m_icon;
-    QLabel* m_name;
+    UElidedLabel* m_name;
     QLabel* m_state;
     UTextButton* m_button;
 };

@@ -34,13 +34,15 @@ UTextDialog::UTextDialog(const char* title, const char* sentence, const QString&
     m_view->setObjectName(QStringLiteral("textView"));
     m_view->setReadOnly(true);
     m_view->setTabChangesFocus(true);
-    m_view->setLineWrapMode(QPlainTextEdit::NoWrap); // its columns stay below each other
-    m_view->setLayoutDirection(Qt::LeftToRight);     // as its text is, in every language
+    m_view->setLayoutDirection(Qt::LeftToRight); // as its text is, in every language
     m_view->setPlainText(text);
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(12);
-    if (!fileName.isEmpty())
+    if (!fileName.isEmpty()) {
+        m_view->setLineWrapMode(QPlainTextEdit::NoWrap); // its columns stay below each other
+        m_view->moveCursor(QTextCursor::End);            // where the latest is
         buttons->addWidget(new UTextExport([text] { return text; }, fileName));
+    }
     buttons->addStretch();
     buttons->addWidget(m_close);
     QVBoxLayout* column = MakeCard(CardWidth);
@@ -53,7 +55,8 @@ UTextDialog::UTextDialog(const char* title, const char* sentence, const QString&
 }
 
 void UTextDialog::Presented() {
-    m_close->setFocus(Qt::PopupFocusReason);
+    m_view->setFocus(Qt::PopupFocusReason);
+    m_view->ensureCursorVisible();
     AnnounceAlert(this);
 }
 

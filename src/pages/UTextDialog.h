@@ -13,7 +13,8 @@ class UTextDialog : public UOverlay {
     Q_OBJECT
 
 public:
-    /// Title and sentence are translation keys. With a name for its file the text can be copied and saved.
+    /// Title and sentence are translation keys. With a name for its file the text is a record, which is read
+    /// from its end, can be copied and saved.
     UTextDialog(const char* title, const char* sentence, const QString& text, const QString& fileName,
                 QWidget* parent);
 

@@ -2,16 +2,17 @@
 
 #include "platform/application/Clock.h"
 #include "platform/application/RyxWindow.h"
+#include "platform/context/RyxPath.h"
 #include "widgets/UTextButton.h"
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDir>
 #include <QEvent>
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QLocale>
 #include <QSaveFile>
-#include <QStandardPaths>
 
 namespace {
 
@@ -45,7 +46,7 @@ void UTextExport::Copy() {
 void UTextExport::ChooseFile() {
     if (m_saving.isRunning())
         return;
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const QString folder = QString::fromStdWString(RyxPath::GetDocumentsDir());
     const QString name =
         QStringLiteral("%1-%2.txt")
             .arg(m_name, QLocale::c().toString(Clock::System().Now(), QStringLiteral("yyyyMMddhhmmss")));

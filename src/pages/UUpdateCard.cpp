@@ -4,11 +4,13 @@
 #include "platform/application/RyxWindow.h"
 #include "platform/context/AppContextData.h"
 #include "platform/context/LanguageHelper.h"
+#include "platform/context/ShownText.h"
 #include "widgets/UFactsPage.h"
 #include "widgets/UIconLabel.h"
 #include "widgets/UTextButton.h"
 #include "widgets/UTextLabel.h"
 
+#include <QApplication>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QProgressBar>
@@ -21,10 +23,6 @@ constexpr int MostOfNotes = 4000;
 constexpr int MostOfName = 80;
 
 using State = UpdateStore::State;
-
-QString Words(const std::string& utf8, int most) {
-    return QString::fromStdString(utf8).left(most).trimmed();
-}
 
 /// The number may be anything.
 qint64 Bytes(double value) {
@@ -101,7 +99,7 @@ void UUpdateCard::changeEvent(QEvent* event) {
 
 QString UUpdateCard::VersionWords() const {
     const OtaUpdateVersionInfo& version = m_store.Version();
-    const QString name = Words(version.versionCode, MostOfName);
+    const QString name = ShownName(version.versionCode, MostOfName);
     QString words =
         version.fileSize > 0
             ? tr("update_available_size").arg(name, LanguageHelper::Instance()->SizeText(version.fileSize))
@@ -155,6 +153,9 @@ void UUpdateCard::Show() {
     const bool isOffer = state == State::Available && m_store.MayChoose();
     const bool mayRetry = isOver && m_store.Version().hasUpdate && m_store.MayChoose();
     const bool isUnderWay = state == State::Requested || state == State::Downloading;
+    // Stays where it is, for a second press must not meet what moves into its place.
+    const bool isPressed = isUnderWay && !isOver && m_store.Version().hasUpdate && m_store.MayChoose();
+    const bool hasFocus = isAncestorOf(QApplication::focusWidget());
     m_icon->SetIcon(isOver                     ? QStringLiteral("warning")
                     : state == State::UpToDate ? QStringLiteral("success")
                                                : QStringLiteral("update"),
@@ -166,15 +167,19 @@ void UUpdateCard::Show() {
     const QString told = LanguageHelper::Instance()->Locale().toString(m_store.Told(), QLocale::ShortFormat);
     m_age->setText((m_store.IsOld() ? tr("update_old") : tr("update_told")).arg(told));
     m_age->setVisible(m_store.Told().isValid());
-    m_notes->setText(Words(m_store.Version().updateDesc, MostOfNotes));
+    m_notes->setText(
+        ShownText(QString::fromStdString(m_store.Version().updateDesc).left(MostOfNotes)).trimmed());
     m_notes->setAlignment(UFactsPage::ValueAlignment(this));
     m_notes->setVisible(m_store.Version().hasUpdate && !m_notes->text().isEmpty());
     m_progress->setAccessibleName(m_title->text());
     ShowProgress();
-    m_update->setVisible(isOffer || mayRetry);
+    m_update->setVisible(isOffer || mayRetry || isPressed);
+    m_update->setEnabled(!isPressed);
     m_update->setText(mayRetry ? tr("update_retry") : tr("update_now"));
     m_later->setVisible(isOffer && !m_store.Version().isForceUpdate && !m_store.IsPostponed());
     m_later->setText(tr("update_later"));
     m_check->setVisible(!m_update->isVisibleTo(this) && (!isUnderWay || isOver));
     m_check->setText(tr("update_check"));
+    if (hasFocus && !isAncestorOf(QApplication::focusWidget()))
+        setFocus();
 }

@@ -11,16 +11,6 @@ namespace {
 
 constexpr int StallMs = 60000;
 
-/// Fills the entity from a body that has this key; what is missing would read as if all were well.
-template <class Entity>
-bool Read(Entity& entity, const std::string& body, const char* key) {
-    const auto object = ParseJsonObject(body);
-    if (!object || !object->isMember(key))
-        return false;
-    entity.ReadFromJson(*object);
-    return true;
-}
-
 } // namespace
 
 UpdateStore::UpdateStore(const Clock& clock, QObject* parent) : QObject(parent), m_clock(clock) {
@@ -84,9 +74,9 @@ void UpdateStore::Postpone() {
 void UpdateStore::OnPipeDataReceived(PipeKey key, const std::string& body) {
     OtaUpdateVersionInfo version;
     OtaDownloadProgressInfo progress;
-    if (key == PipeKey::OtaVersionInfo && Read(version, body, "hasUpdate"))
+    if (key == PipeKey::OtaVersionInfo && ReadObject(version, body, "hasUpdate"))
         OnVersion(version);
-    else if (key == PipeKey::OtaDownloadProgress && Read(progress, body, "finish"))
+    else if (key == PipeKey::OtaDownloadProgress && ReadObject(progress, body, "finish"))
         OnProgress(progress);
 }
 

@@ -1,6 +1,6 @@
 #include "popups/PopupPanel.h"
 
-#include "popups/ShownText.h"
+#include "platform/context/ShownText.h"
 #include "widgets/AccessibleRole.h"
 #include "widgets/UElidedLabel.h"
 #include "widgets/UIconLabel.h"

@@ -1,8 +1,8 @@
 #include "popups/PopupRow.h"
 
 #include "platform/context/LanguageHelper.h"
+#include "platform/context/ShownText.h"
 #include "popups/ProgramIcon.h"
-#include "popups/ShownText.h"
 #include "widgets/UElidedLabel.h"
 #include "widgets/UTextButton.h"
 #include "widgets/UTextLabel.h"

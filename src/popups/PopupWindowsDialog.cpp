@@ -1,7 +1,7 @@
 #include "popups/PopupWindowsDialog.h"
 
+#include "platform/context/ShownText.h"
 #include "popups/ProgramIcon.h"
-#include "popups/ShownText.h"
 #include "widgets/AccessibleRole.h"
 #include "widgets/UTextButton.h"
 #include "widgets/UTextLabel.h"

@@ -3,9 +3,8 @@
 #include "platform/context/AppContextData.h"
 #include "platform/context/MachineHelper.h"
 #include "platform/context/Text.h"
+#include "platform/web/NetworkProbe.h"
 #include "widgets/StatusLook.h"
-
-#include <QNetworkInterface>
 
 PageFact CommonFacts::DeviceName() {
     return {QStringLiteral("device"), Text("fact_device_name"),
@@ -24,14 +23,8 @@ PageFact CommonFacts::Organisation() {
 
 PageFact CommonFacts::Addresses() {
     QStringList addresses;
-    for (const QNetworkInterface& card : QNetworkInterface::allInterfaces()) {
-        const auto flags = card.flags();
-        if (!flags.testFlag(QNetworkInterface::IsRunning) || flags.testFlag(QNetworkInterface::IsLoopBack))
-            continue;
-        for (const QNetworkAddressEntry& entry : card.addressEntries())
-            if (!entry.ip().isLinkLocal())
-                addresses.append(entry.ip().toString());
-    }
+    for (const NetworkAdapter& adapter : NetworkProbe::Native()->Adapters())
+        addresses += adapter.addresses;
     return {QStringLiteral("address"), Text("fact_addresses"), OrNone(addresses.join(QStringLiteral(", ")))};
 }
 

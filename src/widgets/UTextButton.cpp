@@ -3,6 +3,7 @@
 #include "platform/context/Theme.h"
 
 #include <QMetaEnum>
+#include <QMouseEvent>
 #include <QTimerEvent>
 
 UTextButton::UTextButton(QWidget* parent) : UTextButton(Look::Secondary, parent) {}
@@ -33,6 +34,10 @@ void UTextButton::SetLoading(bool loading) {
         setIcon(m_restingIcon);
     }
     setAccessibleDescription(loading ? tr("loading") : QString());
+}
+
+void UTextButton::mouseDoubleClickEvent(QMouseEvent* event) {
+    event->accept();
 }
 
 void UTextButton::timerEvent(QTimerEvent* event) {

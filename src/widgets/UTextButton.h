@@ -27,6 +27,8 @@ public:
     void SetLoadingIcon(const QString& path) { m_spinner.SetPicture(path); }
 
 protected:
+    /// A double click is one press: its second would take back what the first has begun.
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
     void changeEvent(QEvent* event) override;
 

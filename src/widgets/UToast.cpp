@@ -87,17 +87,24 @@ void UToast::Request() {
     const Notice notice = m_next;
     if (m_whenBusy == WhenBusy::Replace) {
         queue->Withdraw(this);
+        m_waiting.clear();
         if (!isHidden()) {
             Present(notice);
             return;
         }
     }
+    if (ShownMessage() == notice.message)
+        return m_gone.start();
+    if (m_waiting.contains(notice.message))
+        return;
+    m_waiting.append(notice.message);
     queue->Add(this, [this, notice] { Present(notice); });
 }
 
 void UToast::Present(const Notice& notice) {
     const char* kind = KindNames[static_cast<size_t>(notice.kind)];
     m_icon->SetIcon(QString::fromLatin1(kind).toLower(), QStringLiteral("toast") + QLatin1String(kind));
+    m_waiting.removeOne(notice.message);
     m_text->setText(notice.message);
     setAccessibleName(notice.message);
     m_onPress = notice.action;

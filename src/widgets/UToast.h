@@ -4,6 +4,7 @@
 
 #include <QFrame>
 #include <QPointer>
+#include <QStringList>
 #include <QTimer>
 #include <functional>
 
@@ -17,7 +18,8 @@ class UIconLabel;
 ///     toast->show();
 ///
 /// The toasts of a window never cover each other: show() shows the message at once when none is on screen,
-/// else when those before it are gone. Screen readers announce it as it appears, and it never has the focus.
+/// else when those before it are gone; one that is on screen or waits is not told twice. Screen readers
+/// announce it as it appears, and it never has the focus.
 class UToast : public QFrame {
     Q_OBJECT
 
@@ -69,6 +71,7 @@ private:
 
     WhenBusy m_whenBusy;
     Notice m_next;
+    QStringList m_waiting; // messages
     int m_duration = 0;
     QRect m_area;                    // of the screen; null while it is part of a window
     std::function<void()> m_onPress; // of the message on screen

@@ -3,6 +3,8 @@
 #include "platform/context/AppConfigData.h"
 #include "support/LogCapture.h"
 
+#include <QSignalSpy>
+
 namespace {
 
 struct RecordedPreferences : SystemPreferences {
@@ -73,14 +75,30 @@ TEST_F(Messages, TheWallpaperIsALocalFileOrTheDefaultOne) {
                  {"{}", Path("gone.png"), "", "SetWallpaper failed, file not exists: " + gone},
                  {"{}", {}, "", "changes nothing"}};
     MessageController controller(preferences);
+    QSignalSpy set(&controller, &MessageController::WallpaperSet);
     for (const auto& row : cases) {
         preferences.calls.clear();
         preferences.usual = row.usual;
+        set.clear();
         controller.OnPipeDataReceived(PipeKey::WallpaperSetting, row.body);
         EXPECT_EQ(preferences.calls, row.calls) << row.body;
+        EXPECT_EQ(set.isEmpty(), row.calls.empty()) << row.body;
         EXPECT_NE(log.Text().find(row.line), std::string::npos) << row.body;
     }
     EXPECT_EQ(log.Count("MessageController::ProcessDeviceSettingWallpaper "), 9) << log.Text();
+}
+
+TEST_F(Messages, OnlyWhatBringsSomethingIsTold) {
+    const std::pair<const char*, int> cases[] = {
+        {R"({"text": "a", "operationId": 1})", 1},
+        {R"({"fileInfoParams": {"url": "https://a/b"}, "jobStatus": false})", 0},
+        {R"({"text": " "})", 0}};
+    MessageController controller(preferences);
+    for (const auto& [body, count] : cases) {
+        QSignalSpy came(&controller, &MessageController::MessageCame);
+        controller.OnPipeDataReceived(PipeKey::MessageFile, body);
+        EXPECT_EQ(came.count(), count) << body;
+    }
 }
 
 } // namespace

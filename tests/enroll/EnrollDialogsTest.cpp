@@ -130,6 +130,7 @@ TEST_F(EnrollDialogs, SwitchesReportTheUsersChangesAloneAndScreenViewTakesContro
         {"screen", nullptr, PipeKey::LocationSetting, On, "", "110"},
         {"screen", nullptr, PipeKey::ScreenNotifySetting, On, "", "011"},
         {"screen remoteControl", nullptr, PipeKey::ScreenShotSetting, Off, "", "00-"},
+        {nullptr, "screenViewRow", {}, nullptr, "53+", "010"},
         {"", nullptr, PipeKey::ScreenShotSetting, On, "", "010"},
         {"screen", nullptr, PipeKey::ScreenShotSetting, R"({"status": {}})", "", "010"},
         {"screen", nullptr, PipeKey::ScreenShotSetting, "no JSON", "", "010"},

@@ -81,6 +81,11 @@ TEST_F(NetworkPage, NamesTheStepAtFaultAndChecksNothingBehindItButThePipe) {
              useProxy(probe);
              probe.addresses.clear();
          }},
+        {"+++++++x-+ The proxy does not let this device through to device.school.example:443.",
+         [&](ScriptedProbe& probe) {
+             useProxy(probe);
+             probe.connections[server] = Connection::Silent;
+         }},
         {"++++x----+ The name device.school.example could not be found.",
          [](ScriptedProbe& probe) { probe.addresses.clear(); }},
         {"+++++x---+ This network wants you to sign in first, at portal.",
@@ -91,6 +96,16 @@ TEST_F(NetworkPage, NamesTheStepAtFaultAndChecksNothingBehindItButThePipe) {
         {"++++++++++ ",
          [](ScriptedProbe& probe) {
              probe.plain.redirect = QUrl(QStringLiteral("https://www.school.example/"));
+         }},
+        {"+++++x---+ This network wants you to sign in first, at device.school.example.",
+         [](ScriptedProbe& probe) {
+             probe.encrypted.distrust = QStringLiteral("of login.cafe.example");
+             probe.encrypted.isForOther = true;
+         }},
+        {"++++++-x-+ device.school.example:443 does not answer.",
+         [](ScriptedProbe& probe) {
+             probe.encrypted = {};
+             probe.encrypted.isTls = true;
          }},
         {"++++++x--+ The clock of this device is off by 3 hours from the server’s.",
          [](ScriptedProbe& probe) { probe.now = probe.now.addSecs(-3 * 3600); }},

@@ -29,8 +29,10 @@
 #include <QDir>
 #include <QLocalServer>
 #include <QMenu>
+#include <QPointer>
 #include <QPushButton>
 #include <QSystemTrayIcon>
+#include <QTimer>
 
 namespace {
 
@@ -98,6 +100,20 @@ Scene SettingsMask(const QString& name, int wrongPasswords) {
                 for (int i = 0; i < wrongPasswords; ++i)
                     mask.findChild<QPushButton*>(QStringLiteral("okButton"))->click();
             }};
+}
+
+/// What waits for the end of a flood of messages.
+void ShowLateUpdates() {
+    QVector<QPointer<QTimer>> updates;
+    for (const QWidget* window : QApplication::topLevelWidgets())
+        for (QTimer* update : window->findChildren<QTimer*>(QStringLiteral("lateUpdate")))
+            updates.append(update);
+    for (const QPointer<QTimer>& update : updates) {
+        if (!update || !update->isActive())
+            continue;
+        update->stop(); // so that nothing waits again
+        QMetaObject::invokeMethod(update.data(), "timeout");
+    }
 }
 
 QVector<Scene> PageScenes() {
@@ -304,6 +320,7 @@ void Stage::ConnectLink() {
 
 void Stage::Receive(int key, const std::string& body) {
     PipeClientService::Instance()->Deliver(static_cast<PipeKey>(key), body);
+    ShowLateUpdates();
 }
 
 QWidget& Stage::Subject() {
@@ -330,6 +347,7 @@ bool WaitFor(const std::function<bool()>& condition) {
 }
 
 void Settle() {
+    ShowLateUpdates();
     const auto places = [] {
         QVector<QRect> all;
         for (const QWidget* widget : QApplication::allWidgets())

@@ -75,8 +75,9 @@ QVector<Scene> SettingScenes() {
         {QStringLiteral("settings-not-enrolled"), false,
          [](Stage& stage) { GoTo(stage, PageId::Settings, 1000); }},
         Settings("unknown-permission",
-                 [](Stage&) {
+                 [](Stage& stage) {
                      AppContextData::Instance()->SetPermissionList({"location", "applicationList"});
+                     stage.Receive(77, R"({"keyList": ["kioskMode"]})");
                  }),
         Settings(
             "acts",

@@ -84,6 +84,10 @@
         <translation>تم</translation>
     </message>
     <message>
+        <source>permission_held_elsewhere</source>
+        <translation>تُغيَّر الإعدادات المقفلة في صفحة «%1».</translation>
+    </message>
+    <message>
         <source>permission_not_changed</source>
         <translation>يتعذر الوصول إلى الخدمة. لم يتغير شيء.</translation>
     </message>

@@ -84,6 +84,10 @@
         <translation>Fertig</translation>
     </message>
     <message>
+        <source>permission_held_elsewhere</source>
+        <translation>Gesperrte Einstellungen werden auf der Seite „%1“ geändert.</translation>
+    </message>
+    <message>
         <source>permission_not_changed</source>
         <translation>Der Dienst ist nicht erreichbar. Es wurde nichts geändert.</translation>
     </message>

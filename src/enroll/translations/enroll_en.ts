@@ -84,6 +84,10 @@
         <translation>Done</translation>
     </message>
     <message>
+        <source>permission_held_elsewhere</source>
+        <translation>Held settings are changed on the page “%1”.</translation>
+    </message>
+    <message>
         <source>permission_not_changed</source>
         <translation>The service cannot be reached. Nothing was changed.</translation>
     </message>

@@ -84,6 +84,10 @@
         <translation>Listo</translation>
     </message>
     <message>
+        <source>permission_held_elsewhere</source>
+        <translation>Los ajustes bloqueados se cambian en la página «%1».</translation>
+    </message>
+    <message>
         <source>permission_not_changed</source>
         <translation>No se puede contactar con el servicio. No se ha cambiado nada.</translation>
     </message>

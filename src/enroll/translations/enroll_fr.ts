@@ -84,6 +84,10 @@
         <translation>Terminé</translation>
     </message>
     <message>
+        <source>permission_held_elsewhere</source>
+        <translation>Les paramètres verrouillés se modifient sur la page « %1 ».</translation>
+    </message>
+    <message>
         <source>permission_not_changed</source>
         <translation>Le service est injoignable. Rien n’a été modifié.</translation>
     </message>

@@ -84,6 +84,10 @@
         <translation>完了</translation>
     </message>
     <message>
+        <source>permission_held_elsewhere</source>
+        <translation>ロックされた設定は「%1」ページで変更します。</translation>
+    </message>
+    <message>
         <source>permission_not_changed</source>
         <translation>サービスに接続できません。何も変更されていません。</translation>
     </message>

@@ -84,6 +84,10 @@
         <translation>完成</translation>
     </message>
     <message>
+        <source>permission_held_elsewhere</source>
+        <translation>已锁定的设置请在“%1”页面更改。</translation>
+    </message>
+    <message>
         <source>permission_not_changed</source>
         <translation>无法连接服务。未作任何更改。</translation>
     </message>

@@ -72,6 +72,10 @@
         <translation>الإصدار</translation>
     </message>
     <message>
+        <source>holds_unknown</source>
+        <translation>أقفلت %1 أيضًا الإعداد «%2» الذي لا يعرفه هذا البرنامج.</translation>
+    </message>
+    <message>
         <source>live_no_player</source>
         <translation>لا يوجد على هذا الجهاز برنامج يشغّل عناوين «%1».</translation>
     </message>
@@ -229,7 +233,7 @@
     </message>
     <message>
         <source>network_certificate_advice</source>
-        <translation>لا تُدخل كلمات مرور في هذه الشبكة؛ فقد يتنصت أحد.</translation>
+        <translation>استخدم شبكة أخرى ولا تُدخل كلمات مرور في هذه؛ فقد يتنصت أحد.</translation>
     </message>
     <message>
         <source>network_certificate_bad</source>
@@ -362,6 +366,10 @@
     <message>
         <source>network_proxy_not_reached</source>
         <translation>الوكيل %1 لا يستجيب.</translation>
+    </message>
+    <message>
+        <source>network_proxy_own_advice</source>
+        <translation>هذا الوكيل محدد في إعدادات البرنامج، ويجب تصحيحه هناك.</translation>
     </message>
     <message>
         <source>network_proxy_reached</source>
@@ -510,6 +518,10 @@
     <message>
         <source>settings_language</source>
         <translation>اللغة</translation>
+    </message>
+    <message>
+        <source>settings_not_kept</source>
+        <translation>تعذّر حفظ اختيارك؛ وهو سارٍ حتى ينتهي البرنامج.</translation>
     </message>
     <message>
         <source>settings_sentence</source>

@@ -72,6 +72,10 @@
         <translation>Version</translation>
     </message>
     <message>
+        <source>holds_unknown</source>
+        <translation>%1 hat auch „%2“ gesperrt, was dieses Programm nicht kennt.</translation>
+    </message>
+    <message>
         <source>live_no_player</source>
         <translation>Auf diesem Gerät gibt es kein Programm, das „%1“-Adressen abspielt.</translation>
     </message>
@@ -229,7 +233,7 @@
     </message>
     <message>
         <source>network_certificate_advice</source>
-        <translation>Geben Sie in diesem Netzwerk keine Passwörter ein; vielleicht hört jemand mit.</translation>
+        <translation>Benutzen Sie ein anderes Netzwerk, und geben Sie in diesem keine Passwörter ein; vielleicht hört jemand mit.</translation>
     </message>
     <message>
         <source>network_certificate_bad</source>
@@ -362,6 +366,10 @@
     <message>
         <source>network_proxy_not_reached</source>
         <translation>Der Proxy %1 antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>network_proxy_own_advice</source>
+        <translation>Dieser Proxy steht in der Konfiguration des Programms und muss dort berichtigt werden.</translation>
     </message>
     <message>
         <source>network_proxy_reached</source>
@@ -510,6 +518,10 @@
     <message>
         <source>settings_language</source>
         <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>settings_not_kept</source>
+        <translation>Ihre Wahl konnte nicht gespeichert werden; sie gilt, bis das Programm endet.</translation>
     </message>
     <message>
         <source>settings_sentence</source>

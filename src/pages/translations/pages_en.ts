@@ -72,6 +72,10 @@
         <translation>Version</translation>
     </message>
     <message>
+        <source>holds_unknown</source>
+        <translation>%1 also holds “%2”, which this program does not know.</translation>
+    </message>
+    <message>
         <source>live_no_player</source>
         <translation>There is no program on this device that plays “%1” addresses.</translation>
     </message>
@@ -229,7 +233,7 @@
     </message>
     <message>
         <source>network_certificate_advice</source>
-        <translation>Do not enter passwords in this network; somebody may be listening in.</translation>
+        <translation>Use another network, and enter no passwords in this one; somebody may be listening in.</translation>
     </message>
     <message>
         <source>network_certificate_bad</source>
@@ -362,6 +366,10 @@
     <message>
         <source>network_proxy_not_reached</source>
         <translation>The proxy %1 does not answer.</translation>
+    </message>
+    <message>
+        <source>network_proxy_own_advice</source>
+        <translation>This proxy is set in the program’s configuration, where it has to be corrected.</translation>
     </message>
     <message>
         <source>network_proxy_reached</source>
@@ -510,6 +518,10 @@
     <message>
         <source>settings_language</source>
         <translation>Language</translation>
+    </message>
+    <message>
+        <source>settings_not_kept</source>
+        <translation>Your choice could not be saved; it counts until the program ends.</translation>
     </message>
     <message>
         <source>settings_sentence</source>

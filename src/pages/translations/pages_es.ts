@@ -72,6 +72,10 @@
         <translation>Versión</translation>
     </message>
     <message>
+        <source>holds_unknown</source>
+        <translation>%1 también ha bloqueado «%2», que este programa no conoce.</translation>
+    </message>
+    <message>
         <source>live_no_player</source>
         <translation>En este dispositivo no hay ningún programa que reproduzca direcciones «%1».</translation>
     </message>
@@ -229,7 +233,7 @@
     </message>
     <message>
         <source>network_certificate_advice</source>
-        <translation>No escriba contraseñas en esta red; alguien podría estar escuchando.</translation>
+        <translation>Use otra red y no escriba contraseñas en esta; alguien podría estar escuchando.</translation>
     </message>
     <message>
         <source>network_certificate_bad</source>
@@ -362,6 +366,10 @@
     <message>
         <source>network_proxy_not_reached</source>
         <translation>El proxy %1 no responde.</translation>
+    </message>
+    <message>
+        <source>network_proxy_own_advice</source>
+        <translation>Este proxy está en la configuración del programa; hay que corregirlo allí.</translation>
     </message>
     <message>
         <source>network_proxy_reached</source>
@@ -510,6 +518,10 @@
     <message>
         <source>settings_language</source>
         <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>settings_not_kept</source>
+        <translation>No se pudo guardar su elección; vale hasta que termine el programa.</translation>
     </message>
     <message>
         <source>settings_sentence</source>

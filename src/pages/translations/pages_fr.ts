@@ -72,6 +72,10 @@
         <translation>Version</translation>
     </message>
     <message>
+        <source>holds_unknown</source>
+        <translation>%1 a aussi verrouillé « %2 », que ce programme ne connaît pas.</translation>
+    </message>
+    <message>
         <source>live_no_player</source>
         <translation>Aucun programme de cet appareil ne lit les adresses « %1 ».</translation>
     </message>
@@ -229,7 +233,7 @@
     </message>
     <message>
         <source>network_certificate_advice</source>
-        <translation>N’entrez pas de mot de passe sur ce réseau ; quelqu’un pourrait écouter.</translation>
+        <translation>Utilisez un autre réseau et n’entrez pas de mot de passe sur celui-ci ; quelqu’un pourrait écouter.</translation>
     </message>
     <message>
         <source>network_certificate_bad</source>
@@ -362,6 +366,10 @@
     <message>
         <source>network_proxy_not_reached</source>
         <translation>Le proxy %1 ne répond pas.</translation>
+    </message>
+    <message>
+        <source>network_proxy_own_advice</source>
+        <translation>Ce proxy est défini dans la configuration du programme ; c’est là qu’il faut le corriger.</translation>
     </message>
     <message>
         <source>network_proxy_reached</source>
@@ -510,6 +518,10 @@
     <message>
         <source>settings_language</source>
         <translation>Langue</translation>
+    </message>
+    <message>
+        <source>settings_not_kept</source>
+        <translation>Votre choix n’a pas pu être enregistré ; il vaut jusqu’à la fin du programme.</translation>
     </message>
     <message>
         <source>settings_sentence</source>

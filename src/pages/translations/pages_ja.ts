@@ -72,6 +72,10 @@
         <translation>バージョン</translation>
     </message>
     <message>
+        <source>holds_unknown</source>
+        <translation>%1 は「%2」もロックしていますが、このプログラムはこれを知りません。</translation>
+    </message>
+    <message>
         <source>live_no_player</source>
         <translation>このデバイスには「%1」アドレスを再生できるプログラムがありません。</translation>
     </message>
@@ -229,7 +233,7 @@
     </message>
     <message>
         <source>network_certificate_advice</source>
-        <translation>このネットワークではパスワードを入力しないでください。盗聴のおそれがあります。</translation>
+        <translation>別のネットワークを使い、このネットワークではパスワードを入力しないでください。盗聴のおそれがあります。</translation>
     </message>
     <message>
         <source>network_certificate_bad</source>
@@ -362,6 +366,10 @@
     <message>
         <source>network_proxy_not_reached</source>
         <translation>プロキシ %1 が応答しません。</translation>
+    </message>
+    <message>
+        <source>network_proxy_own_advice</source>
+        <translation>このプロキシはプログラムの構成で設定されています。そこで修正する必要があります。</translation>
     </message>
     <message>
         <source>network_proxy_reached</source>
@@ -510,6 +518,10 @@
     <message>
         <source>settings_language</source>
         <translation>言語</translation>
+    </message>
+    <message>
+        <source>settings_not_kept</source>
+        <translation>選択を保存できませんでした。プログラムを終了するまで有効です。</translation>
     </message>
     <message>
         <source>settings_sentence</source>

@@ -72,6 +72,10 @@
         <translation>版本</translation>
     </message>
     <message>
+        <source>holds_unknown</source>
+        <translation>%1 还锁定了“%2”，此程序不了解该设置。</translation>
+    </message>
+    <message>
         <source>live_no_player</source>
         <translation>此设备上没有可播放“%1”地址的程序。</translation>
     </message>
@@ -229,7 +233,7 @@
     </message>
     <message>
         <source>network_certificate_advice</source>
-        <translation>请勿在此网络中输入密码；可能有人在窃听。</translation>
+        <translation>请改用其他网络，并且不要在此网络中输入密码；可能有人在窃听。</translation>
     </message>
     <message>
         <source>network_certificate_bad</source>
@@ -362,6 +366,10 @@
     <message>
         <source>network_proxy_not_reached</source>
         <translation>代理 %1 没有响应。</translation>
+    </message>
+    <message>
+        <source>network_proxy_own_advice</source>
+        <translation>此代理在程序的配置中设置，需要在那里更正。</translation>
     </message>
     <message>
         <source>network_proxy_reached</source>
@@ -510,6 +518,10 @@
     <message>
         <source>settings_language</source>
         <translation>语言</translation>
+    </message>
+    <message>
+        <source>settings_not_kept</source>
+        <translation>您的选择无法保存；仅在程序退出前有效。</translation>
     </message>
     <message>
         <source>settings_sentence</source>

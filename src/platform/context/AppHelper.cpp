@@ -33,10 +33,10 @@ QJsonObject Choices() {
     return document.object();
 }
 
-void Remember(const QString& name, const QJsonValue& value) {
+bool Remember(const QString& name, const QJsonValue& value) {
     QJsonObject choices = Choices();
     choices.insert(name, value);
-    JsonFile::Write(ChoicesFile(), QJsonDocument(choices));
+    return JsonFile::Write(ChoicesFile(), QJsonDocument(choices));
 }
 
 bool IsShipped(const QString& code) {
@@ -61,19 +61,19 @@ void AppHelper::InitLanguage() {
         IsShipped(language) ? language : QString::fromStdString(AppConfigData::Instance()->language));
 }
 
-void AppHelper::ChooseLanguage(const QString& code) {
+bool AppHelper::ChooseLanguage(const QString& code) {
     LanguageHelper::Instance()->SetLanguage(code);
-    Remember(Language, code);
+    return Remember(Language, code);
 }
 
-void AppHelper::ChooseTheme(const QString& name) {
+bool AppHelper::ChooseTheme(const QString& name) {
     Theme::Instance()->Apply(name);
-    Remember(ThemeName, name);
+    return Remember(ThemeName, name);
 }
 
-void AppHelper::ChooseTextSize(int percent) {
+bool AppHelper::ChooseTextSize(int percent) {
     Theme::Instance()->SetTextSize(percent);
-    Remember(TextSize, percent);
+    return Remember(TextSize, percent);
 }
 
 void AppHelper::LoadConfig() {

@@ -13,8 +13,8 @@ public:
     /// Hands the configuration to those who work by it: device context and pipe link.
     static void LoadConfig();
 
-    /// Each takes effect at once, and is remembered for this user.
-    static void ChooseLanguage(const QString& code);
-    static void ChooseTheme(const QString& name);
-    static void ChooseTextSize(int percent);
+    /// Each takes effect at once, and is remembered for this user; false when it could not be.
+    static bool ChooseLanguage(const QString& code);
+    static bool ChooseTheme(const QString& name);
+    static bool ChooseTextSize(int percent);
 };

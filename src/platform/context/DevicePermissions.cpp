@@ -1,6 +1,7 @@
 #include "platform/context/DevicePermissions.h"
 
 #include "entity/EnrollEntities.h"
+#include "entity/JsonText.h"
 #include "entity/SettingsEntities.h"
 #include "platform/context/AppContextData.h"
 #include "platform/files/JsonFile.h"
@@ -11,11 +12,16 @@
 #include <QJsonArray>
 #include <QJsonObject>
 #include <algorithm>
+#include <glog/logging.h>
 #include <utility>
 
 namespace {
 
 constexpr qint64 LargestFile = 64 * 1024;
+constexpr int WriteAfterMs = 1000;   // a burst is written once
+constexpr std::size_t HeldPlace = 3; // behind the switches
+constexpr std::size_t MostHeld = 100;
+constexpr std::size_t LongestName = 100;
 
 /// A switch as the service and the file know it.
 struct SwitchKey {
@@ -51,16 +57,27 @@ bool Report(DevicePermissions::Switch which, bool on) {
 } // namespace
 
 DevicePermissions::DevicePermissions(const QString& file, QObject* parent) : QObject(parent), m_file(file) {
+    m_writeTimer.setSingleShot(true);
+    m_writeTimer.setInterval(WriteAfterMs);
+    connect(&m_writeTimer, &QTimer::timeout, this, &DevicePermissions::Write);
     Read();
     PipeClientService::Instance()->Subscribe(this, &DevicePermissions::OnPipeDataReceived);
     connect(AppContextData::Instance(), &AppContextData::Changed, this, [this](AppContextData::Field field) {
-        if (field == AppContextData::Field::PermissionList)
+        if (field == AppContextData::Field::PermissionList) {
             Grant();
-        else if (field == AppContextData::Field::Enrolled && !AppContextData::Instance()->Enrolled())
-            Set({}, false);
-        else if (field == AppContextData::Field::Linked)
-            Set(m_state, false);
+        } else if (field == AppContextData::Field::Enrolled) {
+            Set(AppContextData::Instance()->Enrolled() ? m_state : State());
+            WriteLater();
+        } else if (field == AppContextData::Field::Linked) {
+            m_confirmed.fill(false);
+            emit Changed();
+        }
     });
+}
+
+DevicePermissions::~DevicePermissions() {
+    if (m_writeTimer.isActive())
+        Write();
 }
 
 DevicePermissions* DevicePermissions::OfApplication() {
@@ -78,6 +95,14 @@ bool DevicePermissions::IsHeld(Switch which) const {
     return IsNamed(which, m_state.held);
 }
 
+bool DevicePermissions::IsConfirmed() const {
+    bool isConfirmed =
+        m_confirmed != decltype(m_confirmed){} && (m_state.held.empty() || m_confirmed[HeldPlace]);
+    for (std::size_t place = 0; place < m_state.told.size(); ++place)
+        isConfirmed &= m_confirmed[place] || !m_state.told[place];
+    return isConfirmed;
+}
+
 bool DevicePermissions::IsSwitchName(const std::string& name) {
     return std::any_of(std::begin(SwitchKeys), std::end(SwitchKeys),
                        [&](const SwitchKey& key) { return IsNameOf(key, name); });
@@ -88,53 +113,73 @@ bool DevicePermissions::Change(Switch which, bool on) {
         return false;
     State state = m_state;
     state.told[static_cast<std::size_t>(which)] = on;
-    if (which == Switch::ScreenView && !on && Report(Switch::RemoteControl, false))
-        state.told[static_cast<std::size_t>(Switch::RemoteControl)] = false;
-    Set(state, m_confirmed);
+    if (which == Switch::ScreenView) { // who switches it on has said nothing of remote control
+        state.told[static_cast<std::size_t>(Switch::RemoteControl)] = on && IsOn(Switch::RemoteControl);
+        if (!on)
+            Report(Switch::RemoteControl, false);
+    }
+    Set(state);
     return true;
 }
 
-// What a body does not say, or says in a way that cannot be read, stays.
 void DevicePermissions::OnPipeDataReceived(PipeKey key, const std::string& body) {
-    State state = m_state;
-    if (key == PipeKey::SettingPermission) {
-        PermissionInfo info;
-        info.keyList = state.held;
-        info.ReadFromString(body);
-        state.held = info.keyList;
-        TakeFromService(state);
-    }
-    for (const Switch which : AllSwitches) {
-        if (key != KeyOf(which).key)
-            continue;
-        DeviceSettingNotify notice;
-        notice.status = Told(which);
-        notice.ReadFromString(body);
-        state.told[static_cast<std::size_t>(which)] = notice.status;
-        TakeFromService(state);
-    }
+    bool isUsed = key != PipeKey::SettingPermission || TakeHeld(body);
+    for (const Switch which : AllSwitches)
+        isUsed &= key != KeyOf(which).key || TakeSwitch(which, body);
+    LOG_IF(WARNING, !isUsed) << "DevicePermissions::OnPipeDataReceived cannot use the body of key "
+                             << static_cast<int>(key);
 }
 
-void DevicePermissions::TakeFromService(const State& state) {
+bool DevicePermissions::TakeHeld(const std::string& body) {
+    const auto json = ParseJsonObject(body);
+    // An empty list is written as null.
+    if (!json || !json->isMember("keyList") || !((*json)["keyList"].isArray() || (*json)["keyList"].isNull()))
+        return false;
+    PermissionInfo info;
+    info.ReadFromJson(*json);
+    State state = m_state;
+    state.held.clear();
+    for (const std::string& name : info.keyList)
+        if (state.held.size() < MostHeld && name.size() <= LongestName)
+            state.held.push_back(name);
+    TakeFromService(state, HeldPlace);
+    return true;
+}
+
+bool DevicePermissions::TakeSwitch(Switch which, const std::string& body) {
+    DeviceSettingNotify notice;
+    if (!ReadObject(notice, body))
+        return false;
+    State state = m_state;
+    state.told[static_cast<std::size_t>(which)] = notice.status;
+    if (which == Switch::ScreenView && !notice.status)
+        state.told[static_cast<std::size_t>(Switch::RemoteControl)] = false;
+    TakeFromService(state, static_cast<std::size_t>(which));
+    return true;
+}
+
+void DevicePermissions::TakeFromService(const State& state, std::size_t what) {
     const bool isNew = !(state == m_state);
-    Set(state, true);
+    m_confirmed[what] = true;
+    Set(state);
     if (isNew)
         emit ChangedByService();
 }
 
+// What an enrolment brings. Nothing is held before the service says so.
 void DevicePermissions::Grant() {
     const std::vector<std::string>& granted = AppContextData::Instance()->PermissionList();
-    State state = m_state;
+    State state;
     for (const Switch which : AllSwitches)
         state.told[static_cast<std::size_t>(which)] = IsNamed(which, granted);
-    Set(state, AppContextData::Instance()->Linked());
+    m_confirmed.fill(AppContextData::Instance()->Linked());
+    Set(state);
 }
 
-void DevicePermissions::Set(State state, bool confirmed) {
+void DevicePermissions::Set(State state) {
     const State before = std::exchange(m_state, std::move(state));
-    m_confirmed = confirmed;
     if (!(before == m_state))
-        Write();
+        WriteLater();
     if (before.held != m_state.held)
         emit HeldChanged();
     emit Changed();
@@ -155,14 +200,19 @@ void DevicePermissions::Read() {
         m_state.held.push_back(name.toString().toStdString());
 }
 
+void DevicePermissions::WriteLater() {
+    if (!m_file.isEmpty() && !m_writeTimer.isActive())
+        m_writeTimer.start();
+}
+
+// What is told of a device that nobody manages, as an enrolment begins or by mistake, is not kept.
 void DevicePermissions::Write() const {
-    if (m_file.isEmpty())
-        return;
+    const State state = AppContextData::Instance()->Enrolled() ? m_state : State();
     QJsonArray held;
-    for (const std::string& name : m_state.held)
+    for (const std::string& name : state.held)
         held.append(QString::fromStdString(name));
     QJsonObject json{{QStringLiteral("held"), held}};
     for (const Switch which : AllSwitches)
-        json.insert(QLatin1String(KeyOf(which).name), Told(which));
+        json.insert(QLatin1String(KeyOf(which).name), state.told[static_cast<std::size_t>(which)]);
     JsonFile::Write(m_file, QJsonDocument(json));
 }

@@ -3,6 +3,7 @@
 #include "platform/link/PipeKey.h"
 
 #include <QObject>
+#include <QTimer>
 #include <array>
 #include <string>
 #include <vector>
@@ -20,6 +21,8 @@ public:
     /// Reads what an earlier start has kept in `file`, or else begins with what was granted at the enrolment;
     /// without a name nothing is kept.
     explicit DevicePermissions(const QString& file, QObject* parent = nullptr);
+    /// Writes what is not written yet.
+    ~DevicePermissions() override;
 
     /// The application object's; null when it has none.
     static DevicePermissions* OfApplication();
@@ -28,8 +31,10 @@ public:
     bool IsOn(Switch which) const;
     /// The organisation alone may change it.
     bool IsHeld(Switch which) const;
-    /// The service has spoken since the link came up: what is known is not of before.
-    bool IsConfirmed() const { return m_confirmed; }
+    /// The service's names of what the organisation holds, those of no switch as well; a hundred at most.
+    const std::vector<std::string>& Held() const { return m_state.held; }
+    /// The service has told anew since the link came up what is on and what is held: it is not of before.
+    bool IsConfirmed() const;
     /// Whether the service's name for a permission means one of the switches.
     static bool IsSwitchName(const std::string& name);
 
@@ -46,7 +51,8 @@ signals:
 
 private:
     struct State {
-        std::array<bool, 3> told{}; // to or by the service; remote control also while it is off for the view
+        // By the user or the service, which may tell of remote control just before it tells of the view.
+        std::array<bool, 3> told{};
         std::vector<std::string> held;
         bool operator==(const State& other) const { return told == other.told && held == other.held; }
     };
@@ -54,13 +60,18 @@ private:
     bool& Told(Switch which) { return m_state.told[static_cast<std::size_t>(which)]; }
     bool Told(Switch which) const { return m_state.told[static_cast<std::size_t>(which)]; }
     void OnPipeDataReceived(PipeKey key, const std::string& body);
-    void TakeFromService(const State& state);
+    /// Each is false for a body that cannot be used, which changes and confirms nothing.
+    bool TakeHeld(const std::string& body);
+    bool TakeSwitch(Switch which, const std::string& body);
+    void TakeFromService(const State& state, std::size_t what);
     void Grant();
-    void Set(State state, bool confirmed);
+    void Set(State state);
     void Read();
+    void WriteLater();
     void Write() const;
 
     const QString m_file;
     State m_state;
-    bool m_confirmed = false;
+    std::array<bool, 4> m_confirmed{}; // each switch, and what is held
+    QTimer m_writeTimer{this};
 };

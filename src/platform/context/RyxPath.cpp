@@ -6,6 +6,8 @@
 
 #include <QDateTime>
 #include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
 #include <QThreadPool>
 #include <glog/logging.h>
 
@@ -44,6 +46,11 @@ std::wstring RyxPath::GetUserDataDir() {
     const std::string& chosen = AppConfigData::Instance()->dataFolder;
     return (chosen.empty() ? SystemSession::Native().UserDataFolder() : QString::fromStdString(chosen))
         .toStdWString();
+}
+
+std::wstring RyxPath::GetDocumentsDir() {
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return (QFileInfo(folder).isDir() ? folder : QDir::homePath()).toStdWString();
 }
 
 std::wstring RyxPath::GetRyxTempDir() {

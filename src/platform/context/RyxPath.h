@@ -11,6 +11,9 @@ public:
     /// Folder of this user's own data; may not exist yet.
     static std::wstring GetUserDataDir();
 
+    /// Where the user keeps documents; the home folder when there is no such place.
+    static std::wstring GetDocumentsDir();
+
     /// Folder of temporary files, closed to other users; exists afterwards, if it can be made. What is left
     /// in it is removed at a later start.
     static std::wstring GetRyxTempDir();

@@ -27,11 +27,12 @@ void JsonFile::SetAside(const QString& file) {
                  << (QFile::rename(file, aside) ? "set aside" : "left as it is");
 }
 
-void JsonFile::Write(const QString& file, const QJsonDocument& document) {
+bool JsonFile::Write(const QString& file, const QJsonDocument& document) {
     QDir().mkpath(QFileInfo(file).path());
     QSaveFile target(file);
     const bool written = target.open(QIODevice::WriteOnly) && target.write(document.toJson()) >= 0 &&
                          target.commit() && SystemSession::Native().KeepPrivate(file);
     LOG_IF(WARNING, !written) << "JsonFile::Write " << LogText(QFileInfo(file).fileName()) << ": "
                               << LogText(target.errorString());
+    return written;
 }

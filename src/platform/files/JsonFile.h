@@ -13,7 +13,8 @@ QJsonDocument Read(const QString& file, qint64 most);
 /// nothing to do.
 void SetAside(const QString& file);
 
-/// Writes the file as a whole or not at all, closed to other users; a failure is logged.
-void Write(const QString& file, const QJsonDocument& document);
+/// Writes the file as a whole or not at all, closed to other users; false, with a log line,
+/// when it could not.
+bool Write(const QString& file, const QJsonDocument& document);
 
 } // namespace JsonFile

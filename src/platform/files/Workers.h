@@ -8,7 +8,7 @@
 #include <utility>
 
 /// Threads for the long work of one part of the program. The global ones would hold the program's end back
-/// until all of their work is done. GUI thread.
+/// until all of their work is done. The thread that made it.
 class Workers {
 public:
     explicit Workers(int threads);

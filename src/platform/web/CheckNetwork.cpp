@@ -150,12 +150,15 @@ void CheckNetwork::LookAtProxy(NetworkResult& step, const TaskControl& control) 
     const QNetworkProxy proxy = m_probe->Proxy(m_settings, step.server);
     if (proxy.type() == QNetworkProxy::NoProxy)
         return step.Set(Finding::ProxyNone);
+    // A configured one may be written so that it names no host.
+    const QString place = proxy.hostName().isEmpty() ? m_settings.proxy.section(QLatin1Char('@'), -1)
+                                                     : Place(proxy.hostName(), proxy.port());
     const Connection connection =
         m_probe->Connect(proxy.hostName(), proxy.port(), QNetworkProxy(QNetworkProxy::NoProxy), control);
     step.Set(connection == Connection::Made       ? Finding::ProxyReached
              : connection == Connection::NotFound ? Finding::ProxyNotFound
                                                   : Finding::ProxyNotReached,
-             {Place(proxy.hostName(), proxy.port())});
+             {place});
 }
 
 // Where there is a proxy, it looks the names of servers up.
@@ -172,9 +175,9 @@ void CheckNetwork::LookAtName(NetworkResult& step, const TaskControl& control) c
         step.Set(Finding::NameFound, {host, addresses.join(QStringLiteral(", "))});
 }
 
-// A network that wants its users to sign in answers in the server's place where there is no TLS, and sends
-// them to a page of its own. A server that proves who it is was not answered for, wherever it sends its
-// visitors.
+// A network that wants its users to sign in answers in the server's place where there is no TLS: it sends
+// them to a page of its own, or shows that at once, and then has a certificate of another name where there
+// is TLS. A server that proves who it is was not answered for, wherever it sends its visitors.
 void CheckNetwork::LookForSignIn(NetworkResult& step, const TaskControl& control) const {
     QUrl url = step.server;
     if (IsHttps(url)) {
@@ -185,13 +188,14 @@ void CheckNetwork::LookForSignIn(NetworkResult& step, const TaskControl& control
     }
     const NetworkProbe::Answer answer = m_probe->Ask(m_settings, url, control);
     const bool leadsAway = !answer.redirect.isEmpty() && answer.redirect.host() != url.host();
-    if (answer.status != NetworkAuthenticationRequired && !leadsAway)
+    const bool asksToSignIn = answer.status == NetworkAuthenticationRequired || leadsAway;
+    if (!asksToSignIn && answer.status / 100 != 2)
         return step.Set(Finding::SignInNone);
-    if (IsHttps(step.server)) {
-        const NetworkProbe::Answer proof = m_probe->Ask(m_settings, step.server, control);
-        if (proof.isTls && proof.distrust.isEmpty())
-            return step.Set(Finding::SignInNone);
-    }
+    const NetworkProbe::Answer proof =
+        IsHttps(step.server) ? m_probe->Ask(m_settings, step.server, control) : NetworkProbe::Answer();
+    const bool isProven = proof.isTls && proof.distrust.isEmpty();
+    if (isProven || (!asksToSignIn && !proof.isForOther))
+        return step.Set(Finding::SignInNone);
     step.Set(Finding::SignInNeeded, {leadsAway ? answer.redirect.host() : url.host()});
 }
 
@@ -206,6 +210,12 @@ void CheckNetwork::LookAtClock(NetworkResult& step, const TaskControl& control) 
         step.Set(Finding::ClockRight);
 }
 
+// One that does not come as far as to speak has trouble with its certificate, which is looked at next.
+bool CheckNetwork::IsMute(const QUrl& server, const TaskControl& control) const {
+    const NetworkProbe::Answer answer = m_probe->Ask(m_settings, server, control);
+    return answer.status == 0 && (answer.isTls || !IsHttps(server));
+}
+
 void CheckNetwork::LookAtServer(NetworkResult& step, const TaskControl& control) const {
     const QString host = step.server.host();
     const int port = PortOf(step.server);
@@ -213,7 +223,7 @@ void CheckNetwork::LookAtServer(NetworkResult& step, const TaskControl& control)
     const QStringList place{Place(host, port)};
     switch (m_probe->Connect(host, port, proxy, control)) {
     case Connection::Made:
-        return step.Set(Finding::ServerReached, place);
+        return step.Set(IsMute(step.server, control) ? Finding::ServerSilent : Finding::ServerReached, place);
     case Connection::Refused:
         return step.Set(Finding::ServerRefused, place);
     case Connection::NotFound:
@@ -223,7 +233,7 @@ void CheckNetwork::LookAtServer(NetworkResult& step, const TaskControl& control)
     case Connection::Silent:
         break;
     }
-    step.Set(Finding::ServerSilent, place);
+    step.Set(proxy.type() == QNetworkProxy::NoProxy ? Finding::ServerSilent : Finding::ServerByProxy, place);
 }
 
 void CheckNetwork::LookAtCertificate(NetworkResult& step, const TaskControl& control) const {

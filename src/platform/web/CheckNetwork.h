@@ -86,8 +86,6 @@ public:
     /// Takes a step other than the pipe's; blocks while it does.
     NetworkResult Take(NetworkResult step, const TaskControl& control) const;
 
-    QVector<NetworkAdapter> Adapters() const { return m_probe->Adapters(); }
-
 private:
     void Look(NetworkResult& step, const TaskControl& control) const;
     void LookAtAdapters(NetworkResult& step) const;
@@ -95,6 +93,8 @@ private:
     void LookAtName(NetworkResult& step, const TaskControl& control) const;
     void LookForSignIn(NetworkResult& step, const TaskControl& control) const;
     void LookAtClock(NetworkResult& step, const TaskControl& control) const;
+    /// Whether a server that takes connections says nothing.
+    bool IsMute(const QUrl& server, const TaskControl& control) const;
     void LookAtServer(NetworkResult& step, const TaskControl& control) const;
     void LookAtCertificate(NetworkResult& step, const TaskControl& control) const;
 

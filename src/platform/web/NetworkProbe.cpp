@@ -1,9 +1,11 @@
 #include "platform/web/NetworkProbe.h"
 
+#include "platform/files/Workers.h"
 #include "platform/system/SystemNetwork.h"
 #include "platform/web/WebTransport.h"
 
 #include <QEventLoop>
+#include <QFutureWatcher>
 #include <QHostAddress>
 #include <QHostInfo>
 #include <QLocale>
@@ -79,19 +81,26 @@ public:
 
     QStringList Resolve(const QString& host, const TaskControl& control) const override {
         Wait wait(control);
-        QStringList addresses;
-        const int lookup = QHostInfo::lookupHost(host, &wait, [&](const QHostInfo& found) {
-            for (const QHostAddress& address : found.addresses())
-                addresses += address.toString();
-            wait.quit();
-        });
+        Workers worker(1);
+        QFutureWatcher<QHostInfo> lookup;
+        QObject::connect(&lookup, &QFutureWatcherBase::finished, &wait, &QEventLoop::quit);
+        // This alone asks the system. What it finds is what the connections of the next minute believe.
+        lookup.setFuture(worker.Run([host] { return QHostInfo::fromName(host); }, QHostInfo()));
         wait.exec();
-        QHostInfo::abortHostLookup(lookup);
+        QStringList addresses;
+        if (!lookup.isFinished())
+            return addresses;
+        worker.Join(QDeadlineTimer(LookMs)); // its thread has only to end
+        for (const QHostAddress& address : lookup.result().addresses())
+            addresses += address.toString();
         return addresses;
     }
 
     Connection Connect(const QString& host, int port, const QNetworkProxy& proxy,
                        const TaskControl& control) const override {
+        if (proxy.type() == QNetworkProxy::NoProxy && QHostAddress(host).isNull() &&
+            Resolve(host, control).isEmpty())
+            return Connection::NotFound;
         Wait wait(control);
         QTcpSocket socket;
         socket.setProxy(proxy);
@@ -127,9 +136,11 @@ public:
         Wait wait(control);
         const std::unique_ptr<QNetworkReply> reply(manager.get(request));
         QObject::connect(reply.get(), &QNetworkReply::sslErrors, &wait, [&](const QList<QSslError>& errors) {
-            for (const QSslError& error : errors)
+            for (const QSslError& error : errors) {
                 answer.distrust +=
                     (answer.distrust.isEmpty() ? QString() : QStringLiteral("; ")) + error.errorString();
+                answer.isForOther |= error.error() == QSslError::HostNameMismatch;
+            }
             reply->ignoreSslErrors();
         });
         QObject::connect(reply.get(), &QNetworkReply::encrypted, &wait, [&] {

@@ -34,11 +34,12 @@ public:
         Silent,       ///< no answer, for whatever reason
     };
     struct Answer {
-        int status = 0;     ///< 0: there was no answer
-        QUrl redirect;      ///< absolute; empty: none
-        QDateTime date;     ///< of the server's clock; not valid: it told none
-        bool isTls = false; ///< the connection was encrypted
-        QString distrust;   ///< what is wrong with the server's certificate; empty: nothing
+        int status = 0;          ///< 0: there was no answer
+        QUrl redirect;           ///< absolute; empty: none
+        QDateTime date;          ///< of the server's clock; not valid: it told none
+        bool isTls = false;      ///< the connection was encrypted
+        QString distrust;        ///< what is wrong with the server's certificate; empty: nothing
+        bool isForOther = false; ///< the certificate is that of another host
     };
 
     virtual ~NetworkProbe() = default;

@@ -1,5 +1,7 @@
 #include "platform/web/WebTransport.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <QSslCertificate>
 #include <QSslSocket>
 
@@ -20,7 +22,11 @@ std::optional<QSslConfiguration> WebTransport::Tls(const QString& caFile) {
     tls.setProtocol(QSsl::TlsV1_2OrLater);
     tls.setPeerVerifyMode(QSslSocket::VerifyPeer);
     if (!caFile.isEmpty()) {
-        const QList<QSslCertificate> trusted = QSslCertificate::fromPath(caFile);
+        // QSslCertificate::fromPath would look through all folders beside a file that is not there.
+        QFile file(caFile);
+        const QList<QSslCertificate> trusted = QFileInfo(caFile).isFile() && file.open(QIODevice::ReadOnly)
+                                                   ? QSslCertificate::fromDevice(&file)
+                                                   : QList<QSslCertificate>();
         if (trusted.isEmpty())
             return std::nullopt;
         tls.setCaCertificates(trusted);

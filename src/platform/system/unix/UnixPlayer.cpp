@@ -1,6 +1,5 @@
 #include "platform/system/SystemPlayer.h"
 
-#include <QDesktopServices>
 #include <QUrl>
 #include <gio/gio.h>
 
@@ -9,12 +8,15 @@ namespace {
 class UnixPlayer final : public SystemPlayer {
 public:
     bool Open(const QUrl& address) const override {
-        // Qt starts the desktop's opener, which fails without a word when there is no program.
+        // Qt would start the desktop's opener, which fails without a word when there is no program.
         GAppInfo* program = g_app_info_get_default_for_uri_scheme(address.scheme().toUtf8().constData());
         if (!program)
             return false;
+        QByteArray text = address.toEncoded();
+        GList addresses{text.data(), nullptr, nullptr};
+        const bool isStarted = g_app_info_launch_uris(program, &addresses, nullptr, nullptr);
         g_object_unref(program);
-        return QDesktopServices::openUrl(address);
+        return isStarted;
     }
 };
 
