@@ -154,7 +154,7 @@ void UPopupBlockMask::Pick(const PickableWindow& window) {
     m_capture.Start(window.id, m_report.window);
     m_facts.setFuture(m_reader->Run(
         [&programs = m_system.programs, path = window.path] {
-            return ProgramFacts{programs.ProductNameOf(path), programs.SignerOf(path)};
+            return ProgramFacts{programs.GetProductName(path), programs.GetSubjectName(path)};
         },
         {}));
     m_lookLimit.start();

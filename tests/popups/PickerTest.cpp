@@ -39,17 +39,17 @@ struct FakeSystem : SystemDesktop, SystemProcesses, SystemPrograms {
         return all;
     }
     quint32 ProcessOf(WId id) const override { return static_cast<quint32>(id); }
-    QString ImageOf(quint32 process) const override { return Of(process).path; }
-    QString TitleOf(WId id) const override { return Of(id).title; }
-    QString ClassNameOf(WId id) const override { return Of(id).className; }
-    std::optional<QRect> PlaceOf(WId id) const override {
+    QString GetProcessFilePath(quint32 process) const override { return Of(process).path; }
+    QString GetWindowTitle(WId id) const override { return Of(id).title; }
+    QString GetWindowClassName(WId id) const override { return Of(id).className; }
+    std::optional<QRect> GetWindowGeometry(WId id) const override {
         return Of(id).place.isNull() ? std::nullopt : std::make_optional(Of(id).place);
     }
-    Style StyleOf(WId id) const override { return {false, false, Of(id).noActivation, false}; }
+    ExStyle GetWindowExStyle(WId id) const override { return {Of(id).noActivation, false}; }
     bool IsVisible(WId id) const override { return Of(id).visible; }
     bool IsEnabled(WId id) const override { return Of(id).enabled; }
-    QString ProductNameOf(const QString&) const override { return QStringLiteral("Player"); }
-    QString SignerOf(const QString& file) const override {
+    QString GetProductName(const QString&) const override { return QStringLiteral("Player"); }
+    QString GetSubjectName(const QString& file) const override {
         if (file.startsWith(QLatin1String("//slow/")))
             std::shared_future<void>(answer).wait();
         return QStringLiteral("Example Software Ltd.");
