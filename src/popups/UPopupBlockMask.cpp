@@ -29,6 +29,7 @@ namespace {
 
 constexpr int LookMs = 3000;
 constexpr int ReplyMs = 15000;
+constexpr int LateReplyMs = 45000;
 constexpr int EndMs = 1500;
 constexpr int IconSize = 32;
 constexpr int Margin = 24;
@@ -81,6 +82,8 @@ UPopupBlockMask::UPopupBlockMask(const QScreen& screen, const PopupSystem& syste
     m_replyTimer.setObjectName(QStringLiteral("popupReplyTimer"));
     m_replyTimer.setSingleShot(true);
     m_replyTimer.setInterval(ReplyMs);
+    m_lateReplyTimer.setSingleShot(true);
+    m_lateReplyTimer.setInterval(LateReplyMs);
 
     connect(m_panel, &PopupPanel::ReportPressed, this, &UPopupBlockMask::Report);
     connect(m_panel, &PopupPanel::CancelPressed, this, &UPopupBlockMask::Cancelled);
@@ -88,7 +91,10 @@ UPopupBlockMask::UPopupBlockMask(const QScreen& screen, const PopupSystem& syste
     connect(&m_facts, &QFutureWatcherBase::finished, this, &UPopupBlockMask::OnLooked);
     connect(&m_lookLimit, &QTimer::timeout, this, &UPopupBlockMask::EndLook);
     connect(&m_upload, &QFutureWatcherBase::finished, this, &UPopupBlockMask::Send);
-    connect(&m_replyTimer, &QTimer::timeout, this, [this] { TellResult(false); });
+    connect(&m_replyTimer, &QTimer::timeout, this, [this] {
+        TellResult(false);
+        m_lateReplyTimer.start();
+    });
     QCoreApplication::instance()->installEventFilter(this);
     Retranslate();
 }
@@ -251,8 +257,11 @@ void UPopupBlockMask::Send() {
 bool UPopupBlockMask::eventFilter(QObject* watched, QEvent* event) {
     if (watched == QCoreApplication::instance() && event->type() == PipeReceiveEvent::eventType()) {
         const auto* message = static_cast<PipeReceiveEvent*>(event);
-        if (message->Key() == PipeKey::PopupBlockResult && m_replyTimer.isActive())
-            TellResult(IsSuccess(message->Data()));
+        if (message->Key() == PipeKey::PopupBlockResult) {
+            m_lateReplyTimer.stop();
+            if (m_replyTimer.isActive())
+                TellResult(IsSuccess(message->Data()));
+        }
     }
     return QWidget::eventFilter(watched, event);
 }

@@ -39,8 +39,9 @@ public:
     /// Drops what is picked, with its files.
     void Reset();
 
-    /// Whether a report is on its way, or its answer is awaited.
-    bool IsReporting() const { return m_isReporting; }
+    /// Whether a report is on its way, or its answer may still come: nothing tells it from that to another
+    /// one.
+    bool IsReporting() const { return m_isReporting || m_lateReplyTimer.isActive(); }
 
 signals:
     /// The user gives up.
@@ -91,6 +92,7 @@ private:
     QFutureWatcher<UploadPopupsParams> m_upload;
     Cancellation m_cancellation;
     QTimer m_replyTimer{this};
+    QTimer m_lateReplyTimer{this}; // runs once the user has been told that none has come
     std::unique_ptr<UToast> m_toast;
     QLabel* m_preview;
     PopupPanel* m_panel;
