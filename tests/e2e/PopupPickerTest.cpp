@@ -39,6 +39,9 @@ TEST_F(PopupPickerEndToEndTest, ReportsAWindowWithItsPicturesOrWithout) {
         foreign.emplace_back(product, "Offer of the day", Place);
         ASSERT_TRUE(screen->WaitForWindow("Offer of the day"));
         ASSERT_TRUE(page.OpenPicker());
+        screen->Press("Escape");
+        ASSERT_TRUE(WaitUntil([&] { return !page.IsPicking() && screen->Find(MainPage::Title); }));
+        ASSERT_TRUE(page.OpenPicker());
         screen->Click(Place.center());
         ASSERT_TRUE(page.Report());
         EXPECT_TRUE(product.WaitForLog("Hited window: , hwnd: 0x"));
