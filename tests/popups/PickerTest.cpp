@@ -2,6 +2,7 @@
 #include "platform/application/WindowStack.h"
 #include "platform/context/AppConfigData.h"
 #include "platform/context/LanguageHelper.h"
+#include "platform/context/Theme.h"
 #include "platform/link/PipeClientService.h"
 #include "platform/system/SystemDesktop.h"
 #include "platform/system/SystemProcesses.h"
@@ -65,6 +66,7 @@ const QRect Place(200, 150, 300, 200);
 struct Picker : testing::Test {
     Picker() {
         LanguageHelper::Instance()->SetLanguage(QStringLiteral("en"));
+        Theme::Instance()->Apply(QStringLiteral("light"));
         AppConfigData::Instance()->dataFolder = folder.path().toStdString();
         link.SetServer(service.Address());
         link.Start();
@@ -104,8 +106,11 @@ struct Picker : testing::Test {
     }
     static QString Toast() {
         for (QWidget* widget : QApplication::topLevelWidgets())
-            if (auto* toast = qobject_cast<UToast*>(widget); toast && toast->isVisible())
+            if (auto* toast = qobject_cast<UToast*>(widget); toast && toast->isVisible()) {
+                EXPECT_EQ(toast->grab().toImage().pixelColor(toast->width() / 2, 1),
+                          Theme::Instance()->Color(QStringLiteral("toast")));
                 return toast->ShownMessage();
+            }
         return {};
     }
     UploadPopupsParams Reported() {
