@@ -15,7 +15,7 @@
 #include "widgets/UToast.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
+#include <QFile>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
@@ -59,6 +59,7 @@ UPopupBlockMask::UPopupBlockMask(const QScreen& screen, const PopupSystem& syste
       m_system(system),
       m_uploadPicture(std::move(upload)),
       m_place(PlaceOf(screen)),
+      m_isComposited(SystemCapture::Native().IsComposited()),
       m_toast(std::make_unique<UToast>(nullptr, UToast::WhenBusy::Replace)),
       m_preview(new QLabel(this)),
       m_panel(new PopupPanel(this)) {
@@ -69,8 +70,7 @@ UPopupBlockMask::UPopupBlockMask(const QScreen& screen, const PopupSystem& syste
     SystemWindows::Native().PrepareCover(*this, Qt::black);
     WindowStack::Instance()->PushWindow(this);
     setGeometry(screen.geometry());
-    if (!SystemCapture::Native().IsComposited())
-        m_desktop = const_cast<QScreen&>(screen).grabWindow(0, 0, 0, -1, -1);
+    m_desktop = const_cast<QScreen&>(screen).grabWindow(0, 0, 0, -1, -1);
 
     m_preview->setObjectName(QStringLiteral("pickerPreview"));
     m_preview->setScaledContents(true);
@@ -212,9 +212,11 @@ QPixmap UPopupBlockMask::Preview() const {
     if (seen.isEmpty())
         return {};
     const QString& path = m_report.window->Path();
+    if (m_capture.IsOfScreen())
+        QFile::remove(path); // it shows this mask
     const QPixmap picture(path, "PNG");
-    if (picture.isNull() && !m_desktop.isNull() && m_picked.IsUncovered(m_system)) {
-        QPixmap part = m_desktop.copy(seen.translated(-m_place.topLeft()));
+    if (picture.isNull() && (m_capture.IsOfScreen() || !m_isComposited) && m_picked.IsUncovered(m_system)) {
+        const QPixmap part = m_desktop.copy(seen.translated(-m_place.topLeft()));
         part.save(path, "PNG");
         return part;
     }
@@ -293,7 +295,7 @@ void UPopupBlockMask::resizeEvent(QResizeEvent* event) {
 
 void UPopupBlockMask::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    if (!m_desktop.isNull())
+    if (!m_isComposited)
         painter.drawPixmap(rect(), m_desktop);
     painter.fillRect(rect(), QColor::fromRgba(Veil));
 }

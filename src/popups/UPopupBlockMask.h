@@ -78,7 +78,8 @@ private:
     const PopupSystem m_system;
     const PopupReport::Upload m_uploadPicture;
     QRect m_place;
-    QPixmap m_desktop; // as it was before, where nothing shines through; otherwise null
+    const bool m_isComposited; // what it covers shines through
+    QPixmap m_desktop;         // as it was before
     bool m_busy = false;
     bool m_isReporting = false;
     QPointF m_click; // in physical pixels of the whole desktop
