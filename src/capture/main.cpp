@@ -1,4 +1,5 @@
 // ryx-capture WINDOW FILE: writes a picture of a window, given by its number in decimal or as 0x..., as PNG.
+// With OfScreen it shows what is on the screen there, with whatever covers the window.
 // It is a program of its own because a window that hangs may keep it waiting for ever.
 #include "platform/system/SystemCapture.h"
 
@@ -7,16 +8,16 @@
 
 namespace {
 
-enum ExitCode { Done, Usage, NoWindow, NotPossible, FileFailed };
+enum ExitCode { Done, Usage, NoWindow, NotPossible, FileFailed, OfScreen = SystemCapture::OfScreenExit };
 
-int Write(const QImage& picture, const QString& path) {
+bool Write(const QImage& picture, const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::NewOnly | QIODevice::WriteOnly)) // never over a file that is there
-        return FileFailed;
+        return false;
     if (picture.save(&file, "PNG") && file.flush())
-        return Done;
+        return true;
     file.remove();
-    return FileFailed;
+    return false;
 }
 
 } // namespace
@@ -32,7 +33,9 @@ int main(int argc, char** argv) {
     const SystemCapture::Picture picture = SystemCapture::Native().Take(window);
     switch (picture.result) {
     case SystemCapture::Result::Done:
-        return Write(picture.image, arguments[2]);
+        return Write(picture.image, arguments[2]) ? Done : FileFailed;
+    case SystemCapture::Result::OfScreen:
+        return Write(picture.image, arguments[2]) ? OfScreen : FileFailed;
     case SystemCapture::Result::NoWindow:
         return NoWindow;
     case SystemCapture::Result::NotPossible:

@@ -67,14 +67,15 @@ std::optional<std::vector<WId>> ControlPanelWatch::GetCurrentWindowList() {
 bool ControlPanelWatch::IsRealWindow(WId window) {
     if (!m_desktop.IsOwnRoot(window))
         return false;
-    const SystemDesktop::Style style = m_desktop.StyleOf(window);
-    if (style.isChild || style.isDisabled || style.takesNoActivation || style.isToolWindow)
+    const SystemDesktop::Style style = m_desktop.GetWindowStyle(window);
+    const SystemDesktop::ExStyle exStyle = m_desktop.GetWindowExStyle(window);
+    if (style.isChild || style.isDisabled || exStyle.takesNoActivation || exStyle.isToolWindow)
         return false;
     if (m_desktop.IsDesktopOrShell(window))
         return false;
     if (std::find(ShellClasses.begin(), ShellClasses.end(), m_desktop.ClassOf(window)) != ShellClasses.end())
         return false;
-    const std::optional<QRect> place = m_desktop.PlaceOf(window);
+    const std::optional<QRect> place = m_desktop.GetWindowGeometry(window);
     if (!place)
         LogOnce("Get Window Frame Rect Info Call Error, Error Code: {}" +
                 std::to_string(m_desktop.LastError()));

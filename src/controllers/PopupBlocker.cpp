@@ -57,14 +57,14 @@ PopupBlocker::PopupBlocker(PopupRules& rules, const SystemDesktop& desktop, cons
 }
 
 void PopupBlocker::Look(WId window) {
-    if (!m_desktop.IsVisible(window) || !m_desktop.IsEnabled(window) || m_desktop.StyleOf(window).isChild)
+    if (!m_desktop.IsVisible(window) || !m_desktop.IsEnabled(window) || m_desktop.IsChildWindow(window))
         return;
-    const QString file = m_processes.ImageOf(m_desktop.ProcessOf(window));
+    const QString file = m_processes.GetProcessFilePath(m_desktop.ProcessOf(window));
     if (file.isEmpty())
         return;
-    Shown shown{
-        window,
-        {QFileInfo(file).fileName(), m_desktop.ClassNameOf(window), m_desktop.TitleOf(window), QString()}};
+    Shown shown{window,
+                {QFileInfo(file).fileName(), m_desktop.GetWindowClassName(window),
+                 m_desktop.GetWindowTitle(window), QString()}};
     if (!m_rules.MayMatch(shown.window))
         return;
     const std::lock_guard<std::mutex> lock(m_mutex);

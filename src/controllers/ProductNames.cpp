@@ -18,7 +18,7 @@ QString ProductNames::NameOf(const QString& file) {
             known->second.changed == entry.changed)
             return known->second.name;
     }
-    entry.name = m_programs.ProductNameOf(file); // may take its time, and nobody else is to wait for it
+    entry.name = m_programs.GetProductName(file); // may take its time, and nobody else is to wait for it
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (m_entries.size() >= MostEntries)
         m_entries.clear();

@@ -101,7 +101,7 @@ std::vector<WId> PickableWindow::Candidates(const PopupSystem& system, WId mask)
                                  [&](WId id) {
                                      return id == mask || !system.desktop.IsVisible(id) ||
                                             !system.desktop.IsEnabled(id) ||
-                                            system.desktop.StyleOf(id).takesNoActivation;
+                                            system.desktop.GetWindowExStyle(id).takesNoActivation;
                                  }),
                   windows.end());
     return windows;
@@ -111,12 +111,12 @@ std::optional<PickableWindow> PickableWindow::Read(const PopupSystem& system, WI
     PickableWindow window;
     window.id = id;
     window.process = system.desktop.ProcessOf(id);
-    window.path = system.processes.ImageOf(window.process);
+    window.path = system.processes.GetProcessFilePath(window.process);
     if (window.path.isEmpty())
         return std::nullopt;
-    window.title = system.desktop.TitleOf(id);
-    window.className = system.desktop.ClassNameOf(id);
-    const std::optional<QRect> place = system.desktop.PlaceOf(id);
+    window.title = system.desktop.GetWindowTitle(id);
+    window.className = system.desktop.GetWindowClassName(id);
+    const std::optional<QRect> place = system.desktop.GetWindowGeometry(id);
     if (!place)
         return std::nullopt;
     window.place = *place;
@@ -139,7 +139,7 @@ bool PickableWindow::IsUncovered(const PopupSystem& system) const {
         if (other == id)
             return true;
         if (system.desktop.IsVisible(other) && system.desktop.ProcessOf(other) != self &&
-            system.desktop.PlaceOf(other).value_or(QRect()).intersects(place))
+            system.desktop.GetWindowGeometry(other).value_or(QRect()).intersects(place))
             return false;
     }
     return false; // it has gone

@@ -87,6 +87,7 @@ void PopupPicker::ShowMasks() {
     // All pictures of the desktop are taken before anything covers it.
     for (const auto& mask : m_masks)
         mask->show();
+    SystemWindows::Native().Activate(*m_masks.front()); // Escape is for them
 }
 
 void PopupPicker::Close() {

@@ -19,8 +19,9 @@ public:
                          PopupReport::Upload upload = PopupReport::UploadToStore, QObject* parent = nullptr);
     ~PopupPicker() override;
 
-    /// Lets the user point at a window, or begins with one that is picked already; false while a report is on
-    /// its way. The program's own window `aside` is away meanwhile, as what is to be picked may lie below it.
+    /// Lets the user point at a window, or begins with one that is picked already; false while the answer to
+    /// a report may still come. The program's own window `aside` is away meanwhile, as what is to be picked
+    /// may lie below it.
     bool Start(QWidget* aside = nullptr, const std::optional<PickableWindow>& picked = {});
     void Close();
 

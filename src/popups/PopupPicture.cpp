@@ -1,6 +1,7 @@
 #include "popups/PopupPicture.h"
 
 #include "platform/context/RyxPath.h"
+#include "platform/system/SystemCapture.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -24,6 +25,7 @@ PopupCapture::~PopupCapture() {
 
 void PopupCapture::Start(WId window, const std::shared_ptr<TempPicture>& picture) {
     Cancel();
+    m_isOfScreen = false;
     m_process = new QProcess(this);
     // The picture outlives the process that writes it.
     connect(m_process, &QObject::destroyed, [held = picture]() mutable { held.reset(); });
@@ -56,6 +58,7 @@ void PopupCapture::Cancel() {
 }
 
 void PopupCapture::End() {
+    m_isOfScreen = m_process->exitCode() == SystemCapture::OfScreenExit;
     Cancel();
     emit Finished();
 }

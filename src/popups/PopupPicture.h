@@ -34,6 +34,8 @@ public:
     /// Gives it up. What is written so far goes once the program has ended, which is not waited for.
     void Cancel();
     bool IsRunning() const { return m_process != nullptr; }
+    /// Whether the last one shows the screen, with whatever covers the window.
+    bool IsOfScreen() const { return m_isOfScreen; }
 
 signals:
     /// It is over; where it failed there is no file.
@@ -44,4 +46,5 @@ private:
 
     QProcess* m_process = nullptr;
     int m_run = 0; // number of the process
+    bool m_isOfScreen = false;
 };

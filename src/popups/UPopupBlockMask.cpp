@@ -15,7 +15,7 @@
 #include "widgets/UToast.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
+#include <QFile>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
@@ -29,6 +29,7 @@ namespace {
 
 constexpr int LookMs = 3000;
 constexpr int ReplyMs = 15000;
+constexpr int LateReplyMs = 45000;
 constexpr int EndMs = 1500;
 constexpr int IconSize = 32;
 constexpr int Margin = 24;
@@ -58,6 +59,7 @@ UPopupBlockMask::UPopupBlockMask(const QScreen& screen, const PopupSystem& syste
       m_system(system),
       m_uploadPicture(std::move(upload)),
       m_place(PlaceOf(screen)),
+      m_isComposited(SystemCapture::Native().IsComposited()),
       m_toast(std::make_unique<UToast>(nullptr, UToast::WhenBusy::Replace)),
       m_preview(new QLabel(this)),
       m_panel(new PopupPanel(this)) {
@@ -68,8 +70,7 @@ UPopupBlockMask::UPopupBlockMask(const QScreen& screen, const PopupSystem& syste
     SystemWindows::Native().PrepareCover(*this, Qt::black);
     WindowStack::Instance()->PushWindow(this);
     setGeometry(screen.geometry());
-    if (!SystemCapture::Native().IsComposited())
-        m_desktop = const_cast<QScreen&>(screen).grabWindow(0, 0, 0, -1, -1);
+    m_desktop = const_cast<QScreen&>(screen).grabWindow(0, 0, 0, -1, -1);
 
     m_preview->setObjectName(QStringLiteral("pickerPreview"));
     m_preview->setScaledContents(true);
@@ -81,6 +82,8 @@ UPopupBlockMask::UPopupBlockMask(const QScreen& screen, const PopupSystem& syste
     m_replyTimer.setObjectName(QStringLiteral("popupReplyTimer"));
     m_replyTimer.setSingleShot(true);
     m_replyTimer.setInterval(ReplyMs);
+    m_lateReplyTimer.setSingleShot(true);
+    m_lateReplyTimer.setInterval(LateReplyMs);
 
     connect(m_panel, &PopupPanel::ReportPressed, this, &UPopupBlockMask::Report);
     connect(m_panel, &PopupPanel::CancelPressed, this, &UPopupBlockMask::Cancelled);
@@ -88,7 +91,10 @@ UPopupBlockMask::UPopupBlockMask(const QScreen& screen, const PopupSystem& syste
     connect(&m_facts, &QFutureWatcherBase::finished, this, &UPopupBlockMask::OnLooked);
     connect(&m_lookLimit, &QTimer::timeout, this, &UPopupBlockMask::EndLook);
     connect(&m_upload, &QFutureWatcherBase::finished, this, &UPopupBlockMask::Send);
-    connect(&m_replyTimer, &QTimer::timeout, this, [this] { TellResult(false); });
+    connect(&m_replyTimer, &QTimer::timeout, this, [this] {
+        TellResult(false);
+        m_lateReplyTimer.start();
+    });
     QCoreApplication::instance()->installEventFilter(this);
     Retranslate();
 }
@@ -154,7 +160,7 @@ void UPopupBlockMask::Pick(const PickableWindow& window) {
     m_capture.Start(window.id, m_report.window);
     m_facts.setFuture(m_reader->Run(
         [&programs = m_system.programs, path = window.path] {
-            return ProgramFacts{programs.ProductNameOf(path), programs.SignerOf(path)};
+            return ProgramFacts{programs.GetProductName(path), programs.GetSubjectName(path)};
         },
         {}));
     m_lookLimit.start();
@@ -206,9 +212,11 @@ QPixmap UPopupBlockMask::Preview() const {
     if (seen.isEmpty())
         return {};
     const QString& path = m_report.window->Path();
+    if (m_capture.IsOfScreen())
+        QFile::remove(path); // it shows this mask
     const QPixmap picture(path, "PNG");
-    if (picture.isNull() && !m_desktop.isNull() && m_picked.IsUncovered(m_system)) {
-        QPixmap part = m_desktop.copy(seen.translated(-m_place.topLeft()));
+    if (picture.isNull() && (m_capture.IsOfScreen() || !m_isComposited) && m_picked.IsUncovered(m_system)) {
+        const QPixmap part = m_desktop.copy(seen.translated(-m_place.topLeft()));
         part.save(path, "PNG");
         return part;
     }
@@ -251,8 +259,11 @@ void UPopupBlockMask::Send() {
 bool UPopupBlockMask::eventFilter(QObject* watched, QEvent* event) {
     if (watched == QCoreApplication::instance() && event->type() == PipeReceiveEvent::eventType()) {
         const auto* message = static_cast<PipeReceiveEvent*>(event);
-        if (message->Key() == PipeKey::PopupBlockResult && m_replyTimer.isActive())
-            TellResult(IsSuccess(message->Data()));
+        if (message->Key() == PipeKey::PopupBlockResult) {
+            m_lateReplyTimer.stop();
+            if (m_replyTimer.isActive())
+                TellResult(IsSuccess(message->Data()));
+        }
     }
     return QWidget::eventFilter(watched, event);
 }
@@ -284,7 +295,7 @@ void UPopupBlockMask::resizeEvent(QResizeEvent* event) {
 
 void UPopupBlockMask::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    if (!m_desktop.isNull())
+    if (!m_isComposited)
         painter.drawPixmap(rect(), m_desktop);
     painter.fillRect(rect(), QColor::fromRgba(Veil));
 }

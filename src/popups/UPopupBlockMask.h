@@ -39,8 +39,9 @@ public:
     /// Drops what is picked, with its files.
     void Reset();
 
-    /// Whether a report is on its way, or its answer is awaited.
-    bool IsReporting() const { return m_isReporting; }
+    /// Whether a report is on its way, or its answer may still come: nothing tells it from that to another
+    /// one.
+    bool IsReporting() const { return m_isReporting || m_lateReplyTimer.isActive(); }
 
 signals:
     /// The user gives up.
@@ -77,7 +78,8 @@ private:
     const PopupSystem m_system;
     const PopupReport::Upload m_uploadPicture;
     QRect m_place;
-    QPixmap m_desktop; // as it was before, where nothing shines through; otherwise null
+    const bool m_isComposited; // what it covers shines through
+    QPixmap m_desktop;         // as it was before
     bool m_busy = false;
     bool m_isReporting = false;
     QPointF m_click; // in physical pixels of the whole desktop
@@ -91,6 +93,7 @@ private:
     QFutureWatcher<UploadPopupsParams> m_upload;
     Cancellation m_cancellation;
     QTimer m_replyTimer{this};
+    QTimer m_lateReplyTimer{this}; // runs once the user has been told that none has come
     std::unique_ptr<UToast> m_toast;
     QLabel* m_preview;
     PopupPanel* m_panel;

@@ -10,6 +10,9 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOption>
 #include <array>
 #include <utility>
 
@@ -148,6 +151,17 @@ void UToast::changeEvent(QEvent* event) {
     QFrame::changeEvent(event);
     if (event->type() == QEvent::StyleChange && !isHidden())
         Place();
+}
+
+// Qt itself paints no background in a window that can be seen through.
+void UToast::paintEvent(QPaintEvent* event) {
+    if (isWindow()) {
+        QStyleOption option;
+        option.initFrom(this);
+        QPainter painter(this);
+        style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
+    }
+    QFrame::paintEvent(event);
 }
 
 void UToast::mouseReleaseEvent(QMouseEvent*) {

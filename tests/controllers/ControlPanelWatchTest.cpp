@@ -31,15 +31,16 @@ struct ScriptedDesktop : SystemDesktop, SystemProcesses {
     quint32 LastError() const override { return 99; }
     quint32 ProcessOf(WId window) const override { return window == 'F' ? 8 : ControlPanel.id; }
     bool IsOwnRoot(WId) const override { return Ask("root") && facts.at("root"); }
-    Style StyleOf(WId) const override {
+    Style GetWindowStyle(WId) const override {
         Ask("style");
-        return {!facts.at("child"), !facts.at("disabled"), !facts.at("activation"), !facts.at("tool")};
+        return {!facts.at("child"), !facts.at("disabled")};
     }
+    ExStyle GetWindowExStyle(WId) const override { return {!facts.at("activation"), !facts.at("tool")}; }
     bool IsDesktopOrShell(WId) const override { return Ask("desktop") && !facts.at("desktop"); }
     std::string ClassOf(WId) const override {
         return Ask("class") && facts.at("class") ? "CabinetWClass" : "WorkerW";
     }
-    std::optional<QRect> PlaceOf(WId) const override {
+    std::optional<QRect> GetWindowGeometry(WId) const override {
         Ask("size");
         return !facts.at("readable")
                    ? std::nullopt

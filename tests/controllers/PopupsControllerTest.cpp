@@ -38,17 +38,17 @@ struct FakeSystem : SystemDesktop, SystemProcesses, SystemPrograms {
     }
     void RequestClose(WId window) const override { Tell("request" + std::to_string(window)); }
     quint32 ProcessOf(WId window) const override { return static_cast<quint32>(window); }
-    Style StyleOf(WId window) const override { return {window == Child, false, false, false}; }
-    QString ClassNameOf(WId) const override { return QStringLiteral("Klasse"); }
-    QString TitleOf(WId) const override { return QString::fromUtf8("GEWONNEN Ä"); }
+    Style GetWindowStyle(WId window) const override { return {window == Child, false}; }
+    QString GetWindowClassName(WId) const override { return QStringLiteral("Klasse"); }
+    QString GetWindowTitle(WId) const override { return QString::fromUtf8("GEWONNEN Ä"); }
     bool IsVisible(WId window) const override { return window != Invisible; }
     bool IsEnabled(WId window) const override { return window != Disabled; }
-    QString ImageOf(quint32 process) const override {
+    QString GetProcessFilePath(quint32 process) const override {
         if (process == Unreadable)
             return {};
         return process == Foreign ? QStringLiteral("/opt/foreign") : QStringLiteral("/opt/spiel/Spiel.exe");
     }
-    QString ProductNameOf(const QString& file) const override {
+    QString GetProductName(const QString& file) const override {
         EXPECT_EQ(file, QStringLiteral("/opt/spiel/Spiel.exe"));
         EXPECT_NE(QThread::currentThread(), qApp->thread());
         Tell("read");

@@ -38,6 +38,11 @@ TEST_F(PopupPickerEndToEndTest, ReportsAWindowWithItsPicturesOrWithout) {
         ASSERT_TRUE(StartWithStore(fault));
         foreign.emplace_back(product, "Offer of the day", Place);
         ASSERT_TRUE(screen->WaitForWindow("Offer of the day"));
+        if (!product.HasLauncher()) { // Wine gives the mask no focus before it is clicked
+            ASSERT_TRUE(page.OpenPicker());
+            screen->Press("Escape");
+            ASSERT_TRUE(WaitUntil([&] { return !page.IsPicking() && screen->Find(MainPage::Title); }));
+        }
         ASSERT_TRUE(page.OpenPicker());
         screen->Click(Place.center());
         ASSERT_TRUE(page.Report());

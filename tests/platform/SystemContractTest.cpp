@@ -137,18 +137,18 @@ TEST(SystemContract, WindowsOfOtherProgramsAreToldOfDescribedAndAskedToClose) {
         ASSERT_TRUE(QTest::qWaitFor([&] { return shown.size() > before; })) << kind;
     }
     for (const WId window : shown) {
-        EXPECT_TRUE(desktop.TitleOf(window).startsWith(QLatin1String("Pop-up that ")));
-        EXPECT_FALSE(desktop.ClassNameOf(window).isEmpty());
-        EXPECT_TRUE(desktop.IsVisible(window) && desktop.IsEnabled(window) &&
-                    !desktop.StyleOf(window).isChild);
-        EXPECT_FALSE(desktop.StyleOf(window).takesNoActivation);
-        const QSize size = desktop.PlaceOf(window).value_or(QRect()).size(); // Windows counts the frame
+        EXPECT_TRUE(desktop.GetWindowTitle(window).startsWith(QLatin1String("Pop-up that ")));
+        EXPECT_FALSE(desktop.GetWindowClassName(window).isEmpty());
+        EXPECT_TRUE(desktop.IsVisible(window) && desktop.IsEnabled(window) && !desktop.IsChildWindow(window));
+        EXPECT_FALSE(desktop.GetWindowExStyle(window).takesNoActivation);
+        const QSize size =
+            desktop.GetWindowGeometry(window).value_or(QRect()).size(); // Windows counts the frame
         EXPECT_TRUE(size.width() >= 320 && size.width() < 400 && size.height() >= 160) << size.width();
     }
-    const QString image = processes.ImageOf(desktop.ProcessOf(shown[0]));
+    const QString image = processes.GetProcessFilePath(desktop.ProcessOf(shown[0]));
     EXPECT_EQ(QFileInfo(image).completeBaseName(), QLatin1String("ryx-popups"));
-    EXPECT_EQ(processes.ImageOf(0xfffffff0), QString());
-    EXPECT_EQ(SystemPrograms::Native().SignerOf(image), QString());
+    EXPECT_EQ(processes.GetProcessFilePath(0xfffffff0), QString());
+    EXPECT_EQ(SystemPrograms::Native().GetSubjectName(image), QString());
     const std::vector<WId> all = desktop.TopLevelWindows().value();
     const auto last = std::find(all.begin(), all.end(), shown[2]);
     EXPECT_NE(std::find(last, all.end(), shown[0]), all.end()) << "below the last one";
@@ -158,7 +158,7 @@ TEST(SystemContract, WindowsOfOtherProgramsAreToldOfDescribedAndAskedToClose) {
     desktop.Close(shown[2]);
     EXPECT_TRUE(says("asked", 3) && says("closed", 2));
     EXPECT_FALSE(desktop.IsVisible(shown[0]));
-    EXPECT_FALSE(desktop.PlaceOf(shown[1]));
+    EXPECT_FALSE(desktop.GetWindowGeometry(shown[1]));
     EXPECT_TRUE(desktop.IsVisible(shown[2])) << "it has refused";
     desktop.EndWatch(watch);
     program.write("closes\n");

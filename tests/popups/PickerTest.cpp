@@ -2,6 +2,7 @@
 #include "platform/application/WindowStack.h"
 #include "platform/context/AppConfigData.h"
 #include "platform/context/LanguageHelper.h"
+#include "platform/context/Theme.h"
 #include "platform/link/PipeClientService.h"
 #include "platform/system/SystemDesktop.h"
 #include "platform/system/SystemProcesses.h"
@@ -39,17 +40,17 @@ struct FakeSystem : SystemDesktop, SystemProcesses, SystemPrograms {
         return all;
     }
     quint32 ProcessOf(WId id) const override { return static_cast<quint32>(id); }
-    QString ImageOf(quint32 process) const override { return Of(process).path; }
-    QString TitleOf(WId id) const override { return Of(id).title; }
-    QString ClassNameOf(WId id) const override { return Of(id).className; }
-    std::optional<QRect> PlaceOf(WId id) const override {
+    QString GetProcessFilePath(quint32 process) const override { return Of(process).path; }
+    QString GetWindowTitle(WId id) const override { return Of(id).title; }
+    QString GetWindowClassName(WId id) const override { return Of(id).className; }
+    std::optional<QRect> GetWindowGeometry(WId id) const override {
         return Of(id).place.isNull() ? std::nullopt : std::make_optional(Of(id).place);
     }
-    Style StyleOf(WId id) const override { return {false, false, Of(id).noActivation, false}; }
+    ExStyle GetWindowExStyle(WId id) const override { return {Of(id).noActivation, false}; }
     bool IsVisible(WId id) const override { return Of(id).visible; }
     bool IsEnabled(WId id) const override { return Of(id).enabled; }
-    QString ProductNameOf(const QString&) const override { return QStringLiteral("Player"); }
-    QString SignerOf(const QString& file) const override {
+    QString GetProductName(const QString&) const override { return QStringLiteral("Player"); }
+    QString GetSubjectName(const QString& file) const override {
         if (file.startsWith(QLatin1String("//slow/")))
             std::shared_future<void>(answer).wait();
         return QStringLiteral("Example Software Ltd.");
@@ -65,6 +66,7 @@ const QRect Place(200, 150, 300, 200);
 struct Picker : testing::Test {
     Picker() {
         LanguageHelper::Instance()->SetLanguage(QStringLiteral("en"));
+        Theme::Instance()->Apply(QStringLiteral("light"));
         AppConfigData::Instance()->dataFolder = folder.path().toStdString();
         link.SetServer(service.Address());
         link.Start();
@@ -104,8 +106,11 @@ struct Picker : testing::Test {
     }
     static QString Toast() {
         for (QWidget* widget : QApplication::topLevelWidgets())
-            if (auto* toast = qobject_cast<UToast*>(widget); toast && toast->isVisible())
+            if (auto* toast = qobject_cast<UToast*>(widget); toast && toast->isVisible()) {
+                EXPECT_EQ(toast->grab().toImage().pixelColor(toast->width() / 2, 1),
+                          Theme::Instance()->Color(QStringLiteral("toast")));
                 return toast->ShownMessage();
+            }
         return {};
     }
     UploadPopupsParams Reported() {
@@ -225,7 +230,8 @@ TEST_F(Picker, ReportsWithPicturesAndTellsTheAnswer) {
         {"taken", true, R"({"code": "0"})", "Reported successfully"},
         {"refused, nothing uploaded", false, R"({"code": "1"})", "Failed to report"},
         {"an answer that is none", true, "0", "Failed to report"},
-        {"no answer", true, nullptr, "Failed to report"},
+        {"an answer that comes too late", true, nullptr, "Failed to report"},
+        {"taken again", true, R"({"code": "0"})", "Reported successfully"},
     };
     system.windows = {{player, QStringLiteral("Offer"), QStringLiteral("OfferWindow"), Place}};
     for (const auto& test : cases) {
@@ -244,11 +250,10 @@ TEST_F(Picker, ReportsWithPicturesAndTellsTheAnswer) {
         EXPECT_EQ(report.type, 0);
         EXPECT_EQ(report.appFileKey.empty(), !test.uploads);
         EXPECT_EQ(TempFiles(), QString());
-        EXPECT_FALSE(picker.Start()) << "the answer to the report before is awaited";
-        if (test.answer)
-            link.Deliver(PipeKey::PopupBlockResult, test.answer);
-        else
+        if (!test.answer)
             Fire("popupReplyTimer");
+        EXPECT_FALSE(picker.Start()) << "the answer to the report before may still come";
+        link.Deliver(PipeKey::PopupBlockResult, test.answer ? test.answer : R"({"code": "0"})");
         EXPECT_EQ(Toast(), QLatin1String(test.toast));
     }
 }

@@ -105,8 +105,8 @@ void PrintRules() {
         PopupsTypeParams rule;
         rule.appName = program.fileName().toStdString();
         rule.popName = popup.windowTitle().toStdString();
-        rule.popClassName = SystemDesktop::Native().ClassNameOf(popup.winId()).toStdString();
-        rule.popProductName = SystemPrograms::Native().ProductNameOf(program.filePath()).toStdString();
+        rule.popClassName = SystemDesktop::Native().GetWindowClassName(popup.winId()).toStdString();
+        rule.popProductName = SystemPrograms::Native().GetProductName(program.filePath()).toStdString();
         policy.popupsDetails.push_back(rule);
     }
     Say(QString::fromStdString(policy.WriteToString()));

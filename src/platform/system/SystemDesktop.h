@@ -15,6 +15,8 @@ public:
     struct Style {
         bool isChild = false;
         bool isDisabled = false;
+    };
+    struct ExStyle {
         bool takesNoActivation = false;
         bool isToolWindow = false;
     };
@@ -46,17 +48,19 @@ public:
     virtual quint32 ProcessOf(WId /*window*/) const { return 0; }
     /// Whether it lies in no other window.
     virtual bool IsOwnRoot(WId /*window*/) const { return false; }
-    virtual Style StyleOf(WId /*window*/) const { return {}; }
+    virtual Style GetWindowStyle(WId /*window*/) const { return {}; }
+    virtual ExStyle GetWindowExStyle(WId /*window*/) const { return {}; }
+    bool IsChildWindow(WId window) const { return GetWindowStyle(window).isChild; }
     /// Whether it is the desktop itself or the shell's.
     virtual bool IsDesktopOrShell(WId /*window*/) const { return false; }
     /// At most 255 characters of 8 bits.
     virtual std::string ClassOf(WId /*window*/) const { return {}; }
     /// The name of the window's class in full; empty when it has none.
-    virtual QString ClassNameOf(WId /*window*/) const { return {}; }
+    virtual QString GetWindowClassName(WId /*window*/) const { return {}; }
     /// Empty when it has none.
-    virtual QString TitleOf(WId /*window*/) const { return {}; }
+    virtual QString GetWindowTitle(WId /*window*/) const { return {}; }
     /// In physical pixels of the whole desktop; nothing when it cannot be read.
-    virtual std::optional<QRect> PlaceOf(WId /*window*/) const { return std::nullopt; }
+    virtual std::optional<QRect> GetWindowGeometry(WId /*window*/) const { return std::nullopt; }
     /// Whether the system hides it although it is shown, as on another virtual desktop.
     virtual bool IsCloaked(WId /*window*/) const { return false; }
     virtual bool IsVisible(WId /*window*/) const { return false; }

@@ -28,7 +28,7 @@ public:
     virtual ProcessIdentity Find(const QString& /*name*/, const QString& /*commandLine*/) const { return {}; }
 
     /// The full path of the program that the process runs; empty when it cannot be read.
-    virtual QString ImageOf(quint32 /*id*/) const { return {}; }
+    virtual QString GetProcessFilePath(quint32 /*id*/) const { return {}; }
 
     /// The process that has this number now.
     virtual ProcessIdentity Identify(quint32 /*id*/) const { return {}; }

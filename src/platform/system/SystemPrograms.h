@@ -9,11 +9,11 @@ public:
     virtual ~SystemPrograms() = default;
 
     /// The product's name in the version resource; empty when there is none.
-    virtual QString ProductNameOf(const QString& /*file*/) const { return {}; }
+    virtual QString GetProductName(const QString& /*file*/) const { return {}; }
 
     /// The subject of the first signature; empty when there is none. Whether the signature is good is not
     /// looked at.
-    virtual QString SignerOf(const QString& /*file*/) const { return {}; }
+    virtual QString GetSubjectName(const QString& /*file*/) const { return {}; }
 
     static const SystemPrograms& Native();
 };

@@ -65,7 +65,7 @@
     </message>
     <message>
         <source>popups_pick_busy</source>
-        <translation>هناك بلاغ قيد الإرسال. انتظر حتى يصل.</translation>
+        <translation>لم يصل بعدُ ردّ على البلاغ الأخير. حاول مرة أخرى بعد دقيقة.</translation>
     </message>
     <message>
         <source>popups_pick_list</source>

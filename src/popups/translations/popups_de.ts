@@ -65,7 +65,7 @@
     </message>
     <message>
         <source>popups_pick_busy</source>
-        <translation>Eine Meldung ist unterwegs. Bitte warten Sie, bis sie angekommen ist.</translation>
+        <translation>Die letzte Meldung ist noch nicht beantwortet. Bitte versuchen Sie es in einer Minute erneut.</translation>
     </message>
     <message>
         <source>popups_pick_list</source>

@@ -65,7 +65,7 @@
     </message>
     <message>
         <source>popups_pick_busy</source>
-        <translation>A report is on its way. Please wait until it has arrived.</translation>
+        <translation>The last report has not been answered yet. Please try again in a minute.</translation>
     </message>
     <message>
         <source>popups_pick_list</source>

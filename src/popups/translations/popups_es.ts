@@ -65,7 +65,7 @@
     </message>
     <message>
         <source>popups_pick_busy</source>
-        <translation>Se está enviando una notificación. Espere a que llegue.</translation>
+        <translation>La última notificación aún no tiene respuesta. Vuelva a intentarlo dentro de un minuto.</translation>
     </message>
     <message>
         <source>popups_pick_list</source>

@@ -65,7 +65,7 @@
     </message>
     <message>
         <source>popups_pick_busy</source>
-        <translation>Un signalement est en cours d’envoi. Attendez qu’il soit arrivé.</translation>
+        <translation>Le dernier signalement n’a pas encore reçu de réponse. Réessayez dans une minute.</translation>
     </message>
     <message>
         <source>popups_pick_list</source>

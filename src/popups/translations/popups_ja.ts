@@ -65,7 +65,7 @@
     </message>
     <message>
         <source>popups_pick_busy</source>
-        <translation>報告を送信中です。届くまでお待ちください。</translation>
+        <translation>前回の報告への応答がまだありません。1 分後にもう一度お試しください。</translation>
     </message>
     <message>
         <source>popups_pick_list</source>

@@ -65,7 +65,7 @@
     </message>
     <message>
         <source>popups_pick_busy</source>
-        <translation>正在发送举报，请等待其送达。</translation>
+        <translation>上一次举报尚未得到答复，请一分钟后再试。</translation>
     </message>
     <message>
         <source>popups_pick_list</source>

@@ -9,7 +9,7 @@ namespace {
 
 class UnixProcesses final : public SystemProcesses {
 public:
-    QString ImageOf(quint32 id) const override {
+    QString GetProcessFilePath(quint32 id) const override {
         return QFile::symLinkTarget(QStringLiteral("/proc/%1/exe").arg(id));
     }
 };

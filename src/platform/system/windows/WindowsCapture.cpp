@@ -69,15 +69,17 @@ public:
         const Canvas canvas(rect.size());
         const bool drawn = PrintWindow(Handle(window), canvas.Context(), PW_RENDERFULLCONTENT) != FALSE;
         QImage image = canvas.Image();
+        Result result = Result::Done;
         // Some programs draw nothing when they are asked, and say that they have.
         if (!image.isNull() && (!drawn || IsInOneColor(image))) {
             const HDC screen = GetDC(nullptr);
             if (BitBlt(canvas.Context(), 0, 0, rect.width(), rect.height(), screen, rect.x(), rect.y(),
                        SRCCOPY))
                 image = canvas.Image();
+            result = Result::OfScreen;
             ReleaseDC(nullptr, screen);
         }
-        return {image.isNull() ? Result::NotPossible : Result::Done, image};
+        return {image.isNull() ? Result::NotPossible : result, image};
     }
 
     bool IsComposited() const override {

@@ -50,11 +50,14 @@ public:
         return GetAncestor(Handle(window), GA_ROOT) == Handle(window);
     }
 
-    Style StyleOf(WId window) const override {
+    Style GetWindowStyle(WId window) const override {
         const LONG style = GetWindowLongW(Handle(window), GWL_STYLE);
-        const LONG extended = GetWindowLongW(Handle(window), GWL_EXSTYLE);
-        return {(style & WS_CHILD) != 0, (style & WS_DISABLED) != 0, (extended & WS_EX_NOACTIVATE) != 0,
-                (extended & WS_EX_TOOLWINDOW) != 0};
+        return {(style & WS_CHILD) != 0, (style & WS_DISABLED) != 0};
+    }
+
+    ExStyle GetWindowExStyle(WId window) const override {
+        const LONG style = GetWindowLongW(Handle(window), GWL_EXSTYLE);
+        return {(style & WS_EX_NOACTIVATE) != 0, (style & WS_EX_TOOLWINDOW) != 0};
     }
 
     bool IsDesktopOrShell(WId window) const override {
@@ -67,13 +70,13 @@ public:
         return name;
     }
 
-    QString ClassNameOf(WId window) const override {
+    QString GetWindowClassName(WId window) const override {
         wchar_t name[ClassNameSize];
         return QString::fromWCharArray(name, GetClassNameW(Handle(window), name, ClassNameSize));
     }
 
     /// Without a message to the window, whose program may hang.
-    QString TitleOf(WId window) const override {
+    QString GetWindowTitle(WId window) const override {
         for (std::vector<wchar_t> title(ShortTitle);; title.resize(title.size() * 2)) {
             const int size = static_cast<int>(title.size());
             const int length = InternalGetWindowText(Handle(window), title.data(), size);
@@ -82,7 +85,7 @@ public:
         }
     }
 
-    std::optional<QRect> PlaceOf(WId window) const override {
+    std::optional<QRect> GetWindowGeometry(WId window) const override {
         RECT place{};
         if (!GetWindowRect(Handle(window), &place))
             return std::nullopt;

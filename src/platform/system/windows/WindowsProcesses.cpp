@@ -112,7 +112,7 @@ public:
         }
     }
 
-    QString ImageOf(quint32 id) const override {
+    QString GetProcessFilePath(quint32 id) const override {
         const ObjectHandle process(OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, id));
         std::vector<wchar_t> path(LongestPath);
         DWORD length = LongestPath;

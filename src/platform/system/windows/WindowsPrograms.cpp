@@ -66,7 +66,7 @@ Certificate FirstSigner(HCRYPTMSG message, HCERTSTORE store) {
 
 class WindowsPrograms final : public SystemPrograms {
 public:
-    QString ProductNameOf(const QString& file) const override {
+    QString GetProductName(const QString& file) const override {
         const std::wstring path = file.toStdWString();
         const DWORD size = GetFileVersionInfoSizeW(path.c_str(), nullptr);
         if (size == 0 || size > LargestResource)
@@ -77,7 +77,7 @@ public:
         return VersionText(resource, L"ProductName");
     }
 
-    QString SignerOf(const QString& file) const override {
+    QString GetSubjectName(const QString& file) const override {
         HCERTSTORE openedStore = nullptr;
         HCRYPTMSG openedMessage = nullptr;
         if (!CryptQueryObject(CERT_QUERY_OBJECT_FILE, file.toStdWString().c_str(),

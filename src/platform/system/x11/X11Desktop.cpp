@@ -58,21 +58,21 @@ public:
         return x11 ? ::ProcessOf(*x11, Id(window)) : 0;
     }
 
-    /// Only windows of the root are told of, so none is a child, and none is disabled.
-    Style StyleOf(WId window) const override {
+    // Only windows of the root are told of, so none is a child, and none is disabled.
+    ExStyle GetWindowExStyle(WId window) const override {
         constexpr std::uint32_t inputHint = 1;
         const X11Property hints = Property(window, "WM_HINTS");
-        Style style;
+        ExStyle style;
         style.takesNoActivation = (hints.Number(0) & inputHint) && hints.Number(1) == 0;
         return style;
     }
 
     /// The second of the property's two texts.
-    QString ClassNameOf(WId window) const override {
+    QString GetWindowClassName(WId window) const override {
         return QString::fromUtf8(Property(window, "WM_CLASS").bytes.split('\0').value(1));
     }
 
-    QString TitleOf(WId window) const override {
+    QString GetWindowTitle(WId window) const override {
         const X11Connection* x11 = X11Connection::Get();
         if (!x11)
             return {};
@@ -82,9 +82,9 @@ public:
         return {};
     }
 
-    std::optional<QRect> PlaceOf(WId window) const override {
+    std::optional<QRect> GetWindowGeometry(WId window) const override {
         const X11Connection* x11 = X11Connection::Get();
-        const QRect place = x11 ? ::PlaceOf(*x11, Id(window)) : QRect();
+        const QRect place = x11 ? PlaceOf(*x11, Id(window)) : QRect();
         return place.isValid() ? std::optional(place) : std::nullopt;
     }
 
