@@ -1,7 +1,11 @@
-// Who may change a file, as its access list tells.
+// Who may change a file, as its access list tells, and the folders that an installer makes.
 #include "platform/system/windows/AccessList.h"
 #include "platform/system/windows/AccessRights.h"
+#include "platform/system/windows/SharedFolders.h"
 
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 TEST(WindowsRights, TellWhoElseMayChangeAFile) {
@@ -18,4 +22,24 @@ TEST(WindowsRights, TellWhoElseMayChangeAFile) {
         ASSERT_TRUE(list);
         EXPECT_EQ(RightsIn(list.get()).WhyNotTrusted(), why) << QString::fromWCharArray(text).toStdString();
     }
+}
+
+TEST(WindowsRights, AFolderThatIsThereIsTakenOverWithoutWhatOthersMayHaveConfigured) {
+    const QTemporaryDir temp;
+    const QDir folder(temp.filePath(QStringLiteral("Velmora RYX")));
+    const auto make = [&] { return MakeSharedFolders(folder.path().toStdWString()); };
+    const auto write = [&](const char* name) {
+        EXPECT_TRUE(QFile(folder.filePath(QLatin1String(name))).open(QIODevice::WriteOnly));
+    };
+    const auto trusted = [&] { return FileRights::Of(folder.path().toStdWString()).WhyNotTrusted().empty(); };
+    EXPECT_TRUE(make() && trusted() && QDir(folder.filePath(QStringLiteral("log"))).removeRecursively());
+    write("ryx.json");
+    write("log"); // where a folder belongs
+    EXPECT_TRUE(make() && trusted() && folder.exists(QStringLiteral("ryx.json")));
+    write("log/1-User.log");
+    const auto everybody = MakeAccessList(L"D:P(A;OICI;FA;;;WD)");
+    SetFileSecurityW(folder.path().toStdWString().c_str(), DACL_SECURITY_INFORMATION, everybody.get());
+    EXPECT_FALSE(trusted());
+    EXPECT_TRUE(make() && trusted() && folder.exists(QStringLiteral("log/1-User.log")));
+    EXPECT_FALSE(folder.exists(QStringLiteral("ryx.json")));
 }

@@ -51,8 +51,8 @@ public:
     /// Folder of the agent platform's configuration, shared by all users.
     virtual QString ConfigurationFolder() const = 0;
 
-    /// Folder of the log files.
-    virtual QString LogFolder() const = 0;
+    /// Folder in which an administrator may let all users keep their log files; empty where there is none.
+    virtual QString SharedLogFolder() const = 0;
 
     /// Folder of what the program keeps for this user alone; it may not exist yet.
     virtual QString UserDataFolder() const = 0;

@@ -46,7 +46,7 @@ public:
 
     QString ConfigurationFolder() const override { return QStringLiteral("/etc/velmora-ryx"); }
 
-    QString LogFolder() const override { return UserDataFolder() + QStringLiteral("/log"); }
+    QString SharedLogFolder() const override { return {}; }
 
     QString UserDataFolder() const override {
         return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +

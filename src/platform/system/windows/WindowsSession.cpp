@@ -111,7 +111,7 @@ public:
 
     QString ConfigurationFolder() const override { return SharedFolder(); }
 
-    QString LogFolder() const override { return SharedFolder() + QStringLiteral("/log"); }
+    QString SharedLogFolder() const override { return SharedFolder() + QStringLiteral("/log"); }
 
     QString UserDataFolder() const override { return ProductFolder(FOLDERID_LocalAppData, "LOCALAPPDATA"); }
 
