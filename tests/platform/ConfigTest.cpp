@@ -1,4 +1,5 @@
 #include "platform/context/AppConfigData.h"
+#include "platform/context/ProcessEnvironment.h"
 #include "platform/system/FileRights.h"
 
 #include <QFile>
@@ -78,4 +79,14 @@ TEST(Config, WhatIsWrongIsSaidAndTheRestCounts) {
         EXPECT_EQ(Load(broken).notes.size(), 1u) << broken.left(20).constData();
     AppConfigData data;
     EXPECT_EQ(data.Load("no/such/file.json").size(), 1u);
+}
+
+TEST(ProcessEnvironment, WhatSteersQtAndTheLogGoes) {
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    for (const char* name : {"QT_PLUGIN_PATH", "GOOGLE_LOG_DIR", "qt_scale_factor", "QTDIR"})
+        qputenv(name, "1");
+    ProcessEnvironment::RemoveSteering();
+    EXPECT_TRUE(qgetenv("QT_PLUGIN_PATH") + qgetenv("GOOGLE_LOG_DIR") + qgetenv("qt_scale_factor") == "");
+    EXPECT_EQ(qgetenv("QTDIR"), "1");
+    qputenv("QT_QPA_PLATFORM", platform);
 }

@@ -21,6 +21,9 @@ public:
             qputenv("QT_XCB_GL_INTEGRATION", "none");
     }
 
+    /// What the loader goes by was read before the program has begun.
+    void RestrictLibraries() const override {}
+
     bool KeepPrivate(const QString& file) const override {
         return ::chmod(file.toLocal8Bit().constData(), S_IRUSR | S_IWUSR) == 0;
     }
