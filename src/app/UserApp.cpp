@@ -19,6 +19,7 @@
 #include "platform/context/AppConfigData.h"
 #include "platform/context/AppHelper.h"
 #include "platform/context/DevicePermissions.h"
+#include "platform/context/ProcessEnvironment.h"
 #include "platform/context/RyxPath.h"
 #include "platform/link/PipeClientService.h"
 #include "platform/security/LogText.h"
@@ -40,10 +41,6 @@ namespace {
 
 const QString ArgumentSeparator = QStringLiteral("<velmora_ryx>");
 constexpr int ForwardTimeoutMs = 5000;
-
-QString ForwardedArguments(const QStringList& arguments) {
-    return arguments.mid(1).join(ArgumentSeparator);
-}
 
 /// Takes the session's marker for this process; false when another process holds it.
 bool TakeSessionMarker(QSharedMemory& marker) {
@@ -124,6 +121,7 @@ struct PipeLinkGuard {
 } // namespace
 
 int UserApp::Run(int argc, char** argv) {
+    ProcessEnvironment::Close();
     SystemSession::Native().InitializeCom();
     SystemSession::Native().PrepareApplication();
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
@@ -132,9 +130,13 @@ int UserApp::Run(int argc, char** argv) {
     QGuiApplication::setFallbackSessionManagementEnabled(false);
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QuitDeadline quitDeadline;
-    QtSingleApplication application(QStringLiteral("velmora_ryx_windows_shell"), argc, argv);
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    int ownNameOnly = 1; // Qt takes options that would change how the program looks and what it loads
+    QtSingleApplication application(QStringLiteral("velmora_ryx_windows_shell"), ownNameOnly, argv);
     if (application.isRunning()) {
-        application.sendMessage(ForwardedArguments(application.arguments()), ForwardTimeoutMs);
+        application.sendMessage(arguments.join(ArgumentSeparator), ForwardTimeoutMs);
         return 0;
     }
     application.setProperty("IsUser", true);
@@ -195,7 +197,7 @@ int UserApp::Run(int argc, char** argv) {
     MainWindow window;
     connect(&window, &MainWindow::MessagesRequested, &message, &MessageController::OpenMessages);
     application.setActivationWindow(&window, true);
-    if (application.arguments().contains(QStringLiteral("-hide")))
+    if (arguments.contains(QStringLiteral("-hide")))
         SystemWindows::Native().CreateHidden(window);
     else
         window.show();

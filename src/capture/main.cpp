@@ -1,6 +1,7 @@
 // ryx-capture WINDOW FILE: writes a picture of a window, given by its number in decimal or as 0x..., as PNG.
 // With OfScreen it shows what is on the screen there, with whatever covers the window.
 // It is a program of its own because a window that hangs may keep it waiting for ever.
+#include "platform/context/ProcessEnvironment.h"
 #include "platform/system/SystemCapture.h"
 
 #include <QFile>
@@ -23,6 +24,7 @@ bool Write(const QImage& picture, const QString& path) {
 } // namespace
 
 int main(int argc, char** argv) {
+    ProcessEnvironment::Close();
     QGuiApplication::setAttribute(Qt::AA_DisableHighDpiScaling);
     const QGuiApplication application(argc, argv);
     const QStringList arguments = QGuiApplication::arguments();

@@ -200,7 +200,7 @@ TEST_F(EndToEndTest, OnlyASecondStartWithoutArgumentsBringsAMinimisedWindowUp) {
 TEST_F(EndToEndTest, StartedHiddenTheWindowIsNeverSeenUntilASecondStart) {
     ASSERT_TRUE(product.StartAgent());
     screen->HasAnyAppeared();
-    product.StartFrontEnd({"-hide"});
+    product.StartFrontEnd({"-hide", "-platform", "none"});
     ASSERT_TRUE(product.AgentSays("received 12 OtaVersionInfo"));
     EXPECT_EQ(product.StartAgain({"-hide"}), 0);
     EXPECT_TRUE(product.WaitForLog("Other instance commandline: -hide\n"));

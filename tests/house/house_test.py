@@ -33,7 +33,7 @@ MAY_INCLUDE = {
     "controllers": FEATURE + ["messages", "popups"],  # a controller may own a feature's dialog
     "app": FEATURE + FEATURES + ["controllers"],
     "host": ["app"],
-    "capture": ["platform/system"],
+    "capture": ["platform/context", "platform/system"],
     "agent": ["entity", "platform", "platform/application", "platform/context", "platform/link", "platform/security",
               "platform/system", "platform/web"],
     "tools": SOURCES + ["agent"],

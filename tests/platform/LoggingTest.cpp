@@ -26,6 +26,8 @@ TEST(Logging, KeepsTheNewestFilesAndEndsTwiceInPeace) {
         Touch(folder, QStringLiteral("1-User.202001%1-120000.7").arg(day));
     Touch(folder, QStringLiteral("1-Other.20200101-120000.7"));
 
+    FLAGS_logtostderr = true; // as a user's environment can set it
+    FLAGS_minloglevel = google::GLOG_FATAL;
     InitLogger("1-User", folder.path().toStdString(), 10, 10);
     LOG(INFO) << "first line";
     LOG(ERROR) << "an error belongs into the same file";

@@ -4,6 +4,9 @@
 TEST(TempFolder, WhatIsADayOldGoesAndTheRestStays) {
     const QTemporaryDir folder;
     AppConfigData::Instance()->dataFolder = folder.path().toStdString();
+    EXPECT_EQ(QDir(QString::fromStdWString(RyxPath::GetRyxLogDir())),
+              QDir(folder.filePath(QStringLiteral("log"))))
+        << "nobody has made one for all users, nor does the front end";
     const QDir temp(QString::fromStdWString(RyxPath::GetRyxTempDir()));
     ASSERT_EQ(temp.entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
     for (const int hours : {0, 23, 25, 1000}) {

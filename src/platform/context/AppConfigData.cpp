@@ -1,6 +1,8 @@
 #include "platform/context/AppConfigData.h"
 
 #include "entity/JsonText.h"
+#include "platform/DeveloperBuild.h"
+#include "platform/system/FileRights.h"
 #include "platform/system/SystemSession.h"
 
 #include <QFile>
@@ -27,26 +29,41 @@ bool Read(const Json::Value& value, std::vector<std::string>& field) {
     return true;
 }
 
+std::string ChosenPath() {
+    return IsDeveloperBuild ? qEnvironmentVariable("VELMORA_RYX_CONFIG").toStdString() : std::string();
+}
+
 } // namespace
 
 AppConfigData* AppConfigData::Instance() {
     static const std::unique_ptr<AppConfigData> data = [] {
         auto loaded = std::make_unique<AppConfigData>();
-        loaded->loadNotes = loaded->Load(DefaultPath());
+        const std::string path = DefaultPath();
+        const auto file = std::filesystem::u8path(path);
+        // The folder first: from then on nobody else can put another file in this one's place.
+        const FileRights folderRights = FileRights::Of(file.parent_path());
+        loaded->loadNotes = loaded->Load(
+            path, ChosenPath().empty() ? WhyNotTrusted(folderRights, FileRights::Of(file)) : std::string());
         return loaded;
     }();
     return data.get();
 }
 
 std::string AppConfigData::DefaultPath() {
-    const QString chosen = qEnvironmentVariable("VELMORA_RYX_CONFIG");
-    const QString path = chosen.isEmpty()
-                             ? SystemSession::Native().ConfigurationFolder() + QStringLiteral("/ryx.json")
-                             : chosen;
-    return path.toStdString();
+    const std::string chosen = ChosenPath();
+    return chosen.empty() ? SystemSession::Native().ConfigurationFolder().toStdString() + "/ryx.json"
+                          : chosen;
 }
 
-std::vector<std::string> AppConfigData::Load(const std::string& path) {
+std::string AppConfigData::WhyNotTrusted(const FileRights& folder, const FileRights& file) {
+    const std::string why = folder.WhyNotTrusted();
+    if (!why.empty())
+        return "its folder " + why;
+    const std::string whyNotFile = file.WhyNotTrusted();
+    return whyNotFile.empty() ? whyNotFile : "it " + whyNotFile;
+}
+
+std::vector<std::string> AppConfigData::Load(const std::string& path, const std::string& whyNotTrusted) {
     const auto defaults = [&path](const std::string& why) {
         return std::vector<std::string>{"uses the defaults: " + path + ": " + why};
     };
@@ -65,20 +82,34 @@ std::vector<std::string> AppConfigData::Load(const std::string& path) {
         if (!value.isNull() && !Read(value, field))
             notes.push_back("ignores \"" + std::string(key) + "\" in " + path + ": wrong type");
     };
-    read("sentryDsn", sentryDsn);
+    std::string ignored;
+    const auto readTrusted = [&](const char* key, auto& field) {
+        if (whyNotTrusted.empty())
+            read(key, field);
+        else if (!(*root)[key].isNull())
+            ignored += (ignored.empty() ? "" : ", ") + std::string(key);
+    };
+    readTrusted("sentryDsn", sentryDsn);
+    readTrusted("pipeName", pipeName);
+    readTrusted("agentAccount", agentAccount);
+    readTrusted("logFolder", logFolder);
+    readTrusted("dataFolder", dataFolder);
+    readTrusted("messageFileFolder", messageFileFolder);
+    readTrusted("webServer", webServer);
+    readTrusted("webProxy", webProxy);
+    readTrusted("webCaFile", webCaFile);
+    readTrusted("webHttpHosts", webHttpHosts);
+    readTrusted("networkServers", networkServers);
+    readTrusted("userAgreementUrl", userAgreementUrl);
+    readTrusted("privacyPolicyUrl", privacyPolicyUrl);
+    readTrusted("supportName", supportName);
+    readTrusted("supportTelephone", supportTelephone);
+    readTrusted("supportMail", supportMail);
+    readTrusted("supportPage", supportPage);
     read("language", language);
     read("theme", theme);
-    read("pipeName", pipeName);
-    read("agentAccount", agentAccount);
-    read("logFolder", logFolder);
-    read("dataFolder", dataFolder);
     read("organisation", organisation);
     read("deviceName", deviceName);
-    read("webServer", webServer);
-    read("webProxy", webProxy);
-    read("webCaFile", webCaFile);
-    read("webHttpHosts", webHttpHosts);
-    read("messageFileFolder", messageFileFolder);
     read("messageFileMegabytes", messageFileMegabytes);
     read("webSilenceSeconds", webSilenceSeconds);
     read("webCallSeconds", webCallSeconds);
@@ -88,14 +119,9 @@ std::vector<std::string> AppConfigData::Load(const std::string& path) {
     read("adminAccount", adminAccount);
     read("deviceTags", deviceTags);
     read("permissionList", permissionList);
-    read("userAgreementUrl", userAgreementUrl);
-    read("privacyPolicyUrl", privacyPolicyUrl);
-    read("networkServers", networkServers);
-    read("supportName", supportName);
-    read("supportTelephone", supportTelephone);
-    read("supportMail", supportMail);
-    read("supportPage", supportPage);
     read("publisherSuffix", publisherSuffix);
     read("publisherSigners", publisherSigners);
+    if (!ignored.empty())
+        notes.push_back("ignores " + ignored + " in " + path + ": " + whyNotTrusted);
     return notes;
 }

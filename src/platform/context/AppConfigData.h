@@ -3,17 +3,24 @@
 #include <string>
 #include <vector>
 
-/// The agent platform's configuration: one JSON file, in the system-wide place or where the environment
-/// variable VELMORA_RYX_CONFIG says. Keys bear the names of the fields below; docs/configuration.md
-/// lists them. GUI thread.
+struct FileRights;
+
+/// The agent platform's configuration: one JSON file in the system-wide place. In builds for developers the
+/// environment variable VELMORA_RYX_CONFIG names another, which is trusted. Keys bear the names of the fields
+/// below; docs/configuration.md lists them. GUI thread.
 class AppConfigData {
 public:
     /// The process's configuration; read from the file at the first call.
     static AppConfigData* Instance();
 
     /// Reads the file. A missing or broken file, or a value of the wrong type, leaves the defaults;
-    /// returns a line on each such thing, for the log, which may not be open yet.
-    std::vector<std::string> Load(const std::string& path);
+    /// returns a line on each such thing, for the log, which may not be open yet. With a reason not to trust
+    /// the file, the keys that say whom the program trusts, talks to and sends its user to, and where it
+    /// writes, are left alone, and a line names them.
+    std::vector<std::string> Load(const std::string& path, const std::string& whyNotTrusted = {});
+
+    /// Why others than administrators may have written the file, as a sentence; empty when they cannot have.
+    static std::string WhyNotTrusted(const FileRights& folder, const FileRights& file);
 
     /// Path of the file that Instance reads.
     static std::string DefaultPath();
@@ -25,7 +32,7 @@ public:
     std::string theme;               ///< "light" or "dark"; empty: light
     std::string pipeName;            ///< empty: the product's own
     std::string agentAccount;        ///< account that may serve the pipe beside the local system account
-    std::string logFolder;           ///< empty: the system-wide place
+    std::string logFolder;           ///< empty: see RyxPath
     std::string dataFolder;          ///< of the user's own data; empty: the system's place for it
     std::string organisation;        ///< display name of the managing organisation
     std::string deviceName;          ///< empty: the host name

@@ -2,6 +2,7 @@
 
 #include "platform/context/AppConfigData.h"
 #include "platform/security/LogText.h"
+#include "platform/system/FileRights.h"
 #include "platform/system/SystemSession.h"
 
 #include <QDateTime>
@@ -13,8 +14,25 @@
 
 namespace {
 
+QString DataFolder() {
+    const std::string& chosen = AppConfigData::Instance()->dataFolder;
+    return chosen.empty() ? SystemSession::Native().UserDataFolder() : QString::fromStdString(chosen);
+}
+
+/// The folder that all users share, if an administrator has made it, which nobody else can in a folder that
+/// is trusted; otherwise one of the user's own.
+QString LogFolder() {
+    if (const std::string& chosen = AppConfigData::Instance()->logFolder; !chosen.empty())
+        return QString::fromStdString(chosen);
+    const QFileInfo shared(SystemSession::Native().SharedLogFolder());
+    const bool isUsed =
+        shared.isDir() &&
+        FileRights::Of(std::filesystem::u8path(shared.path().toStdString())).WhyNotTrusted().empty();
+    return isUsed ? shared.filePath() : DataFolder() + QStringLiteral("/log");
+}
+
 QString TempFolder() {
-    return QString::fromStdWString(RyxPath::GetUserDataDir()) + QStringLiteral("/temp");
+    return DataFolder() + QStringLiteral("/temp");
 }
 
 /// Removes what has lain in a folder, which need not be there, for more than a day.
@@ -35,17 +53,13 @@ void RemoveOldFiles(const QString& folder) {
 } // namespace
 
 std::wstring RyxPath::GetRyxLogDir() {
-    const std::string& chosen = AppConfigData::Instance()->logFolder;
-    const QString folder =
-        chosen.empty() ? SystemSession::Native().LogFolder() : QString::fromStdString(chosen);
+    const QString folder = LogFolder();
     QDir().mkpath(folder);
     return QDir::toNativeSeparators(folder).toStdWString();
 }
 
 std::wstring RyxPath::GetUserDataDir() {
-    const std::string& chosen = AppConfigData::Instance()->dataFolder;
-    return (chosen.empty() ? SystemSession::Native().UserDataFolder() : QString::fromStdString(chosen))
-        .toStdWString();
+    return DataFolder().toStdWString();
 }
 
 std::wstring RyxPath::GetDocumentsDir() {

@@ -31,6 +31,10 @@ public:
     /// Before the application object is made: leaves out what Qt would load and this program never uses.
     virtual void PrepareApplication() const = 0;
 
+    /// From now on libraries come from the program's own folder and the system's alone, and none from another
+    /// machine, where the system can see to that.
+    virtual void RestrictLibraries() const = 0;
+
     /// Lets nobody but this user and the administrators open the file; false when that fails.
     virtual bool KeepPrivate(const QString& file) const = 0;
 
@@ -51,8 +55,8 @@ public:
     /// Folder of the agent platform's configuration, shared by all users.
     virtual QString ConfigurationFolder() const = 0;
 
-    /// Folder of the log files.
-    virtual QString LogFolder() const = 0;
+    /// Folder in which an administrator may let all users keep their log files; empty where there is none.
+    virtual QString SharedLogFolder() const = 0;
 
     /// Folder of what the program keeps for this user alone; it may not exist yet.
     virtual QString UserDataFolder() const = 0;

@@ -37,6 +37,9 @@ public:
             qputenv("QT_XCB_GL_INTEGRATION", "none");
     }
 
+    /// What the loader goes by was read before the program has begun.
+    void RestrictLibraries() const override {}
+
     bool KeepPrivate(const QString& file) const override {
         return ::chmod(file.toLocal8Bit().constData(), S_IRUSR | S_IWUSR) == 0;
     }
@@ -62,7 +65,7 @@ public:
 
     QString ConfigurationFolder() const override { return QStringLiteral("/etc/velmora-ryx"); }
 
-    QString LogFolder() const override { return UserDataFolder() + QStringLiteral("/log"); }
+    QString SharedLogFolder() const override { return {}; }
 
     QString UserDataFolder() const override {
         return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +

@@ -67,6 +67,17 @@ public:
 
     void PrepareApplication() const override {}
 
+    /// Those that the program is linked with are there already: Windows looks for them in the program's
+    /// folder first. The system's are not to be preferred, for other programs leave theirs there under the
+    /// same names.
+    void RestrictLibraries() const override {
+        SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_APPLICATION_DIR | LOAD_LIBRARY_SEARCH_SYSTEM32);
+        PROCESS_MITIGATION_IMAGE_LOAD_POLICY policy{};
+        policy.NoRemoteImages = 1;
+        policy.NoLowMandatoryLabelImages = 1;
+        SetProcessMitigationPolicy(ProcessImageLoadPolicy, &policy, sizeof policy);
+    }
+
     bool KeepPrivate(const QString& file) const override {
         const auto list = MakeAccessList(SystemAdministratorsOwner);
         return list &&
@@ -111,7 +122,7 @@ public:
 
     QString ConfigurationFolder() const override { return SharedFolder(); }
 
-    QString LogFolder() const override { return SharedFolder() + QStringLiteral("/log"); }
+    QString SharedLogFolder() const override { return SharedFolder() + QStringLiteral("/log"); }
 
     QString UserDataFolder() const override { return ProductFolder(FOLDERID_LocalAppData, "LOCALAPPDATA"); }
 
