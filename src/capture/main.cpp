@@ -1,6 +1,8 @@
 // ryx-capture WINDOW FILE: writes a picture of a window, given by its number in decimal or as 0x..., as PNG.
-// It is a program of its own because a window that hangs may keep it waiting for ever.
+// It is a program of its own because a window that hangs may keep it waiting for ever. For the same reason it
+// writes the record of a front end that has crashed, where the system wants another process for that.
 #include "platform/system/SystemCapture.h"
+#include "platform/system/SystemCrash.h"
 
 #include <QFile>
 #include <QGuiApplication>
@@ -22,6 +24,8 @@ int Write(const QImage& picture, const QString& path) {
 } // namespace
 
 int main(int argc, char** argv) {
+    if (SystemCrash::Native().WriteRecord())
+        return Done;
     QGuiApplication::setAttribute(Qt::AA_DisableHighDpiScaling);
     const QGuiApplication application(argc, argv);
     const QStringList arguments = QGuiApplication::arguments();
