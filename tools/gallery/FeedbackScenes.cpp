@@ -115,6 +115,11 @@ public:
         return expected == std::any_of(bars.begin(), bars.end(), [](auto* bar) { return bar->value() > 0; });
     }
 
+    void OpenAgain() {
+        m_page.hide();
+        m_page.show();
+    }
+
     void GoBack() { m_page.findChild<UBackButton*>()->click(); }
 
     /// Nothing has to be scrolled.
@@ -166,6 +171,7 @@ void MakeLogs() {
         if (QFile file(folder.filePath(QStringLiteral("1-User.20260302-10150%1.4711").arg(lines % 7)));
             file.open(QIODevice::WriteOnly))
             file.write(line.repeated(lines));
+    QFile(folder.filePath(QStringLiteral("1-Crash.20260302-101502.4711.txt"))).open(QIODevice::WriteOnly);
 }
 
 } // namespace
@@ -248,6 +254,12 @@ QVector<Scene> FeedbackScenes() {
                WaitFor([&] { return page.Asks(); });
            }),
         On("leave", [](FeedbackStage& page) { page.GoBack(); }),
+        On("crashed",
+           [](FeedbackStage& page) {
+               MakeLogs();
+               page.OpenAgain();
+               page.MakeHigh();
+           }),
         On("log-files",
            [](FeedbackStage& page) {
                MakeLogs();
