@@ -1,6 +1,7 @@
 #include "app/UserApp.h"
 
 #include "app/MainWindow.h"
+#include "common/CrashRecords.h"
 #include "common/LoggerGuard.h"
 #include "common/SentryGuard.h"
 #include "controllers/MainController.h"
@@ -153,6 +154,7 @@ int UserApp::Run(int argc, char** argv) {
         return 0;
     }
     const SentryGuard sentry(std::string("VelmoraRYX@User@") + Product::Version, CrashDatabasePath());
+    CrashRecords::Start(QString::fromStdWString(RyxPath::GetRyxLogDir()));
     QGuiApplication::setQuitOnLastWindowClosed(false);
 
     UserApp app;

@@ -15,7 +15,7 @@ class UserApp : public QObject {
 public:
     /// Runs the front end on the calling thread, which becomes the GUI thread. Returns the process's
     /// exit code: 0 when it gives way to a running instance, otherwise the event loop's. Throws
-    /// HResultError when COM cannot be started.
+    /// HResultError when COM cannot be started; whatever it throws, the host tells the administrator.
     RYX_USER_EXPORT static int Run(int argc, char** argv);
 
 private:

@@ -1,8 +1,10 @@
 // ryx-capture WINDOW FILE: writes a picture of a window, given by its number in decimal or as 0x..., as PNG.
 // With OfScreen it shows what is on the screen there, with whatever covers the window.
-// It is a program of its own because a window that hangs may keep it waiting for ever.
+// It is a program of its own because a window that hangs may keep it waiting for ever. For the same reason it
+// writes the record of a front end that has crashed, where the system wants another process for that.
 #include "platform/context/ProcessEnvironment.h"
 #include "platform/system/SystemCapture.h"
+#include "platform/system/SystemCrash.h"
 
 #include <QFile>
 #include <QGuiApplication>
@@ -25,6 +27,8 @@ bool Write(const QImage& picture, const QString& path) {
 
 int main(int argc, char** argv) {
     ProcessEnvironment::Close();
+    if (SystemCrash::Native().WriteRecord())
+        return Done;
     QGuiApplication::setAttribute(Qt::AA_DisableHighDpiScaling);
     const QGuiApplication application(argc, argv);
     const QStringList arguments = QGuiApplication::arguments();

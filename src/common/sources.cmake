@@ -1,4 +1,5 @@
 target_sources(ryx_user_objects PRIVATE
+    ${CMAKE_CURRENT_LIST_DIR}/CrashRecords.cpp
     ${CMAKE_CURRENT_LIST_DIR}/LoggerGuard.cpp
     ${CMAKE_CURRENT_LIST_DIR}/SentryGuard.cpp)
 

@@ -131,8 +131,11 @@ void LogFilesDialog::ShowFile(const NamedFile& named) {
     m_isReadable = file.open(QIODevice::ReadOnly);
     const bool isCut = m_isReadable && file.size() > MostShown && file.seek(file.size() - MostShown);
     m_viewTitle->SetText(named.name);
-    m_viewNote->setVisible(isCut || !m_isReadable);
     QByteArray text = m_isReadable ? file.read(MostShown) : QByteArray();
+    m_isText = !text.contains('\0');
+    if (!m_isText)
+        text.clear();
+    m_viewNote->setVisible(isCut || !m_isReadable || !m_isText);
     if (isCut) // whose first line is but the end of one
         text.remove(0, text.indexOf('\n') + 1);
     HashMask().Apply(text.data(), static_cast<std::size_t>(text.size()));
@@ -189,8 +192,9 @@ void LogFilesDialog::Retranslate() {
                                     : tr("log_files_content")
                                           .arg(m_deviceName, language.Locale().toString(m_files),
                                                language.SizeText(m_bytes)));
-    m_viewNote->setText(m_isReadable ? tr("log_files_end_only").arg(language.SizeText(MostShown))
-                                     : tr("log_files_unreadable"));
+    m_viewNote->setText(!m_isReadable ? tr("log_files_unreadable")
+                        : !m_isText   ? tr("log_files_no_text")
+                                      : tr("log_files_end_only").arg(language.SizeText(MostShown)));
     m_close->setText(tr("button_ok"));
     for (auto* size : findChildren<QLabel*>(QStringLiteral("logFileSize")))
         size->setText(language.SizeText(size->property("bytes").toLongLong()));

@@ -37,6 +37,7 @@ private:
     int m_files = 0;
     qint64 m_bytes = 0;
     bool m_isReadable = true; // the file in the view
+    bool m_isText = true;
     QWidget* m_listPart = nullptr;
     QWidget* m_viewPart = nullptr;
     QLabel* m_title;

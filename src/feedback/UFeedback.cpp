@@ -1,11 +1,13 @@
 #include "feedback/UFeedback.h"
 
+#include "common/CrashRecords.h"
 #include "feedback/AttachmentStrip.h"
 #include "feedback/FeedbackAlerts.h"
 #include "feedback/FeedbackForm.h"
 #include "feedback/LogFilesDialog.h"
 #include "platform/application/RyxWindow.h"
 #include "platform/context/AppContextData.h"
+#include "platform/context/LanguageHelper.h"
 #include "platform/context/MachineHelper.h"
 #include "platform/context/RyxPath.h"
 #include "platform/context/Theme.h"
@@ -30,7 +32,8 @@
 namespace {
 
 constexpr int ProgressMs = 100;
-constexpr int EndMs = 1500; // of the two seconds that the program has for its end
+constexpr int CrashDays = 7; // for which a crash is worth a report
+constexpr int EndMs = 1500;  // of the two seconds that the program has for its end
 
 // Whatever was proposed: after a move the source would delete its file.
 void AcceptCopy(QDropEvent& event) {
@@ -43,6 +46,7 @@ void AcceptCopy(QDropEvent& event) {
 UFeedback::UFeedback(QWidget* parent)
     : UPage(QStringLiteral("feedback"), parent),
       m_form(new FeedbackForm(m_backend)),
+      m_crash(new UTextLabel("pageNote")),
       m_logFiles(new UTextButton(UTextButton::Look::Plain)),
       m_tip(new UTextLabel("pageNote")),
       m_progress(new QProgressBar),
@@ -86,6 +90,7 @@ void UFeedback::Initialization() {
     column->addWidget(m_progress);
     column->addLayout(buttons);
     Content().addWidget(m_form);
+    Content().addWidget(m_crash);
     Content().addWidget(m_logFiles, 0, Qt::AlignLeading);
     SetFooter(footer);
 }
@@ -336,6 +341,7 @@ void UFeedback::Notify(NoticeKind kind, const QString& text) {
 
 void UFeedback::showEvent(QShowEvent* event) {
     UPage::showEvent(event);
+    ShowCrash();
     if (const auto tell = std::exchange(m_onReturn, nullptr))
         (this->*tell)();
 }
@@ -369,6 +375,7 @@ void UFeedback::Retranslate() {
     SetTitle(tr("log_report_title"));
     SetSentence(tr("feedback_sentence"));
     m_logFiles->setText(tr("log_files_title"));
+    ShowCrash();
     ShowTip();
     m_cancel->setText(tr("feedback_cancel"));
     m_submit->setText(tr("log_submit"));
@@ -380,4 +387,11 @@ void UFeedback::ShowTip() {
                    : m_form->Attachments().IsPending() ? tr("feedback_uploads_pending")
                                                        : tr("log_submit_tip"));
     m_progress->setAccessibleName(m_tip->text());
+}
+
+void UFeedback::ShowCrash() {
+    const QDateTime crash = CrashRecords::Newest(QString::fromStdWString(RyxPath::GetRyxLogDir()));
+    m_crash->setVisible(crash.isValid() && crash.daysTo(Clock::System().Now()) < CrashDays);
+    m_crash->setText(
+        tr("feedback_crash").arg(LanguageHelper::Instance()->Locale().toString(crash, QLocale::ShortFormat)));
 }

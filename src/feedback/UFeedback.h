@@ -75,6 +75,7 @@ private:
     void PasteAttachment();
     void Notify(NoticeKind kind, const QString& text);
     void Retranslate();
+    void ShowCrash();
 
     FeedbackBackend m_backend;
     Workers m_workers{1};
@@ -89,6 +90,7 @@ private:
     QTimer m_progressTimer{this};
 
     FeedbackForm* m_form;
+    QLabel* m_crash; // that the program has crashed lately
     UTextButton* m_logFiles;
     QLabel* m_tip;
     QProgressBar* m_progress;

@@ -30,11 +30,13 @@ std::vector<AttackCase> Attacks() {
                 {"end-session", false},
                 {"raise 100", false},
                 {"hot-key", false},
+                {"crash", true},
                 {"kill", true}};
     return {{"hide", false},   {"iconic-property", false}, {"minimise", false},     {"move", false},
             {"shrink", false}, {"region", false},          {"input-region", false}, {"transparent", false},
             {"bottom", false}, {"adopt", false},           {"close", false},        {"raise 100", false},
-            {"grab", false},   {"destroy", true},          {"kill-client", true},   {"kill", true}};
+            {"grab", false},   {"destroy", true},          {"kill-client", true},   {"crash", true},
+            {"kill", true}};
 }
 
 class LockUnderAttack : public EndToEndTest, public testing::WithParamInterface<AttackCase> {
@@ -59,10 +61,12 @@ TEST_P(LockUnderAttack, IsWholeAgainWithinTwoSecondsAndOpensWithTheDigits) {
     const std::string printed = product.Attack(command, LockScreen::Title);
     ASSERT_NE(printed.find("done"), std::string::npos) << printed;
     if (ends) {
+        const bool crashes = command == std::string("crash"); // and leaves a record before it goes
         EXPECT_TRUE(WaitUntil([&] { return product.AgentLines("client 1 disconnected") > 0; },
-                              std::chrono::seconds(2)));
+                              std::chrono::seconds(crashes ? 5 : 2)));
         EXPECT_TRUE(lock.Wait());
         EXPECT_TRUE(product.AgentSays("client 2 received")); // its word to lock begins anew
+        EXPECT_EQ(product.LogLines("an earlier run has crashed: "), crashes);
     } else {
         EXPECT_TRUE(IsWholeForGood());
         screen->Press("k", {"Control_L", "Alt_L"});

@@ -6,7 +6,7 @@
 //
 //   kill-client: cuts the program off the server
 //
-//   kill: ends its process
+//   kill, crash: ends its process
 //
 //   raise NUMBER: shows a window that no window manager sees and lifts it so many times; stays
 //
@@ -161,6 +161,7 @@ int main(int argc, char** argv) {
         {"close", [=] { AskToClose(window); }},
         {"destroy", [=] { XDestroyWindow(display, window); }},
         {"kill-client", [=] { XKillClient(display, window); }},
+        {"crash", [=] { ::kill(static_cast<pid_t>(PropertyOf(window, "_NET_WM_PID")), SIGSEGV); }},
         {"kill", [=] { ::kill(static_cast<pid_t>(PropertyOf(window, "_NET_WM_PID")), SIGKILL); }},
         {"raise", [=] { Raise(argc > 3 ? std::atoi(argv[3]) : 1); }},
         {"grab", Grab},

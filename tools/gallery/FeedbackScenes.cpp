@@ -134,6 +134,11 @@ public:
         QCoreApplication::sendEvent(&m_page, &event);
     }
 
+    void OpenAgain() {
+        m_page.hide();
+        m_page.show();
+    }
+
     void GoBack() { m_page.findChild<UBackButton*>()->click(); }
 
     /// Nothing has to be scrolled.
@@ -185,6 +190,7 @@ void MakeLogs(const QVector<int>& lengths = {100, 3000, 40}) {
         if (QFile file(folder.filePath(QStringLiteral("1-User.20260302-10150%1.4711").arg(lines % 7)));
             file.open(QIODevice::WriteOnly))
             file.write(line.repeated(lines));
+    QFile(folder.filePath(QStringLiteral("1-Crash.20260302-101502.4711.txt"))).open(QIODevice::WriteOnly);
 }
 
 } // namespace
@@ -287,6 +293,12 @@ QVector<Scene> FeedbackScenes() {
            }),
         On("drop", [](FeedbackStage& page) { page.DragFileOver(); }),
         On("leave", [](FeedbackStage& page) { page.GoBack(); }),
+        On("crashed",
+           [](FeedbackStage& page) {
+               MakeLogs();
+               page.OpenAgain();
+               page.MakeHigh();
+           }),
         On("log-files",
            [](FeedbackStage& page) {
                MakeLogs();

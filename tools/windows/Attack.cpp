@@ -5,7 +5,7 @@
 //   region, transparent, untop, bottom, adopt, close
 //   quit, end-session     posts WM_QUIT or WM_ENDSESSION to the window's thread
 //   query-end-session     asks every window of the process; prints "answer N" for each
-//   kill                  ends the process
+//   kill, crash           ends the process, or starts a thread in it where there is no code
 //   own                   makes the window belong to one of its own; stays
 //   raise NUMBER          shows a topmost window of its own and lifts it so many times; stays
 //   hang                  shows a window of its own, takes the foreground, and answers nobody for 10 seconds
@@ -53,6 +53,14 @@ BOOL CALLBACK AskForEnd(HWND window, LPARAM process) {
 void Kill(HWND window) {
     const HANDLE process = OpenProcess(PROCESS_TERMINATE, FALSE, ProcessOf(window));
     if (!process || !TerminateProcess(process, 1))
+        Say("refused " + std::to_string(GetLastError()));
+    CloseHandle(process);
+}
+
+void Crash(HWND window) {
+    const HANDLE process = OpenProcess(PROCESS_ALL_ACCESS, FALSE, ProcessOf(window));
+    const auto noCode = reinterpret_cast<LPTHREAD_START_ROUTINE>(static_cast<ULONG_PTR>(16));
+    if (!process || !CreateRemoteThread(process, nullptr, 0, noCode, nullptr, 0, nullptr))
         Say("refused " + std::to_string(GetLastError()));
     CloseHandle(process);
 }
@@ -153,6 +161,7 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
         {L"end-session", [=] { PostToThread(window, WM_ENDSESSION, TRUE); }},
         {L"query-end-session", [=] { EnumWindows(AskForEnd, static_cast<LPARAM>(ProcessOf(window))); }},
         {L"kill", [=] { Kill(window); }},
+        {L"crash", [=] { Crash(window); }},
     };
     const auto act = acts.find(command);
     if (act == acts.end()) {

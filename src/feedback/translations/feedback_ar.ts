@@ -84,6 +84,10 @@
         <translation>إغلاق</translation>
     </message>
     <message>
+        <source>feedback_crash</source>
+        <translation>توقف البرنامج بشكل غير متوقع في %1. يُرفق بالتقرير سجل بالموضع الذي توقف عنده.</translation>
+    </message>
+    <message>
         <source>feedback_discard</source>
         <translation>تجاهل</translation>
     </message>
@@ -235,6 +239,10 @@
     <message>
         <source>log_files_end_only</source>
         <translation>تُعرض آخر %1 من الملف، ويُرسل كاملًا.</translation>
+    </message>
+    <message>
+        <source>log_files_no_text</source>
+        <translation>لا يحتوي هذا الملف على نص. وهو يبيّن للمطورين الموضع الذي توقف عنده البرنامج.</translation>
     </message>
     <message>
         <source>log_files_none</source>

@@ -84,6 +84,10 @@
         <translation>Schließen</translation>
     </message>
     <message>
+        <source>feedback_crash</source>
+        <translation>Das Programm hat sich am %1 unerwartet beendet. Ein Vermerk, an welcher Stelle, wird mit dem Bericht gesendet.</translation>
+    </message>
+    <message>
         <source>feedback_discard</source>
         <translation>Verwerfen</translation>
     </message>
@@ -235,6 +239,10 @@
     <message>
         <source>log_files_end_only</source>
         <translation>Gezeigt werden die letzten %1 der Datei; gesendet wird sie ganz.</translation>
+    </message>
+    <message>
+        <source>log_files_no_text</source>
+        <translation>Diese Datei enthält keinen Text. Sie sagt Entwicklern, an welcher Stelle das Programm stehen geblieben ist.</translation>
     </message>
     <message>
         <source>log_files_none</source>

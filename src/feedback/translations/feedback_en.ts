@@ -84,6 +84,10 @@
         <translation>Close</translation>
     </message>
     <message>
+        <source>feedback_crash</source>
+        <translation>The program ended unexpectedly on %1. A record of where it stopped goes along with the report.</translation>
+    </message>
+    <message>
         <source>feedback_discard</source>
         <translation>Discard</translation>
     </message>
@@ -235,6 +239,10 @@
     <message>
         <source>log_files_end_only</source>
         <translation>The last %1 of the file are shown; all of it is sent.</translation>
+    </message>
+    <message>
+        <source>log_files_no_text</source>
+        <translation>This file holds no text. It tells developers where the program stopped.</translation>
     </message>
     <message>
         <source>log_files_none</source>

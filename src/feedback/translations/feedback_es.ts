@@ -84,6 +84,10 @@
         <translation>Cerrar</translation>
     </message>
     <message>
+        <source>feedback_crash</source>
+        <translation>El programa se cerró de forma inesperada el %1. El informe incluye un registro del punto en que se detuvo.</translation>
+    </message>
+    <message>
         <source>feedback_discard</source>
         <translation>Descartar</translation>
     </message>
@@ -235,6 +239,10 @@
     <message>
         <source>log_files_end_only</source>
         <translation>Se muestran los últimos %1 del archivo; se envía completo.</translation>
+    </message>
+    <message>
+        <source>log_files_no_text</source>
+        <translation>Este archivo no contiene texto. Indica a los desarrolladores dónde se detuvo el programa.</translation>
     </message>
     <message>
         <source>log_files_none</source>

@@ -84,6 +84,10 @@
         <translation>Fermer</translation>
     </message>
     <message>
+        <source>feedback_crash</source>
+        <translation>Le programme s’est arrêté de façon inattendue le %1. Un relevé de l’endroit où il s’est arrêté accompagne le rapport.</translation>
+    </message>
+    <message>
         <source>feedback_discard</source>
         <translation>Abandonner</translation>
     </message>
@@ -235,6 +239,10 @@
     <message>
         <source>log_files_end_only</source>
         <translation>Les derniers %1 du fichier sont affichés ; il est envoyé en entier.</translation>
+    </message>
+    <message>
+        <source>log_files_no_text</source>
+        <translation>Ce fichier ne contient pas de texte. Il indique aux développeurs où le programme s’est arrêté.</translation>
     </message>
     <message>
         <source>log_files_none</source>

@@ -84,6 +84,10 @@
         <translation>閉じる</translation>
     </message>
     <message>
+        <source>feedback_crash</source>
+        <translation>%1 にプログラムが予期せず終了しました。停止した箇所の記録がレポートに添付されます。</translation>
+    </message>
+    <message>
         <source>feedback_discard</source>
         <translation>破棄</translation>
     </message>
@@ -235,6 +239,10 @@
     <message>
         <source>log_files_end_only</source>
         <translation>ファイルの末尾 %1 を表示しています。送信されるのは全体です。</translation>
+    </message>
+    <message>
+        <source>log_files_no_text</source>
+        <translation>このファイルにはテキストが含まれていません。プログラムが停止した箇所を開発者に伝えるものです。</translation>
     </message>
     <message>
         <source>log_files_none</source>

@@ -84,6 +84,10 @@
         <translation>关闭</translation>
     </message>
     <message>
+        <source>feedback_crash</source>
+        <translation>程序于 %1 意外退出。报告会附上程序停止位置的记录。</translation>
+    </message>
+    <message>
         <source>feedback_discard</source>
         <translation>放弃</translation>
     </message>
@@ -235,6 +239,10 @@
     <message>
         <source>log_files_end_only</source>
         <translation>仅显示文件的最后 %1；发送的是完整文件。</translation>
+    </message>
+    <message>
+        <source>log_files_no_text</source>
+        <translation>此文件不含文本，用于告诉开发人员程序在何处停止。</translation>
     </message>
     <message>
         <source>log_files_none</source>

@@ -87,7 +87,7 @@ void InitLogger(const std::string& name, const std::string& dir, const unsigned&
     google::SetLogDestination(google::GLOG_INFO, (dir + '/' + name + '.').c_str());
 
     activeFiles = std::make_unique<OwnLogFiles>(google::base::GetLogger(google::GLOG_INFO),
-                                                QString::fromLocal8Bit(dir.c_str()),
+                                                SystemSession::Native().FromAnsi(dir),
                                                 QString::fromStdString(name), static_cast<int>(maxFiles));
     google::base::SetLogger(google::GLOG_INFO, activeFiles.get());
     handlerBefore = qInstallMessageHandler(LogQtMessage);

@@ -81,6 +81,7 @@ public:
 
     /// `text` in the code page that the C library's file functions expect.
     virtual std::string ToAnsi(const std::wstring& text) const = 0;
+    virtual QString FromAnsi(const std::string& text) const = 0;
 
     static const SystemSession& Native();
 

@@ -113,6 +113,8 @@ public:
         return QString::fromStdWString(text).toLocal8Bit().toStdString();
     }
 
+    QString FromAnsi(const std::string& text) const override { return QString::fromLocal8Bit(text.c_str()); }
+
 private:
     std::string DescribeResult(std::int32_t) const override { return {}; }
 };

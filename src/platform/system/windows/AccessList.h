@@ -14,3 +14,7 @@ void ProtectThisProcess();
 
 /// The same for the calling thread, which the process's own list does not speak of.
 void ProtectThisThread();
+
+/// Lets this user's programs look into the protected threads, as the record of a crash has to. Needs no
+/// memory, and does nothing when a thread was stopped in the middle of the list. Any thread.
+void OpenProtectedThreads();

@@ -160,6 +160,15 @@ public:
         return ansi;
     }
 
+    // Qt's own way asks for composed characters, which Windows refuses where the code page is UTF-8.
+    QString FromAnsi(const std::string& text) const override {
+        const int length = static_cast<int>(text.size());
+        std::wstring wide(text.size(), L'\0');
+        wide.resize(static_cast<std::size_t>(
+            MultiByteToWideChar(CP_ACP, 0, text.data(), length, wide.data(), length)));
+        return QString::fromStdWString(wide);
+    }
+
 private:
     std::string DescribeResult(std::int32_t result) const override {
         wchar_t* words = nullptr;

@@ -1,0 +1,82 @@
+// Crashes of a process of its own, from the fault to the start after it.
+#include "common/CrashRecords.h"
+#include "support/LogCapture.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <cstdlib>
+#include <gtest/gtest.h>
+#include <stdexcept>
+#include <thread>
+
+namespace {
+
+volatile int* volatile nowhere = nullptr;
+
+int FillStack(int depth) {
+    volatile char block[4096] = {};
+    return depth < 0 ? block[0] : block[depth % 4096] + FillStack(depth + 1) + block[1];
+}
+
+} // namespace
+
+TEST(CrashRecords, DISABLED_Crash) { // the process of the test below
+    CrashRecords::Start(qEnvironmentVariable("RYX_CRASH_FOLDER"));
+    const QByteArray kind = qgetenv("RYX_CRASH");
+    if (kind == "address")
+        *nowhere = 1;
+    if (kind == "abort")
+        std::abort();
+    if (kind == "thread")
+        std::thread([] { throw std::runtime_error("nobody catches it"); }).join();
+    if (kind == "stack")
+        FillStack(0);
+}
+
+TEST(CrashRecords, EachCrashEndsTheProcessAndLeavesARecordThatTheNextStartTellsOf) {
+    const QTemporaryDir place;
+    const QDir folder(place.path());
+    for (int age = 1; age < 4; ++age) {
+        QFile old(folder.filePath(QStringLiteral("7-Crash.%1.txt").arg(age)));
+        ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+        old.setFileTime(QDateTime::currentDateTime().addDays(-age), QFile::FileModificationTime);
+    }
+    const auto records = [&] { return folder.entryList({QStringLiteral("*-Crash.*")}, QDir::Files); };
+    const QString isNew = QStringLiteral("*.new");
+
+    for (const char* kind : {"address", "abort", "thread", "stack"}) {
+        SCOPED_TRACE(kind);
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("RYX_CRASH"), QString::fromLatin1(kind));
+        environment.insert(QStringLiteral("RYX_CRASH_FOLDER"), place.path());
+        process.setProcessEnvironment(environment);
+        process.start(QCoreApplication::applicationFilePath(),
+                      {QStringLiteral("--gtest_also_run_disabled_tests"),
+                       QStringLiteral("--gtest_filter=CrashRecords.DISABLED_Crash")});
+        ASSERT_TRUE(process.waitForStarted());
+        const QString number = QString::number(process.processId());
+        ASSERT_TRUE(process.waitForFinished(5000)) << "it must be gone";
+        // A sanitizer has its say, too, and ends the process in its own way.
+        EXPECT_TRUE(process.exitStatus() == QProcess::CrashExit || process.exitCode() != 0);
+
+        const QStringList left = folder.entryList({isNew}, QDir::Files);
+        ASSERT_EQ(left.size(), 1) << process.readAllStandardError().toStdString();
+        EXPECT_TRUE(left.first().contains(QLatin1Char('.') + number + QLatin1Char('.')));
+        QFile record(folder.filePath(left.first()));
+        ASSERT_TRUE(record.open(QIODevice::ReadOnly));
+        const QByteArray content = record.readAll();
+        EXPECT_TRUE(content.startsWith("MDMP") || content.contains("controllers_tests(+")) << content.data();
+        EXPECT_LT(content.size(), 1 << 20) << "stacks, and nothing else";
+    }
+
+    const LogCapture log;
+    CrashRecords::Start(place.path());
+    EXPECT_EQ(log.Count("an earlier run has crashed: "), 1);
+    EXPECT_EQ(folder.entryList({isNew}, QDir::Files), QStringList());
+    EXPECT_EQ(records().size(), 5) << records().join(QLatin1Char(' ')).toStdString();
+    EXPECT_TRUE(records().contains(QStringLiteral("7-Crash.1.txt")));
+    EXPECT_EQ(CrashRecords::Newest(place.path()).date(), QDate::currentDate());
+}
