@@ -25,7 +25,7 @@ MAY_INCLUDE = {
     "platform/web": ["platform", "platform/context", "platform/files", "platform/security", "platform/system", "entity"],
     "platform/application": ["platform/context", "platform/link", "platform/system", "entity"],
     "platform/system/windows": ["platform", "platform/system"],
-    "platform/system/unix": ["platform/system"],
+    "platform/system/unix": ["platform", "platform/system"],
     "platform/system/x11": ["platform/system", "platform/system/unix"],
     "widgets": ["platform/application", "platform/context", "platform/system", "platform/web"],
     "common": ["platform/context", "platform/system"],
