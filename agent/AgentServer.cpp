@@ -1,13 +1,11 @@
 #include "AgentServer.h"
 
 #include "KeyText.h"
-#include "platform/system/SystemPipe.h"
 
 #include <QLocalSocket>
 
 namespace {
 
-constexpr int ConnectTimeoutMs = 1000;
 constexpr int FlushTimeoutMs = 1000;
 constexpr std::size_t ShownBodySize = 400;
 
@@ -30,21 +28,12 @@ std::string OneLine(const std::string& body) {
     return line;
 }
 
-bool IsServed(const QString& localName) {
-    QLocalSocket probe;
-    probe.connectToServer(localName);
-    return probe.waitForConnected(ConnectTimeoutMs);
-}
-
 } // namespace
 
-AgentServer::AgentServer(EventLog& log) : m_log(log) {
-    // Queued: on Windows a quick client is there before listen() has returned.
-    connect(&m_server, &QLocalServer::newConnection, this, &AgentServer::Accept, Qt::QueuedConnection);
-}
+AgentServer::AgentServer(EventLog& log) : m_log(log) {}
 
 AgentServer::~AgentServer() {
-    m_server.close();
+    m_listener.reset();
     for (auto& [number, client] : m_clients) {
         client.socket->disconnect(this);
         if (client.socket->bytesToWrite() > 0)
@@ -53,35 +42,34 @@ AgentServer::~AgentServer() {
 }
 
 QString AgentServer::Listen(const QString& pipeName) {
-    const QString localName = SystemPipe::Native().LocalName(pipeName);
-    if (IsServed(localName))
-        return tr("another process serves it");
-    QLocalServer::removeServer(localName);
-    // The service runs with system rights, its front ends as the users.
-    m_server.setSocketOptions(QLocalServer::WorldAccessOption);
-    if (!m_server.listen(localName))
-        return m_server.errorString();
-    m_log.Line("listening on " + pipeName.toStdString());
-    return {};
+    QString problem;
+    m_listener = SystemService::Native().Listen(
+        pipeName, [this](qintptr descriptor) { Accept(descriptor); }, problem);
+    if (m_listener)
+        m_log.Line("listening on " + pipeName.toStdString());
+    return problem;
 }
 
-void AgentServer::Accept() {
-    while (QLocalSocket* socket = m_server.nextPendingConnection()) {
-        const int number = ++m_lastClient;
-        m_clients[number].socket = socket;
-        connect(socket, &QLocalSocket::readyRead, this, [this, number] { Read(number); });
-        connect(socket, &QLocalSocket::disconnected, this, [this, number, socket] {
-            Read(number); // what arrived with the end
-            socket->deleteLater();
-            if (m_clients.erase(number) == 0)
-                return;
-            Tell(number, "disconnected");
-            emit ClientGone(number);
-        });
-        Tell(number, "connected");
-        emit ClientConnected(number);
-        Read(number);
+void AgentServer::Accept(qintptr descriptor) {
+    auto* socket = new QLocalSocket(this);
+    if (!socket->setSocketDescriptor(descriptor) || socket->state() != QLocalSocket::ConnectedState) {
+        delete socket;
+        return;
     }
+    const int number = ++m_lastClient;
+    m_clients[number].socket = socket;
+    connect(socket, &QLocalSocket::readyRead, this, [this, number] { Read(number); });
+    connect(socket, &QLocalSocket::disconnected, this, [this, number, socket] {
+        Read(number); // what arrived with the end
+        socket->deleteLater();
+        if (m_clients.erase(number) == 0)
+            return;
+        Tell(number, "disconnected");
+        emit ClientGone(number);
+    });
+    Tell(number, "connected");
+    emit ClientConnected(number);
+    Read(number);
 }
 
 void AgentServer::Read(int client) {

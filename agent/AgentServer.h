@@ -2,11 +2,12 @@
 
 #include "EventLog.h"
 #include "platform/link/RyxPackage.h"
+#include "platform/system/SystemService.h"
 
-#include <QLocalServer>
 #include <QObject>
 #include <QString>
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -25,8 +26,8 @@ public:
     explicit AgentServer(EventLog& log);
     ~AgentServer() override;
 
-    /// Serves the pipe, for every account of the machine. What a dead service left of it is removed; a
-    /// pipe that another process serves is not touched. Returns what went wrong, or an empty text.
+    /// Serves the pipe, for the people of this machine. What a dead service left of it is removed; a pipe
+    /// that another process serves is not touched. Returns what went wrong, or an empty text.
     QString Listen(const QString& pipeName);
 
     /// Each writes to every client, or only to `client`.
@@ -53,13 +54,13 @@ private:
         FrameDecoder decoder;
     };
 
-    void Accept();
+    void Accept(qintptr descriptor);
     void Read(int client);
     void Write(int client, const std::string& bytes);
     void Tell(int client, const std::string& what) const;
 
     EventLog& m_log;
-    QLocalServer m_server;
+    std::unique_ptr<SystemService::Listener> m_listener;
     std::map<int, Client> m_clients;
     int m_lastClient = 0;
     bool m_showBodies = false;

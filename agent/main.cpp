@@ -1,15 +1,19 @@
-// ryx-agent: stands in for the agent service, for people who try the front end and for its tests.
+// ryx-agent: stands in for the agent service, as a service of the system or for people who try the front end.
 #include "AgentEnrolment.h"
 #include "CommandInterpreter.h"
 #include "ConsoleInput.h"
+#include "LaunchedProgram.h"
+#include "SessionFrontEnds.h"
 #include "Supervisor.h"
 #include "WebService.h"
 #include "platform/ProductConstants.h"
+#include "platform/system/SystemService.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTimer>
 #include <atomic>
 #include <csignal>
@@ -35,6 +39,17 @@ void QuitAtSignals(QTimer& poll) {
     poll.start(SignalPollMs);
 }
 
+/// `act`, to be called on any thread.
+std::function<void()> OnMainThread(const std::function<void()>& act) {
+    return [act] { QMetaObject::invokeMethod(qApp, act, Qt::QueuedConnection); };
+}
+
+QString FrontEndBesideThis() {
+    const QFileInfo own(QCoreApplication::applicationFilePath());
+    return own.dir().filePath(
+        own.fileName().replace(QLatin1String("ryx-agent"), QLatin1String("velmora-ryx")));
+}
+
 int Run(QCoreApplication& application) {
     QCommandLineParser options;
     const QCommandLineOption pipe(QStringLiteral("pipe"), QStringLiteral("Serve the pipe NAME."),
@@ -50,6 +65,14 @@ int Run(QCoreApplication& application) {
         QStringLiteral("Start the front end PROGRAM with the arguments behind \"--\", and "
                        "again whenever it ends; end it at the end."),
         QStringLiteral("PROGRAM"));
+    const QCommandLineOption asService(
+        QStringLiteral("service"),
+        QStringLiteral(
+            "Run as a service of the system: without a console, and on Windows with the front end of "
+            "--launch, or the one beside this program, in each user's session."));
+    const QCommandLineOption logFile(QStringLiteral("log"),
+                                     QStringLiteral("Write into FILE, anew, and not to standard output."),
+                                     QStringLiteral("FILE"));
     const QCommandLineOption web(
         QStringLiteral("web"),
         QStringLiteral(
@@ -61,22 +84,34 @@ int Run(QCoreApplication& application) {
     options.setApplicationDescription(QStringLiteral(
         "Stand-in for the agent service. Without a scenario it takes commands from standard input."));
     const QCommandLineOption help = options.addHelpOption();
-    options.addOptions({pipe, scenario, console, launch, web, webFolder});
+    options.addOptions({pipe, scenario, console, launch, asService, logFile, web, webFolder});
     options.addPositionalArgument(QStringLiteral("ARGUMENT"), QStringLiteral("Passed to PROGRAM."),
                                   QStringLiteral("[-- ARGUMENT...]"));
-    EventLog log(std::cout);
+    EventLog output(std::cout);
     if (!options.parse(application.arguments()) ||
-        (!options.positionalArguments().isEmpty() && !options.isSet(launch))) {
-        const QString reason = options.errorText().isEmpty()
-                                   ? QStringLiteral("arguments are for --launch alone")
-                                   : options.errorText();
-        log.Line("error: " + reason.toStdString() + " (--help tells the options)");
+        (!options.positionalArguments().isEmpty() && !options.isSet(launch)) ||
+        (options.isSet(console) && options.isSet(asService))) {
+        const QString reason =
+            options.errorText().isEmpty()
+                ? QStringLiteral("arguments are for --launch alone, and a service has no console")
+                : options.errorText();
+        output.Line("error: " + reason.toStdString() + " (--help tells the options)");
         return BadUsage;
     }
     if (options.isSet(help)) {
-        log.Line(options.helpText().toStdString());
+        output.Line(options.helpText().toStdString());
         return AllMet;
     }
+    std::ofstream lines;
+    if (options.isSet(logFile)) {
+        lines.open(QFile::encodeName(options.value(logFile)).toStdString());
+        if (!lines) {
+            output.Line("error: cannot write " + options.value(logFile).toStdString());
+            return BadUsage;
+        }
+    }
+    EventLog log(options.isSet(logFile) ? static_cast<std::ostream&>(lines) : std::cout);
+
     AgentServer server(log);
     AgentService service(server);
     std::optional<WebService> webService;
@@ -104,6 +139,19 @@ int Run(QCoreApplication& application) {
         if (!interpreter.AddScenario(file, path))
             return BadUsage;
     }
+    const SystemService& system = SystemService::Native();
+    const bool isService = options.isSet(asService);
+    std::optional<SessionFrontEnds> frontEnds;
+    if (isService) {
+        const QString problem = system.BeginService({OnMainThread(&QCoreApplication::quit), OnMainThread([&] {
+                                                         if (frontEnds)
+                                                             frontEnds->Update();
+                                                     })});
+        if (!problem.isEmpty()) {
+            log.Line("error: this cannot run as a service: " + problem.toStdString());
+            return NotServing;
+        }
+    }
     if (const QString problem = server.Listen(options.value(pipe)); !problem.isEmpty()) {
         log.Line("error: cannot serve " + options.value(pipe).toStdString() + ": " + problem.toStdString());
         return NotServing;
@@ -122,27 +170,37 @@ int Run(QCoreApplication& application) {
         input.Start();
     };
 
-    if (!hasScenario) {
-        openConsole();
-    } else {
+    if (hasScenario) {
         const auto afterScenario = std::make_shared<QMetaObject::Connection>();
         *afterScenario = QObject::connect(&interpreter, &CommandInterpreter::Idle, [&, afterScenario] {
             QObject::disconnect(*afterScenario);
             log.Line(interpreter.AllMet() ? "scenario passed" : "scenario failed");
             if (options.isSet(console))
                 openConsole();
-            else
+            else if (!isService)
                 quit();
         });
         QMetaObject::invokeMethod(&interpreter, &CommandInterpreter::Play, Qt::QueuedConnection);
+    } else if (!isService) {
+        openConsole();
     }
 
     std::optional<Supervisor> supervisor;
     QTimer signalPoll;
-    if (options.isSet(launch)) {
+    const auto isUrgent = [&service] { return service.HoldsLock(); };
+    if (isService) {
+        const QString program = options.isSet(launch) ? options.value(launch) : FrontEndBesideThis();
+        const QStringList arguments = options.positionalArguments();
+        frontEnds.emplace(system, program,
+                          arguments.isEmpty() ? QStringList(QStringLiteral("-hide")) : arguments, log,
+                          isUrgent);
+        frontEnds->Update();
+        system.TellRunning();
+    } else if (options.isSet(launch)) {
         QuitAtSignals(signalPoll);
-        supervisor.emplace(options.value(launch), options.positionalArguments(), log,
-                           [&service] { return service.HoldsLock(); });
+        supervisor.emplace(
+            std::make_unique<LaunchedProgram>(options.value(launch), options.positionalArguments()),
+            "front end", log, isUrgent);
         supervisor->Start();
     }
     return QCoreApplication::exec();
@@ -157,6 +215,7 @@ int main(int argc, char** argv) {
     std::cin.tie(nullptr); // reading runs on a thread of its own and must not flush what this one writes
     QCoreApplication application(argc, argv);
     const int result = Run(application);
+    SystemService::Native().EndService(result);
     if (endingSignal) { // for whoever started the agent service, it ends by this signal
         std::signal(endingSignal, SIG_DFL);
         std::raise(endingSignal);

@@ -123,6 +123,7 @@ double Throughput(Client& client, const std::string& body, int count, int window
 /// The service: sends back every byte.
 int Echo(const QString& name) {
     QLocalServer server;
+    server.setSocketOptions(QLocalServer::UserAccessOption); // Wine knows no owner of a pipe without any
     QObject::connect(&server, &QLocalServer::newConnection, [&server] {
         QLocalSocket* socket = server.nextPendingConnection();
         QObject::connect(socket, &QLocalSocket::readyRead, [socket] {

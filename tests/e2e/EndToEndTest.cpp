@@ -399,7 +399,7 @@ TEST_F(EndToEndTest, AnImpostorIsRefusedAndToldNothing) {
 
     EXPECT_TRUE(product.AgentSays("client 3 connected")); // it keeps trying
     EXPECT_EQ(product.AgentLines("received"), 0);
-    EXPECT_EQ(product.LogLines("is served by"), 1);
+    EXPECT_EQ(product.LogLines("PipeConnection::Accepts refused"), 1);
     EXPECT_TRUE(screen->WaitForWindow(MainPage::Title));
     EXPECT_FALSE(mainPage.ShowsStatus(MainPage::Connected));
 }

@@ -4,6 +4,7 @@
 #include "platform/link/PipeClientService.h"
 #include "platform/link/PipeEventWatcher.h"
 #include "platform/link/PipeReceiveEvent.h"
+#include "platform/link/PipeTrust.h"
 #include "support/FakeService.h"
 #include "support/LogCapture.h"
 
@@ -267,8 +268,15 @@ TEST_F(PipeLink, AServiceThatStopsReadingIsNotFedForEver) {
 
 TEST(PipeServerCheck, AnImpostorGetsNoByte) {
     struct Impostor : SystemPipe {
-        QString LocalName(const QString& name) const override { return Native().LocalName(name); }
-        PipePeer Server(qintptr) const override { return {QStringLiteral("mallory"), false}; }
+        qintptr Open(const QString& name, const Accepts& accepts) const override {
+            return Native().Open(name, [&](PipePeer server) {
+                server.owner = QStringLiteral("mallory");
+                return accepts(server);
+            });
+        }
+        QString AccountId(const QString& account) const override { return Native().AccountId(account); }
+        QStringList SystemAccounts() const override { return Native().SystemAccounts(); }
+        QStringList OwnAccounts() const override { return Native().OwnAccounts(); }
         QString CurrentAccount() const override { return Native().CurrentAccount(); }
     } impostor;
     LogCapture log;
@@ -283,14 +291,35 @@ TEST(PipeServerCheck, AnImpostorGetsNoByte) {
     EXPECT_FALSE(link.Send(PipeKey::ContextRequest));
     EXPECT_TRUE(controller.changes.empty());
     EXPECT_EQ(service.ReceivedBytes(), 0u);
-    EXPECT_EQ(log.Count("it is served by mallory"), 1);
+    EXPECT_EQ(log.Count(": it belongs to mallory; trusted: "), 1);
 }
 
-TEST(PipeServerCheck, SystemAndConfiguredAccountsAreAccepted) {
-    const PipeServer configured{QString(), QStringLiteral("LAB\\agent")};
-    EXPECT_TRUE(configured.Accepts({QStringLiteral("lab\\Agent"), false}));
-    EXPECT_TRUE(configured.Accepts({QString(), true}));
-    EXPECT_FALSE(configured.Accepts({QStringLiteral("agent"), false}));
-    EXPECT_FALSE(configured.Accepts({QString(), false}));
-    EXPECT_FALSE(PipeServer().Accepts({QString(), false}));
+TEST(PipeServerCheck, TheOwnerDecidesAndTheProcessMustAgree) {
+    const QStringList trusted{QStringLiteral("system"), QStringLiteral("administrators"),
+                              QStringLiteral("agent")};
+    constexpr const char* Hidden = nullptr; // whose process the caller may not look into
+    const struct {
+        const char* owner;
+        const char* accounts;
+        bool inSystemSession;
+        const char* refusal;
+    } cases[] = {
+        {"system", Hidden, true, ""},
+        {"administrators", Hidden, true, ""},
+        {"administrators", "alice administrators", false, ""},
+        {"agent", "agent", false, ""},
+        {"administrators", "agent", true, ""}, // a child with fewer rights
+        {"", Hidden, true, "nobody knows whom it belongs to"},
+        {"mallory", Hidden, true, "it belongs to mallory"},
+        {"mallory", "system", true, "it belongs to mallory"}, // whose process has a number used again
+        {"system", "mallory users", false, "its process runs as mallory, users"}, // serves beside the service
+        {"system", Hidden, false, "its process hides its account, in the session of a user"},
+        {"agent", "mallory", true, "its process runs as mallory"},
+    };
+    for (const auto& row : cases) {
+        PipePeer server{1, QLatin1String(row.owner), row.inSystemSession, std::nullopt};
+        if (row.accounts)
+            server.accounts = QString::fromLatin1(row.accounts).split(QLatin1Char(' '));
+        EXPECT_EQ(PipeTrust::Refusal(server, trusted), QLatin1String(row.refusal)) << row.owner;
+    }
 }

@@ -5,11 +5,11 @@
 #include "platform/system/SystemPipe.h"
 #include "platform/system/SystemProcesses.h"
 #include "platform/system/SystemPrograms.h"
+#include "platform/system/SystemService.h"
 #include "platform/system/SystemSession.h"
 #include "platform/system/SystemWindows.h"
 
 #include <QDir>
-#include <QLocalServer>
 #include <QLocalSocket>
 #include <QProcess>
 #include <QSharedMemory>
@@ -19,18 +19,43 @@
 #include <gtest/gtest.h>
 #include <memory>
 
-TEST(SystemContract, PipeServerIsThisAccount) {
+TEST(SystemContract, APipeTellsWhoServesItBeforeAByteGoesEitherWay) {
     const SystemPipe& system = SystemPipe::Native();
-    QLocalServer server;
-    ASSERT_TRUE(server.listen(system.LocalName(QStringLiteral("\\\\.\\pipe\\ryx-contract"))));
-    QLocalSocket client;
-    client.connectToServer(system.LocalName(QStringLiteral("\\\\.\\pipe\\ryx-contract")));
-    ASSERT_TRUE(client.waitForConnected());
+    const QString name = QStringLiteral("\\\\.\\pipe\\ryx-contract");
+    EXPECT_EQ(system.Open(name, [](const PipePeer&) { return true; }), -1) << "nobody serves it";
+    std::vector<std::unique_ptr<QLocalSocket>> clients;
+    QString problem;
+    const auto listener = SystemService::Native().Listen(
+        name,
+        [&](qintptr client) {
+            clients.push_back(std::make_unique<QLocalSocket>());
+            clients.back()->setSocketDescriptor(client);
+        },
+        problem);
+    ASSERT_TRUE(listener) << problem.toStdString();
 
-    EXPECT_FALSE(system.CurrentAccount().isEmpty());
-    EXPECT_EQ(system.Server(client.socketDescriptor()).account, system.CurrentAccount());
-    EXPECT_TRUE(system.Server(-1).account.isEmpty());
-    EXPECT_FALSE(system.Server(-1).isSystem);
+    EXPECT_EQ(system.Open(name, [](const PipePeer&) { return false; }), -1);
+    PipePeer server;
+    QLocalSocket client;
+    ASSERT_TRUE(QTest::qWaitFor([&] { // the server makes room for the next one
+        const qintptr pipe = system.Open(name, [&](const PipePeer& peer) {
+            server = peer;
+            return true;
+        });
+        return pipe != -1 && client.setSocketDescriptor(pipe);
+    }));
+    EXPECT_EQ(server.process, QCoreApplication::applicationPid());
+    EXPECT_TRUE(system.OwnAccounts().contains(server.owner)) << server.owner.toStdString();
+    EXPECT_EQ(server.accounts, system.OwnAccounts());
+    client.write("question");
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return clients.size() == 2 && clients.back()->bytesAvailable() == 8; }));
+    clients.back()->write("answer");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return client.bytesAvailable() == 6; }));
+
+    EXPECT_EQ(system.AccountId(system.CurrentAccount()), system.OwnAccounts().value(0));
+    EXPECT_EQ(system.AccountId(server.owner), server.owner);
+    EXPECT_EQ(system.AccountId(QStringLiteral("no-such-account")), QString());
 }
 
 TEST(SystemContract, SharedMemoryKeyIsUsableAndOrphansGo) {

@@ -7,6 +7,7 @@
 
 FakeService::FakeService() {
     static int count = 0;
+    m_server.setSocketOptions(QLocalServer::UserAccessOption); // Wine knows no owner of a pipe without any
     m_server.listen(QStringLiteral("ryx-test-%1-%2").arg(QCoreApplication::applicationPid()).arg(++count));
     connect(&m_server, &QLocalServer::newConnection, this, [this] {
         m_socket = m_server.nextPendingConnection();

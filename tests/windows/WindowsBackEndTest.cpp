@@ -1,15 +1,20 @@
 // What only Windows has to do: the calls whose effect another program can see.
+#include "platform/link/PipeTrust.h"
 #include "platform/system/SystemInput.h"
+#include "platform/system/SystemPipe.h"
+#include "platform/system/SystemService.h"
 #include "platform/system/SystemSession.h"
 #include "platform/system/SystemWindows.h"
-#include "platform/system/windows/ProcessAccount.h"
+#include "platform/system/windows/AccessList.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QTemporaryDir>
 #include <QTemporaryFile>
 #include <QWidget>
 #include <QtTest>
 #include <gtest/gtest.h>
+#include <map>
 #include <thread>
 #include <vector>
 
@@ -24,17 +29,16 @@ LONG ExtendedStyle(const QWidget& window) {
     return GetWindowLongW(reinterpret_cast<HWND>(window.winId()), GWL_EXSTYLE);
 }
 
-/// The process that the service `name` runs in; 0 when it does not run.
-DWORD ProcessOfService(const wchar_t* name) {
-    const SC_HANDLE manager = OpenSCManagerW(nullptr, nullptr, SC_MANAGER_CONNECT);
-    const SC_HANDLE service = OpenServiceW(manager, name, SERVICE_QUERY_STATUS);
-    SERVICE_STATUS_PROCESS status{};
-    DWORD size = 0;
-    QueryServiceStatusEx(service, SC_STATUS_PROCESS_INFO, reinterpret_cast<BYTE*>(&status), sizeof status,
-                         &size);
-    CloseServiceHandle(service);
-    CloseServiceHandle(manager);
-    return status.dwProcessId;
+/// A token of this user without the rights of an administrator.
+HANDLE TokenWithoutAdministrators() {
+    BYTE administrators[SECURITY_MAX_SID_SIZE];
+    DWORD size = sizeof administrators;
+    CreateWellKnownSid(WinBuiltinAdministratorsSid, nullptr, administrators, &size);
+    SID_AND_ATTRIBUTES disabled{administrators, 0};
+    HANDLE own = nullptr, restricted = nullptr;
+    OpenProcessToken(GetCurrentProcess(), TOKEN_ALL_ACCESS, &own);
+    CreateRestrictedToken(own, DISABLE_MAX_PRIVILEGE, 1, &disabled, 0, nullptr, 0, nullptr, &restricted);
+    return restricted;
 }
 
 /// Runs `act` on a thread that has not met COM yet.
@@ -167,15 +171,7 @@ TEST(WindowsSession, AProtectedProcessIsClosedToItsUsersOtherPrograms) {
     constexpr DWORD closed[] = {PROCESS_TERMINATE,  PROCESS_VM_WRITE,      PROCESS_VM_READ,
                                 PROCESS_DUP_HANDLE, PROCESS_CREATE_THREAD, PROCESS_SUSPEND_RESUME};
     SystemSession::Native().ProtectProcess();
-    BYTE administrators[SECURITY_MAX_SID_SIZE];
-    DWORD size = sizeof administrators;
-    ASSERT_TRUE(CreateWellKnownSid(WinBuiltinAdministratorsSid, nullptr, administrators, &size));
-    SID_AND_ATTRIBUTES disabled{administrators, 0};
-    HANDLE own = nullptr, restricted = nullptr;
-    ASSERT_TRUE(OpenProcessToken(GetCurrentProcess(), TOKEN_ALL_ACCESS, &own));
-    ASSERT_TRUE(
-        CreateRestrictedToken(own, DISABLE_MAX_PRIVILEGE, 1, &disabled, 0, nullptr, 0, nullptr, &restricted));
-    ASSERT_TRUE(ImpersonateLoggedOnUser(restricted));
+    ASSERT_TRUE(ImpersonateLoggedOnUser(TokenWithoutAdministrators()));
     for (const DWORD right : closed)
         EXPECT_FALSE(OpenProcess(right, FALSE, GetCurrentProcessId())) << right;
     EXPECT_FALSE(OpenThread(THREAD_TERMINATE, FALSE, GetCurrentThreadId()));
@@ -184,21 +180,119 @@ TEST(WindowsSession, AProtectedProcessIsClosedToItsUsersOtherPrograms) {
     RevertToSelf();
 }
 
-TEST(WindowsPipe, AccountOfAProcess) {
-    wchar_t user[256];
-    DWORD size = 256;
-    ASSERT_TRUE(GetUserNameW(user, &size));
-    const PipePeer own = AccountOfToken(GetCurrentProcessId());
-    EXPECT_EQ(own.account.section(QLatin1Char('\\'), -1), QString::fromWCharArray(user));
-    EXPECT_FALSE(own.isSystem);
-    EXPECT_TRUE(AccountOfToken(0).account.isEmpty());
-    EXPECT_TRUE(AccountOfService(GetCurrentProcessId()).account.isEmpty());
+TEST(WindowsPipe, ItsOwnerIsToldWhoeverItIs) {
+    for (const wchar_t* owner : {L"S-1-5-18", L"S-1-5-32-544", L"S-1-5-21-1-2-3-1001"}) {
+        const auto access = MakeAccessList((std::wstring(L"O:") + owner + L"D:(A;;FA;;;WD)").c_str());
+        ASSERT_TRUE(access);
+        SECURITY_ATTRIBUTES security{sizeof security, access.get(), FALSE};
+        const HANDLE pipe =
+            CreateNamedPipeW(L"\\\\.\\pipe\\ryx-owner", PIPE_ACCESS_DUPLEX, 0, 1, 0, 0, 0, &security);
+        ASSERT_NE(pipe, INVALID_HANDLE_VALUE) << GetLastError();
+        QString told;
+        SystemPipe::Native().Open(QStringLiteral("ryx-owner"), [&told](const PipePeer& server) {
+            told = server.owner;
+            return false;
+        });
+        EXPECT_EQ(told, QString::fromWCharArray(owner));
+        CloseHandle(pipe);
+    }
 }
 
-TEST(WindowsPipe, AccountOfAServiceIsKnownWithoutItsToken) {
-    const DWORD process = ProcessOfService(L"PlugPlay");
-    ASSERT_NE(process, 0u);
-    const PipePeer peer = AccountOfService(process);
-    EXPECT_EQ(peer.account, QStringLiteral("LocalSystem"));
-    EXPECT_TRUE(peer.isSystem);
+// The system's own answer from the pipe's access list.
+TEST(WindowsPipe, ItsUsersMayReadAndWriteItAndNotServeItBesides) {
+    QString problem;
+    const auto listener = SystemService::Native().Listen(
+        QStringLiteral("ryx-access"), [](qintptr) {}, problem);
+    ASSERT_TRUE(listener) << problem.toStdString();
+    const qintptr pipe =
+        SystemPipe::Native().Open(QStringLiteral("ryx-access"), [](const PipePeer&) { return true; });
+    PSECURITY_DESCRIPTOR access = nullptr;
+    ASSERT_EQ(
+        GetSecurityInfo(reinterpret_cast<HANDLE>(pipe), SE_KERNEL_OBJECT,
+                        OWNER_SECURITY_INFORMATION | GROUP_SECURITY_INFORMATION | DACL_SECURITY_INFORMATION,
+                        nullptr, nullptr, nullptr, nullptr, &access),
+        DWORD{ERROR_SUCCESS});
+    HANDLE user = nullptr;
+    ASSERT_TRUE(DuplicateToken(TokenWithoutAdministrators(), SecurityIdentification, &user));
+    for (const auto& [right, allowed] : std::map<DWORD, bool>{{FILE_GENERIC_READ, true},
+                                                              {FILE_WRITE_DATA, true},
+                                                              {FILE_WRITE_ATTRIBUTES, true},
+                                                              {FILE_CREATE_PIPE_INSTANCE, false},
+                                                              {FILE_GENERIC_WRITE, false}}) {
+        GENERIC_MAPPING mapping{FILE_GENERIC_READ, FILE_GENERIC_WRITE, FILE_GENERIC_EXECUTE, FILE_ALL_ACCESS};
+        PRIVILEGE_SET privileges{};
+        DWORD size = sizeof privileges, granted = 0;
+        BOOL mayDoIt = FALSE;
+        EXPECT_TRUE(AccessCheck(access, user, right, &mapping, &privileges, &size, &granted, &mayDoIt))
+            << GetLastError();
+        EXPECT_EQ(mayDoIt != FALSE, allowed) << std::hex << right;
+    }
+    LocalFree(access);
+    CloseHandle(reinterpret_cast<HANDLE>(pipe));
+}
+
+TEST(WindowsService, AProgramInASessionGetsAnEnvironmentOfItsOwn) {
+    const QTemporaryDir folder;
+    const QString lines = QDir::toNativeSeparators(folder.filePath(QStringLiteral("a b.txt")));
+    qputenv("QT_PLUGIN_PATH", "C:\\mine");
+    int code = -1;
+    QString problem;
+    const auto program = SystemService::Native().StartInSession(
+        WTSGetActiveConsoleSessionId(), QStringLiteral("C:/windows/system32/cmd.exe"),
+        {QStringLiteral("/c"), QStringLiteral("set>"), lines, QStringLiteral("&exit"), QStringLiteral("5")},
+        [&code](quint32 exitCode) { code = static_cast<int>(exitCode); }, problem);
+    ASSERT_TRUE(program) << problem.toStdString();
+    EXPECT_TRUE(QTest::qWaitFor([&code] { return code == 5; })) << code;
+    QFile file(lines);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray environment = file.readAll();
+    EXPECT_TRUE(environment.contains("\nPATH=") && environment.contains("\nUSERPROFILE="))
+        << environment.data();
+    EXPECT_FALSE(environment.contains("QT_PLUGIN_PATH"));
+}
+
+TEST(WindowsService, TheSystemStartsTheAgentAndEndsIt) {
+    // Wine's services do not get the path to libraries; by the way, the server of the pipe is the child of
+    // one.
+    const QTemporaryDir folder;
+    QFile batch(QDir::toNativeSeparators(folder.filePath(QStringLiteral("service.bat"))));
+    ASSERT_TRUE(batch.open(QIODevice::WriteOnly));
+    batch.write("@set PATH=" + qgetenv("PATH") + "\r\n@\"" +
+                QCoreApplication::applicationDirPath().toLocal8Bit() +
+                "/ryx-agent.exe\" --service --pipe ryx-service-test\r\n");
+    batch.close();
+    const std::wstring command = L"cmd.exe /c " + batch.fileName().toStdWString();
+    const SC_HANDLE manager = OpenSCManagerW(nullptr, nullptr, SC_MANAGER_ALL_ACCESS);
+    const SC_HANDLE service =
+        CreateServiceW(manager, L"ryx-service-test", nullptr, SERVICE_ALL_ACCESS, SERVICE_WIN32_OWN_PROCESS,
+                       SERVICE_DEMAND_START, SERVICE_ERROR_NORMAL, command.c_str(), nullptr, nullptr, nullptr,
+                       nullptr, nullptr);
+    ASSERT_TRUE(service) << GetLastError();
+    SERVICE_STATUS_PROCESS status{};
+    const auto becomes = [&](DWORD state) {
+        return QTest::qWaitFor(
+            [&] {
+                DWORD size = 0;
+                QueryServiceStatusEx(service, SC_STATUS_PROCESS_INFO, reinterpret_cast<BYTE*>(&status),
+                                     sizeof status, &size);
+                return status.dwCurrentState == state;
+            },
+            20000);
+    };
+    EXPECT_TRUE(StartServiceW(service, 0, nullptr)) << GetLastError();
+    EXPECT_TRUE(becomes(SERVICE_RUNNING)) << status.dwCurrentState << ' ' << status.dwWin32ExitCode;
+    PipePeer server;
+    SystemPipe::Native().Open(QStringLiteral("ryx-service-test"), [&server](const PipePeer& peer) {
+        server = peer;
+        return false;
+    });
+    EXPECT_NE(server.process, 0u);
+    EXPECT_EQ(PipeTrust::Refusal(server, SystemPipe::Native().OwnAccounts()), QString());
+    SERVICE_STATUS control{};
+    EXPECT_TRUE(ControlService(service, SERVICE_CONTROL_STOP, &control));
+    EXPECT_TRUE(becomes(SERVICE_STOPPED));
+    EXPECT_EQ(status.dwWin32ExitCode, 0u);
+    DeleteService(service);
+    CloseServiceHandle(service);
+    CloseServiceHandle(manager);
 }

@@ -310,6 +310,7 @@ Stage::~Stage() {
 
 void Stage::ConnectLink() {
     m_service = std::make_unique<QLocalServer>();
+    m_service->setSocketOptions(QLocalServer::UserAccessOption); // Wine knows no owner of a pipe without any
     m_service->listen(QStringLiteral("ryx-scene-%1").arg(QCoreApplication::applicationPid()));
     PipeClientService& link = *PipeClientService::Instance();
     link.SetServer({m_service->serverName(), SystemPipe::Native().CurrentAccount()});

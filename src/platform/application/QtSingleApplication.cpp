@@ -1,7 +1,9 @@
 #include "platform/application/QtSingleApplication.h"
 
+#include "platform/link/PipeTrust.h"
 #include "platform/system/SystemPipe.h"
 #include "platform/system/SystemSession.h"
+#include "platform/system/SystemWindows.h"
 
 #include <QDataStream>
 #include <QDeadlineTimer>
@@ -14,7 +16,6 @@
 namespace {
 
 constexpr char Acknowledgement = '\x06';
-constexpr int AnswerTimeoutMs = 1000;
 constexpr int MaxMessageBytes = 1024 * 1024;
 
 } // namespace
@@ -68,8 +69,18 @@ bool QtSingleApplication::IsAnotherRunning() {
 
 bool QtSingleApplication::Answers() const {
     QLocalSocket socket;
-    socket.connectToServer(m_serverName);
-    return socket.waitForConnected(AnswerTimeoutMs);
+    return Connect(socket);
+}
+
+bool QtSingleApplication::Connect(QLocalSocket& socket) const {
+    const SystemPipe& system = SystemPipe::Native();
+    const qintptr pipe = system.Open(m_serverName, [&system](const PipePeer& server) {
+        if (!PipeTrust::Refusal(server, system.OwnAccounts()).isEmpty())
+            return false;
+        SystemWindows::Native().GiveForegroundTo(server.process);
+        return true;
+    });
+    return pipe != -1 && socket.setSocketDescriptor(pipe);
 }
 
 void QtSingleApplication::Listen() {
@@ -88,8 +99,7 @@ bool QtSingleApplication::sendMessage(const QString& message, int timeoutMs) {
     const auto left = [&deadline] { return static_cast<int>(deadline.remainingTime()); };
 
     QLocalSocket socket;
-    socket.connectToServer(m_serverName);
-    if (!socket.waitForConnected(left()))
+    if (!Connect(socket))
         return false;
     // One block, seen off: a named pipe has one write under way at a time, and waiting to read starts none.
     QByteArray block;

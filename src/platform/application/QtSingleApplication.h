@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <memory>
 
+class QLocalSocket;
 class QWidget;
 
 /// An application of which one instance runs per user session; later ones can send it a text and end.
@@ -26,7 +27,8 @@ public:
     /// happens; empty when nothing did.
     const QString& StartProblem() const { return m_startProblem; }
 
-    /// Sends `message` to the running instance; false when it did not take it within `timeoutMs`.
+    /// Sends `message` to the running instance; false when it is another account's or did not take it within
+    /// `timeoutMs`.
     bool sendMessage(const QString& message, int timeoutMs);
 
     /// The window that stands for the application; with `activateOnMessage` it comes to the front, if it
@@ -40,6 +42,8 @@ signals:
 private:
     bool IsAnotherRunning();
     bool Answers() const;
+    /// Connects to the running instance, if it is this account's own, and lets it come to the foreground.
+    bool Connect(QLocalSocket& socket) const;
     void Listen();
     void Accept();
 

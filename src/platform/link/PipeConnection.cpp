@@ -1,5 +1,6 @@
 #include "platform/link/PipeConnection.h"
 
+#include "platform/link/PipeTrust.h"
 #include "platform/security/LogText.h"
 #include "platform/system/SystemPipe.h"
 
@@ -14,17 +15,12 @@ constexpr int CloseTimeoutMs = 200;
 
 } // namespace
 
-bool PipeServer::Accepts(const PipePeer& peer) const {
-    return peer.isSystem || (!account.isEmpty() && peer.account.compare(account, Qt::CaseInsensitive) == 0);
-}
-
 PipeConnection::PipeConnection(PipeExchange& exchange, PipeServer server, const SystemPipe& system)
     : m_exchange(exchange), m_server(std::move(server)), m_system(system) {
     // With a bounded buffer the socket itself stops reading while the GUI thread is behind.
     m_socket.setReadBufferSize(ReadBufferSize);
     m_retry.setSingleShot(true);
     connect(&m_retry, &QTimer::timeout, this, &PipeConnection::Open);
-    connect(&m_socket, &QLocalSocket::connected, this, &PipeConnection::OnConnected);
     connect(&m_socket, &QLocalSocket::readyRead, this, &PipeConnection::ReadFrames);
     connect(&m_socket, &QLocalSocket::bytesWritten, this,
             [this] { m_exchange.SetUnwritten(static_cast<std::size_t>(m_socket.bytesToWrite())); });
@@ -35,8 +31,11 @@ PipeConnection::PipeConnection(PipeExchange& exchange, PipeServer server, const 
 }
 
 void PipeConnection::Open() {
-    m_socket.connectToServer(m_system.LocalName(m_server.name));
-    if (m_socket.state() == QLocalSocket::UnconnectedState)
+    const qintptr pipe =
+        m_system.Open(m_server.name, [this](const PipePeer& server) { return Accepts(server); });
+    if (pipe != -1 && m_socket.setSocketDescriptor(pipe))
+        OnConnected();
+    else
         Retry();
 }
 
@@ -50,17 +49,21 @@ void PipeConnection::Close() {
     m_socket.abort();
 }
 
+bool PipeConnection::Accepts(const PipePeer& server) {
+    if (m_accountId.isEmpty() && !m_server.account.isEmpty())
+        m_accountId = m_system.AccountId(m_server.account);
+    QStringList trusted = m_system.SystemAccounts();
+    if (!m_accountId.isEmpty())
+        trusted.append(m_accountId);
+    const QString refusal = PipeTrust::Refusal(server, trusted);
+    if (std::exchange(m_refused, refusal) != refusal && !refusal.isEmpty())
+        LOG(WARNING) << "PipeConnection::Accepts refused " << LogText(m_server.name) << ", which process "
+                     << server.process << " serves: " << LogText(refusal)
+                     << "; trusted: " << LogText(trusted.join(QStringLiteral(", ")));
+    return refusal.isEmpty();
+}
+
 void PipeConnection::OnConnected() {
-    const PipePeer peer = m_system.Server(m_socket.socketDescriptor());
-    if (!m_server.Accepts(peer)) {
-        const QString account = peer.account.isEmpty() ? QStringLiteral("an unknown account") : peer.account;
-        if (std::exchange(m_refused, account) != account)
-            LOG(WARNING) << "PipeConnection::OnConnected refused " << m_server.name.toStdString()
-                         << ": it is served by " << LogText(account);
-        m_socket.abort();
-        return;
-    }
-    m_refused.clear();
     m_backoff.Reset();
     m_decoder.Reset();
     m_waiting = false;

@@ -13,9 +13,7 @@ struct PipePeer;
 /// Where the link connects to, and whom it accepts there.
 struct PipeServer {
     QString name;    ///< pipe name in the product's form
-    QString account; ///< account that may serve the pipe beside the local system account; may be empty
-
-    bool Accepts(const PipePeer& peer) const;
+    QString account; ///< name or id of the account that may serve it beside the system's; may be empty
 };
 
 /// The link's half on the I/O thread: connects, checks who serves, reads frames, writes packets,
@@ -38,6 +36,8 @@ signals:
     void EventsReady();
 
 private:
+    /// Whether the link talks to this server; logs when it does not.
+    bool Accepts(const PipePeer& server);
     void OnConnected();
     void OnDropped();
     void Retry();
@@ -55,6 +55,7 @@ private:
     QTimer m_retry{this};
     ReconnectBackoff m_backoff;
     FrameDecoder m_decoder;
+    QString m_accountId; // of m_server.account, once it is known
     QString m_refused;
     bool m_up = false;
     bool m_waiting = false; // for the GUI thread to catch up

@@ -32,6 +32,9 @@ public:
     /// Once the application object is there: its windows may take the foreground from other programs.
     virtual void AllowTakingForeground() const = 0;
 
+    /// The windows of that process may take the foreground as this one's may.
+    virtual void GiveForegroundTo(quint32 /*process*/) const {}
+
     /// Makes the native window of a program that starts unseen: it receives messages, and shows up neither
     /// on screen nor on the task bar.
     virtual void CreateHidden(QWidget& window) const = 0;

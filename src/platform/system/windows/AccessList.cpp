@@ -9,10 +9,6 @@
 
 namespace {
 
-// Everything for the system and the administrators. Everyone else may wait for the object's end and ask for
-// its state, and the owner, who could else write another list, may read this one.
-constexpr wchar_t ProcessAccess[] = L"D:P(A;;0x1FFFFF;;;SY)(A;;0x1FFFFF;;;BA)(A;;0x101000;;;WD)(A;;RC;;;OW)";
-constexpr wchar_t ThreadAccess[] = L"D:P(A;;0x1FFFFF;;;SY)(A;;0x1FFFFF;;;BA)(A;;0x100800;;;WD)(A;;RC;;;OW)";
 constexpr wchar_t OpenThreadAccess[] = L"D:P(A;;0x1FFFFF;;;SY)(A;;0x1FFFFF;;;BA)(A;;0x1FFFFF;;;OW)";
 
 /// The protected threads, by handles that have the rights which nobody gets any more.

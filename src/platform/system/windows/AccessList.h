@@ -4,6 +4,11 @@
 
 #include <windows.h>
 
+// Everything for the system and the administrators. Everyone else may wait for the object's end and ask for
+// its state, and the owner, who could else write another list, may read this one.
+constexpr wchar_t ProcessAccess[] = L"D:P(A;;0x1FFFFF;;;SY)(A;;0x1FFFFF;;;BA)(A;;0x101000;;;WD)(A;;RC;;;OW)";
+constexpr wchar_t ThreadAccess[] = L"D:P(A;;0x1FFFFF;;;SY)(A;;0x1FFFFF;;;BA)(A;;0x100800;;;WD)(A;;RC;;;OW)";
+
 /// A security descriptor with the access list that `text` (in SDDL) describes; null, with the system's last
 /// error, when it cannot be made. Any thread.
 std::unique_ptr<void, decltype(&LocalFree)> MakeAccessList(const wchar_t* text);

@@ -76,6 +76,8 @@ public:
         QWindowsWindowFunctions::setWindowActivationBehavior(QWindowsWindowFunctions::AlwaysActivateWindow);
     }
 
+    void GiveForegroundTo(quint32 process) const override { AllowSetForegroundWindow(process); }
+
     void CreateHidden(QWidget& window) const override {
         const HWND handle = Handle(window.winId());
         const LONG style = GetWindowLongW(handle, GWL_EXSTYLE);
