@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QString>
+#include <functional>
 #include <stdexcept>
 #include <string>
 
@@ -64,6 +65,11 @@ public:
     /// Whether the session ends, and not only something that says so. `wasAskedToSave`: the session manager
     /// has asked this program for its state, which is all there is to go by where the system cannot tell.
     virtual bool IsEnding(bool wasAskedToSave) const = 0;
+
+    /// Calls `quit` from the event loop when an administrator's installer asks this process to end, as long
+    /// as `context` lives. Nobody asks where the system lets an installer replace files that are in use. GUI
+    /// thread.
+    virtual void OnQuitRequested(QObject& context, const std::function<void()>& quit) const = 0;
 
     /// The same text from one start of the system to the next, and never again; empty when it cannot be told.
     virtual std::string BootId() const = 0;

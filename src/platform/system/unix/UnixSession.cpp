@@ -58,6 +58,8 @@ public:
 
     bool IsEnding(bool wasAskedToSave) const override { return wasAskedToSave; }
 
+    void OnQuitRequested(QObject&, const std::function<void()>&) const override {}
+
     std::string BootId() const override {
         std::string id;
         std::ifstream file("/proc/sys/kernel/random/boot_id");
