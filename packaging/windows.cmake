@@ -1,4 +1,4 @@
-# What makes the built programs a Windows product: version resource, icon, manifest, installer.
+# What makes the built programs a Windows product: version resource, icon, manifest, what is installed.
 
 option(RYX_UI_ACCESS "Let the lock stand above the shell's windows; needs a signature and Program Files" OFF)
 
@@ -37,6 +37,7 @@ ryx_windows_resources(velmora-ryx "${RYX_PRODUCT_NAME}")
 ryx_windows_resources(ryx_user "${RYX_PRODUCT_NAME} user session")
 ryx_windows_resources(ryx-capture "${RYX_PRODUCT_NAME} window picture")
 ryx_windows_resources(ryx-agent "${RYX_PRODUCT_NAME} stand-in agent")
+ryx_windows_resources(ryx-setup "${RYX_PRODUCT_NAME} setup")
 
 # The packages hold the front end and all that it needs; the stand-in agent is no part of the product.
 install(TARGETS velmora-ryx ryx-capture ryx_user RUNTIME DESTINATION .)
@@ -44,33 +45,5 @@ install(FILES "${folder}/qt.conf" DESTINATION .)
 
 if(DEFINED RYX_WINDOWS_SDK)
     include("${CMAKE_CURRENT_LIST_DIR}/windows-libraries.cmake")
+    configure_file("${folder}/parts.json.in" "${CMAKE_BINARY_DIR}/parts.json" @ONLY)
 endif()
-
-set(CPACK_GENERATOR ZIP NSIS)
-set(CPACK_PACKAGE_NAME "velmora-ryx")
-set(CPACK_PACKAGE_VENDOR "${RYX_VENDOR}")
-set(CPACK_PACKAGE_VERSION "${PROJECT_VERSION}")
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${RYX_PRODUCT_NAME}")
-set(CPACK_PACKAGE_FILE_NAME "velmora-ryx-${PROJECT_VERSION}-windows-x64")
-set(CPACK_PACKAGE_INSTALL_DIRECTORY "${RYX_PRODUCT_NAME}")
-set(CPACK_PACKAGE_INSTALL_REGISTRY_KEY "${RYX_PRODUCT_NAME}")
-set(CPACK_PACKAGE_EXECUTABLES "velmora-ryx;${RYX_PRODUCT_NAME}")
-set(CPACK_RESOURCE_FILE_LICENSE "${CMAKE_SOURCE_DIR}/LICENSE")
-set(CPACK_PACKAGE_CHECKSUM SHA256)
-set(CPACK_STRIP_FILES ON)
-set(CPACK_ARCHIVE_COMPONENT_INSTALL OFF)
-
-set(CPACK_NSIS_PACKAGE_NAME "${RYX_PRODUCT_NAME}")
-set(CPACK_NSIS_DISPLAY_NAME "${RYX_PRODUCT_NAME}")
-set(CPACK_NSIS_INSTALL_ROOT "$PROGRAMFILES64")
-set(CPACK_NSIS_EXECUTABLES_DIRECTORY ".")
-set(CPACK_NSIS_INSTALLED_ICON_NAME "velmora-ryx.exe")
-set(CPACK_NSIS_MUI_ICON "${icon}")
-set(CPACK_NSIS_MUI_UNIICON "${icon}")
-set(CPACK_NSIS_ENABLE_UNINSTALL_BEFORE_INSTALL ON)
-set(CPACK_NSIS_MANIFEST_DPI_AWARE ON)
-set(CPACK_NSIS_COMPRESSOR "/SOLID lzma")
-# An installer that is a 64-bit program itself, as everything in it.
-set(CPACK_NSIS_EXECUTABLE_PRE_ARGUMENTS "-XTarget\\ amd64-unicode")
-set(CPACK_VERBATIM_VARIABLES ON)
-include(CPack)

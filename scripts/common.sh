@@ -40,6 +40,12 @@ BUILD_PACKAGES=(g++ cmake ninja-build ccache pkg-config qtbase5-dev libqt5svg5-d
     libglib2.0-dev libxcb1-dev libxcb-composite0-dev libxcb-screensaver0-dev libxcb-shape0-dev libxcb-randr0-dev libxcb-res0-dev)
 TEST_PACKAGES=(git python3 libgtest-dev libgmock-dev libbenchmark-dev libx11-dev libxext-dev libxtst-dev libice-dev libsm-dev)
 DESKTOP_PACKAGES=(xvfb openbox gsettings-desktop-schemas fonts-noto-core fonts-noto-cjk)
+# What packaging/windows-libraries.cmake takes licences and translations from, and what makes the packages.
+LICENCE_PACKAGES=(libqt5core5a libqt5svg5 qttranslations5-l10n libjsoncpp25 libgoogle-glog0v6 libzip4 zlib1g
+    gcc-mingw-w64-x86-64-posix-runtime mingw-w64-x86-64-dev)
+WINDOWS_PACKAGE_PACKAGES=(cmake ninja-build ccache python3 nsis wixl msitools "${LICENCE_PACKAGES[@]}")
+WINDOWS_PACKAGE_TEST_PACKAGES=(icoutils openssl osslsigncode unzip)
+LINUX_PACKAGE_PACKAGES=(dpkg-dev procps python3)
 
 # build PRESET [TARGET...]: configures and builds a preset, both cores busy.
 build() {

@@ -64,17 +64,24 @@ std::wstring CrashDatabasePath() {
     return (QDir(QDir::tempPath()).absolutePath() + QStringLiteral("/sentry-ryx-user")).toStdWString();
 }
 
-/// Knows whether the user session is ending. Told to end then, the program does so, whatever its windows say.
-class SessionEnd : public QObject {
+/// Knows whether the program is to end although the screen is locked: the user session ends, or an
+/// administrator's installer asks for it. Told to quit then, the program does so, whatever its windows say.
+class RightfulEnd : public QObject {
 public:
-    explicit SessionEnd(QGuiApplication& application) {
+    explicit RightfulEnd(QGuiApplication& application) {
         connect(&application, &QGuiApplication::commitDataRequest, this, [this] { m_askedToSave.start(); });
         application.installEventFilter(this);
+        SystemSession::Native().OnQuitRequested(*this, [this] {
+            LOG(INFO) << "UserApp::Run ends, as an installer asks";
+            m_isRequested = true;
+            QCoreApplication::exit();
+        });
     }
 
     // A request to save counts for a while only: the end that it announced may have been called off.
     bool IsNear() const {
-        return SystemSession::Native().IsEnding(m_askedToSave.isValid() && !m_askedToSave.hasExpired(EndMs));
+        return m_isRequested ||
+               SystemSession::Native().IsEnding(m_askedToSave.isValid() && !m_askedToSave.hasExpired(EndMs));
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
@@ -86,15 +93,16 @@ public:
 private:
     static constexpr int EndMs = 60000;
     QElapsedTimer m_askedToSave;
+    bool m_isRequested = false;
 };
 
-/// Runs the event loop until the session ends, or whatever else ends it while the screen is not locked: a
+/// Runs the event loop until it is to end, or whatever else ends it while the screen is not locked: a
 /// message that any program may send is no way past the lock.
 int Execute(QApplication& application, const UDeviceScreenLock& screenLock) {
-    const SessionEnd sessionEnd(application);
+    const RightfulEnd end(application);
     for (;;) {
         const int result = QApplication::exec();
-        if (!screenLock.isVisible() || sessionEnd.IsNear())
+        if (!screenLock.isVisible() || end.IsNear())
             return result;
         LOG_FIRST_N(WARNING, 10)
             << "UserApp::Execute goes on: the screen is locked, and the session does not end";

@@ -1,4 +1,5 @@
 // What only Windows has to do: the calls whose effect another program can see.
+#include "platform/ProductConstants.h"
 #include "platform/link/PipeTrust.h"
 #include "platform/system/SystemInput.h"
 #include "platform/system/SystemPipe.h"
@@ -171,13 +172,21 @@ TEST(WindowsSession, AProtectedProcessIsClosedToItsUsersOtherPrograms) {
     constexpr DWORD closed[] = {PROCESS_TERMINATE,  PROCESS_VM_WRITE,      PROCESS_VM_READ,
                                 PROCESS_DUP_HANDLE, PROCESS_CREATE_THREAD, PROCESS_SUSPEND_RESUME};
     SystemSession::Native().ProtectProcess();
+    bool isAsked = false;
+    QObject context;
+    SystemSession::Native().OnQuitRequested(context, [&isAsked] { isAsked = true; });
+    const std::string quit = Product::QuitEvent + std::to_string(GetCurrentProcessId());
     ASSERT_TRUE(ImpersonateLoggedOnUser(TokenWithoutAdministrators()));
     for (const DWORD right : closed)
         EXPECT_FALSE(OpenProcess(right, FALSE, GetCurrentProcessId())) << right;
     EXPECT_FALSE(OpenThread(THREAD_TERMINATE, FALSE, GetCurrentThreadId()));
     EXPECT_FALSE(OpenThread(THREAD_SUSPEND_RESUME, FALSE, GetCurrentThreadId()));
     EXPECT_TRUE(OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, GetCurrentProcessId()));
+    EXPECT_FALSE(OpenEventA(EVENT_MODIFY_STATE, FALSE, quit.c_str()));
+    EXPECT_FALSE(OpenEventA(WRITE_DAC, FALSE, quit.c_str()));
     RevertToSelf();
+    EXPECT_TRUE(SetEvent(OpenEventA(EVENT_MODIFY_STATE, FALSE, quit.c_str())));
+    EXPECT_TRUE(QTest::qWaitFor([&isAsked] { return isAsked; }));
 }
 
 TEST(WindowsPipe, ItsOwnerIsToldWhoeverItIs) {

@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QString>
+#include <functional>
 #include <stdexcept>
 #include <string>
 
@@ -68,6 +69,11 @@ public:
     /// Where the system ends programs with signals (SIGTERM, SIGINT, SIGHUP): lets them quit the application
     /// as any other request does, so that nothing is left behind. Main thread, after the application's start.
     virtual void QuitOnSignals() const = 0;
+
+    /// Calls `quit` from the event loop when an administrator's installer asks this process to end, as long
+    /// as `context` lives. Nobody asks where the system lets an installer replace files that are in use. GUI
+    /// thread.
+    virtual void OnQuitRequested(QObject& context, const std::function<void()>& quit) const = 0;
 
     /// The same text from one start of the system to the next, and never again; empty when it cannot be told.
     virtual std::string BootId() const = 0;

@@ -96,6 +96,8 @@ public:
         }
     }
 
+    void OnQuitRequested(QObject&, const std::function<void()>&) const override {}
+
     std::string BootId() const override {
         std::string id;
         std::ifstream file("/proc/sys/kernel/random/boot_id");

@@ -5,6 +5,7 @@
 #include <windows.h>
 
 #include <QDir>
+#include <QWinEventNotifier>
 #include <fcntl.h>
 #include <glog/logging.h>
 #include <io.h>
@@ -18,6 +19,10 @@ namespace {
 
 /// An access list: everything for the system, the administrators and the file's owner, nothing inherited.
 constexpr wchar_t SystemAdministratorsOwner[] = L"D:P(A;;FA;;;SY)(A;;FA;;;BA)(A;;FA;;;OW)";
+
+/// An access list of an event: the system and the administrators may set it. Its owner, who could else write
+/// another list, may read this one.
+constexpr wchar_t SystemAdministratorsSet[] = L"D:P(A;;0x1F0003;;;SY)(A;;0x1F0003;;;BA)(A;;RC;;;OW)";
 
 /// The product's folder in one of the system's, such as "C:\ProgramData\Velmora RYX", with the separators
 /// that Qt uses. `variable` names the system's folder, too.
@@ -129,6 +134,27 @@ public:
     bool IsEnding(bool) const override { return GetSystemMetrics(SM_SHUTTINGDOWN) != 0; }
 
     void QuitOnSignals() const override {}
+
+    // An event of its own for each process: nobody else can make it first and hold it for all.
+    void OnQuitRequested(QObject& context, const std::function<void()>& quit) const override {
+        const auto list = MakeAccessList(SystemAdministratorsSet);
+        SECURITY_ATTRIBUTES attributes{sizeof attributes, list.get(), FALSE};
+        const std::string name = Product::QuitEvent + std::to_string(GetCurrentProcessId());
+        const HANDLE event = list ? CreateEventA(&attributes, TRUE, FALSE, name.c_str()) : nullptr;
+        const DWORD error = GetLastError();
+        if (!event || error == ERROR_ALREADY_EXISTS) {
+            LOG(WARNING) << "WindowsSession::OnQuitRequested has no event of its own: error " << error;
+            if (event)
+                CloseHandle(event);
+            return;
+        }
+        auto* notifier = new QWinEventNotifier(event, &context);
+        QObject::connect(notifier, &QWinEventNotifier::activated, &context, [notifier, quit] {
+            notifier->setEnabled(false); // the event stays set
+            quit();
+        });
+        QObject::connect(notifier, &QObject::destroyed, [event] { CloseHandle(event); });
+    }
 
     std::string BootId() const override {
         // Linked against, its library would take functions of the C library's name from the real one.

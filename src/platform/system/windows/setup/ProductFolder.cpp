@@ -1,0 +1,118 @@
+#include "platform/system/windows/setup/ProductFolder.h"
+
+#include "platform/system/windows/setup/ProductInstances.h"
+
+#include <algorithm>
+#include <chrono>
+#include <iostream>
+#include <utility>
+#include <vector>
+
+#include <windows.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A front end that is asked to end has this long; it needs less, unless it hangs.
+constexpr std::chrono::seconds Grace(5);
+constexpr std::chrono::seconds Limit(20);
+constexpr DWORD LookMs = 100;
+
+/// Whether no program runs the file, has it loaded or holds it open.
+bool IsFree(const fs::path& file) {
+    const HANDLE handle = CreateFileW(file.c_str(), GENERIC_READ | GENERIC_WRITE | DELETE, 0, nullptr,
+                                      OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    return handle != INVALID_HANDLE_VALUE && CloseHandle(handle);
+}
+
+/// What the folder holds, with `last` at the end.
+std::vector<fs::path> EntriesOf(const fs::path& folder, const fs::path& last) {
+    std::vector<fs::path> entries;
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder))
+        entries.push_back(entry.path());
+    std::stable_partition(entries.begin(), entries.end(),
+                          [&last](const fs::path& entry) { return entry.filename() != last; });
+    return entries;
+}
+
+} // namespace
+
+ProductFolder::ProductFolder(fs::path folder)
+    : m_folder(std::move(folder)),
+      m_program(m_folder / L"velmora-ryx.exe"),
+      m_aside(m_folder / L"velmora-ryx.exe.ended") {}
+
+bool ProductFolder::Free() {
+    if (!fs::exists(m_folder))
+        return true;
+    using Clock = std::chrono::steady_clock;
+    for (const Clock::time_point start = Clock::now();; Sleep(LookMs)) {
+        const bool isAside = PutAside();
+        const std::vector<unsigned long> instances = InstancesIn(m_folder);
+        if (isAside && instances.empty() && AreFilesFree())
+            return true;
+        const Clock::duration waited = Clock::now() - start;
+        if (waited > Limit)
+            break;
+        std::for_each(instances.begin(), instances.end(), waited > Grace ? &Terminate : &AskToEnd);
+    }
+    std::cout << "in use: " << m_busy.u8string() << '\n';
+    Restore();
+    return false;
+}
+
+bool ProductFolder::PutAside() const {
+    std::error_code error;
+    if (fs::exists(m_program, error))
+        fs::rename(m_program, m_aside, error);
+    return !error;
+}
+
+void ProductFolder::Restore() {
+    std::error_code error; // nothing was put aside
+    if (!fs::exists(m_program, error))
+        fs::rename(m_aside, m_program, error);
+}
+
+bool ProductFolder::AreFilesFree() {
+    try {
+        for (const fs::directory_entry& entry : fs::recursive_directory_iterator(m_folder)) {
+            m_busy = entry.path();
+            if (entry.is_regular_file() && m_busy.filename() != Uninstaller && !IsFree(m_busy))
+                return false;
+        }
+        return true;
+    } catch (const fs::filesystem_error&) { // somebody is just changing the folder
+        return false;
+    }
+}
+
+bool ProductFolder::Replace(const fs::path& with) {
+    const fs::path old = fs::path(m_folder) += L".old";
+    std::vector<std::pair<fs::path, fs::path>> moves;
+    const auto move = [&](const fs::path& from, const fs::path& to) {
+        fs::create_directory(to);
+        for (const fs::path& entry : EntriesOf(from, m_program.filename())) {
+            fs::rename(entry, to / entry.filename());
+            moves.emplace_back(entry, to / entry.filename());
+        }
+    };
+    std::error_code ignored; // what is left of the old ones hinders nobody, and goes the next time
+    bool isReplaced = true;
+    try {
+        fs::remove_all(old);
+        if (fs::exists(m_folder))
+            move(m_folder, old);
+        move(with, m_folder);
+        fs::remove(with, ignored);
+    } catch (const fs::filesystem_error& error) {
+        std::cout << error.what() << '\n';
+        std::for_each(moves.rbegin(), moves.rend(),
+                      [&ignored](const auto& done) { fs::rename(done.second, done.first, ignored); });
+        Restore();
+        isReplaced = false;
+    }
+    fs::remove_all(old, ignored);
+    return isReplaced;
+}
