@@ -80,7 +80,7 @@ std::vector<std::string> AppConfigData::Load(const std::string& path, const std:
     const auto read = [&](const char* key, auto& field) {
         const Json::Value& value = (*root)[key];
         if (!value.isNull() && !Read(value, field))
-            notes.push_back("ignores \"" + std::string(key) + "\" in " + path + ": wrong type");
+            notes.push_back(std::string("ignores \"").append(key) + "\" in " + path + ": wrong type");
     };
     std::string ignored;
     const auto readTrusted = [&](const char* key, auto& field) {
