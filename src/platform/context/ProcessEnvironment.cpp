@@ -16,8 +16,8 @@ constexpr QLatin1String InputMethod("QT_IM_MODULE");
 
 /// The folder of plug-ins that a package brings along; where it uses the system's Qt there is none.
 QString OwnPlugins() {
-    const QString program =
-        SystemProcesses::Native().GetProcessFilePath(static_cast<quint32>(QCoreApplication::applicationPid()));
+    const QString program = SystemProcesses::Native().GetProcessFilePath(
+        static_cast<quint32>(QCoreApplication::applicationPid()));
     return QFileInfo(QDir::fromNativeSeparators(program)).path() + QStringLiteral("/plugins");
 }
 
