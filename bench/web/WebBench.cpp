@@ -4,6 +4,7 @@
 #include "feedback/AttachmentStrip.h"
 #include "feedback/UFeedback.h"
 #include "platform/context/AppConfigData.h"
+#include "platform/context/AppContextData.h"
 #include "platform/files/ZipUtility.h"
 #include "platform/web/RyxWebClient.h"
 #include "support/PairedRun.h"
@@ -163,6 +164,7 @@ void MeasurePauses(const QTemporaryDir& folder) {
     AppConfigData::Instance()->logFolder = folder.filePath(QStringLiteral("logs")).toStdString();
     AppConfigData::Instance()->dataFolder = folder.filePath(QStringLiteral("data")).toStdString();
 
+    AppContextData::Instance()->SetContextText("the device under test");
     UFeedback page;
     page.resize(1200, 800);
     page.show();

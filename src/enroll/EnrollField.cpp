@@ -46,7 +46,8 @@ QString EnrollField::Text() const {
 }
 
 void EnrollField::SetText(const QString& text) {
-    m_edit->setText(text);
+    if (text != Text())
+        m_edit->setText(text);
     m_edit->setCursorPosition(0);
 }
 
@@ -68,6 +69,8 @@ void EnrollField::SetError(const QString& error) {
 }
 
 void EnrollField::MarkError(bool error) {
+    if (property("error") == error)
+        return;
     Theme::SetProperty(this, "error", error);
     for (QLineEdit* edit : Edits()) { // the rule is for the lines in the frame
         edit->style()->unpolish(edit);

@@ -31,11 +31,15 @@ UBodyEnrollTagAdd::UBodyEnrollTagAdd(QWidget* parent)
 }
 
 void UBodyEnrollTagAdd::SetEnable(bool enable) {
+    if (enable == isEnabled())
+        return;
     setEnabled(enable);
     UpdateLook();
 }
 
 void UBodyEnrollTagAdd::SetError(bool error) {
+    if (error == m_error)
+        return;
     m_error = error;
     UpdateLook();
 }

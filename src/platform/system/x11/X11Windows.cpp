@@ -98,6 +98,9 @@ public:
         const X11Connection* x11 = X11Connection::Get();
         if (!x11)
             return;
+        // Qt raises a tool window whenever it shows one, over a lock, too, and by requests of its own. What
+        // bypasses the window manager is on no task bar, whatever its type.
+        window.setWindowFlags((window.windowFlags() & ~Qt::WindowType_Mask) | Qt::Window);
         const std::uint32_t pixel = background.rgb() & RGB_MASK;
         xcb_change_window_attributes(x11->Server(), Id(window.winId()), XCB_CW_BACK_PIXEL, &pixel);
         xcb_flush(x11->Server());
