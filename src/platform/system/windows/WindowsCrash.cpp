@@ -78,16 +78,22 @@ void WriteDump(HANDLE process, const void* factsThere, const wchar_t* path) {
     MINIDUMP_EXCEPTION_INFORMATION facts{};
     if (!ReadProcessMemory(process, factsThere, &facts, sizeof facts, nullptr))
         return;
-    const HANDLE file = CreateFileW(path, GENERIC_READ | GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+    const HANDLE file = CreateFileW(path, GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_NEW,
                                     FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file == INVALID_HANDLE_VALUE)
         return;
     SystemSession::Native().KeepPrivate(QString::fromWCharArray(path));
+    // Not linked against, because the front end would load it at every start.
+    const HMODULE library = LoadLibraryExW(L"dbghelp.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+    const auto function = [library](const char* name) {
+        return reinterpret_cast<void*>(GetProcAddress(library, name));
+    };
+    // A record has no symbols; where the library wants them all the same, it takes seconds.
+    if (const auto setOptions = reinterpret_cast<decltype(&SymSetOptions)>(function("SymSetOptions")))
+        setOptions(SYMOPT_DEFERRED_LOADS);
     // The stacks without what is no address: digits that somebody has typed may lie there.
     const auto type = static_cast<MINIDUMP_TYPE>(MiniDumpNormal | MiniDumpFilterMemory);
-    // Not linked against, because the front end would load it at every start.
-    const auto write = reinterpret_cast<decltype(&MiniDumpWriteDump)>(reinterpret_cast<void*>(GetProcAddress(
-        LoadLibraryExW(L"dbghelp.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32), "MiniDumpWriteDump")));
+    const auto write = reinterpret_cast<decltype(&MiniDumpWriteDump)>(function("MiniDumpWriteDump"));
     const bool written = write && write(process, GetProcessId(process), file, type, &facts, nullptr, nullptr);
     CloseHandle(file);
     if (!written)
