@@ -161,7 +161,7 @@ int UserApp::Run(int argc, char** argv) {
         LOG(INFO) << "UserApp::Run application is already running!";
         return 0;
     }
-    const SentryGuard sentry(std::string("VelmoraRYX@User@") + Product::Version, CrashDatabasePath());
+    const SentryGuard sentry(std::string("VelmoraRYX@User@").append(Product::Version), CrashDatabasePath());
     CrashRecords::Start(QString::fromStdWString(RyxPath::GetRyxLogDir()));
     QGuiApplication::setQuitOnLastWindowClosed(false);
 
