@@ -10,6 +10,7 @@ namespace {
 
 constexpr DWORD BufferSize = 64 * 1024;
 constexpr int RetryMs = 1000;
+constexpr int WaitingInstances = 4;
 
 // It belongs to the account that serves it. Everything for the system, the administrators and the owner;
 // reading and writing data for who is logged on, which is GENERIC_READ, FILE_WRITE_DATA and
@@ -19,7 +20,7 @@ constexpr char PipeAccess[] =
 
 } // namespace
 
-PipeListener::PipeListener(const QString& pipeName, const std::function<void(qintptr)>& connected)
+PipeInstance::PipeInstance(const QString& pipeName, const std::function<void(qintptr)>& connected)
     : m_name(PipeName(pipeName)),
       m_connected(connected),
       m_event(CreateEventW(nullptr, TRUE, FALSE, nullptr)),
@@ -29,14 +30,14 @@ PipeListener::PipeListener(const QString& pipeName, const std::function<void(qin
     QObject::connect(&m_retry, &QTimer::timeout, &m_retry, [this] { Offer(0); });
 }
 
-PipeListener::~PipeListener() {
+PipeInstance::~PipeInstance() {
     m_notifier.setEnabled(false);
     DWORD bytes = 0;
     if (m_waiting && CancelIo(m_waiting.get())) // the system writes into m_overlapped until then
         GetOverlappedResult(m_waiting.get(), &m_overlapped, &bytes, TRUE);
 }
 
-DWORD PipeListener::Offer(DWORD flags) {
+DWORD PipeInstance::Offer(DWORD flags) {
     const QString owner = AccountsOfProcess(GetCurrentProcessId()).value_or(QStringList()).value(0);
     const auto access = MakeAccessList(QString::fromLatin1(PipeAccess).arg(owner).toStdWString().c_str());
     SECURITY_ATTRIBUTES security{sizeof security, access.get(), FALSE};
@@ -48,7 +49,7 @@ DWORD PipeListener::Offer(DWORD flags) {
             : INVALID_HANDLE_VALUE;
     if (pipe == INVALID_HANDLE_VALUE) {
         const DWORD error = GetLastError();
-        LOG(ERROR) << "PipeListener::Offer error " << error;
+        LOG(ERROR) << "PipeInstance::Offer error " << error;
         if (flags == 0)
             m_retry.start(RetryMs);
         return error;
@@ -62,11 +63,23 @@ DWORD PipeListener::Offer(DWORD flags) {
     return ERROR_SUCCESS;
 }
 
-void PipeListener::Take() {
+void PipeInstance::Take() {
     ResetEvent(m_event.get());
     const HANDLE client = m_waiting.release();
     if (!client)
         return;
     Offer(0);
     m_connected(reinterpret_cast<qintptr>(client));
+}
+
+PipeListener::PipeListener(const QString& pipeName, const std::function<void(qintptr)>& connected) {
+    for (int i = 0; i < WaitingInstances; ++i)
+        m_instances.push_back(std::make_unique<PipeInstance>(pipeName, connected));
+}
+
+DWORD PipeListener::Begin() {
+    DWORD error = m_instances.front()->Offer(FILE_FLAG_FIRST_PIPE_INSTANCE);
+    for (auto next = m_instances.begin() + 1; next != m_instances.end() && error == ERROR_SUCCESS; ++next)
+        error = (*next)->Offer(0);
+    return error;
 }

@@ -5,20 +5,21 @@
 
 #include <QTimer>
 #include <QWinEventNotifier>
+#include <memory>
 #include <string>
+#include <vector>
 
-/// Serves a pipe to the people of this machine: one instance always waits for the next of them, so that
-/// nobody else can take the name. Thread of the event loop.
-class PipeListener final : public SystemService::Listener {
+/// An instance of a pipe that waits for a client, and for the next one when it has come. Thread of the event
+/// loop.
+class PipeInstance {
 public:
-    PipeListener(const QString& pipeName, const std::function<void(qintptr)>& connected);
-    ~PipeListener() override;
+    PipeInstance(const QString& pipeName, const std::function<void(qintptr)>& connected);
+    ~PipeInstance();
 
-    /// The system's error, or 0. ERROR_ACCESS_DENIED: another process serves it.
-    DWORD Begin() { return Offer(FILE_FLAG_FIRST_PIPE_INSTANCE); }
+    /// The system's error, or 0.
+    DWORD Offer(DWORD flags);
 
 private:
-    DWORD Offer(DWORD flags);
     void Take();
 
     std::wstring m_name;
@@ -28,4 +29,17 @@ private:
     QTimer m_retry;
     ObjectHandle m_waiting;
     OVERLAPPED m_overlapped{};
+};
+
+/// Serves a pipe to the people of this machine: several instances wait at all times, so that nobody else can
+/// take the name, and few of those who come at once find it busy. Thread of the event loop.
+class PipeListener final : public SystemService::Listener {
+public:
+    PipeListener(const QString& pipeName, const std::function<void(qintptr)>& connected);
+
+    /// The system's error, or 0. ERROR_ACCESS_DENIED: another process serves it.
+    DWORD Begin();
+
+private:
+    std::vector<std::unique_ptr<PipeInstance>> m_instances;
 };
