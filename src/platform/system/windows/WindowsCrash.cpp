@@ -24,9 +24,9 @@ constexpr DWORD AbortCode = 0x40000015; // the system's word for a program that 
 constexpr wchar_t RecorderOption[] = L"--crash";
 // Five seconds in all: the recorder ends itself and the process it describes, then there is still time for a
 // crash reporter that was there before.
-constexpr DWORD RecorderMs = 3000;
-constexpr DWORD RecordedMs = 4000;
-constexpr DWORD ReporterMs = 700;
+constexpr DWORD RecorderMs = 3800;
+constexpr DWORD RecordedMs = 4500;
+constexpr DWORD ReporterMs = 300;
 
 /// What Record makes ready; it stays until the process ends.
 struct Prepared {
