@@ -52,6 +52,8 @@ TEST(Logging, KeepsTheNewestFilesAndEndsTwiceInPeace) {
 }
 
 TEST(Logging, TextFromOutsideStaysOnItsLine) {
+    const std::string longest(500, 'x');
+    const std::string shorter(499, 'x');
     const struct {
         std::string text;
         std::string line;
@@ -61,9 +63,9 @@ TEST(Logging, TextFromOutsideStaysOnItsLine) {
         {"\r\n\t\x1b[2J\x7f", "\uFFFD\uFFFD\uFFFD\uFFFD[2J\uFFFD"},
         {"a\u0085b\u2028c\u202ed", "a\uFFFDb\uFFFDc\uFFFDd"},
         {"\xff\xfe", "\uFFFD\uFFFD"},
-        {std::string(500, 'x'), std::string(500, 'x')},
-        {std::string(501, 'x'), std::string(500, 'x') + "…"},
-        {std::string(499, 'x') + "😀", std::string(499, 'x') + "…"},
+        {longest, longest},
+        {longest + 'x', longest + "…"},
+        {shorter + "😀", shorter + "…"},
     };
     for (const auto& row : cases)
         EXPECT_EQ(LogText(row.text), row.line);
