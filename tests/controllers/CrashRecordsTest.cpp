@@ -15,14 +15,10 @@ namespace {
 
 volatile int* volatile nowhere = nullptr;
 
-int FillStack(int depth) {
-    volatile char block[4096] = {};
-    return depth < 0 ? block[0] : block[depth % 4096] + FillStack(depth + 1) + block[1];
-}
-
 } // namespace
 
 TEST(CrashRecords, DISABLED_Crash) { // the process of the test below
+    [[maybe_unused]] const volatile char typed[] = "typed: 123456";
     CrashRecords::Start(qEnvironmentVariable("RYX_CRASH_FOLDER"));
     const QByteArray kind = qgetenv("RYX_CRASH");
     if (kind == "address")
@@ -31,8 +27,6 @@ TEST(CrashRecords, DISABLED_Crash) { // the process of the test below
         std::abort();
     if (kind == "thread")
         std::thread([] { throw std::runtime_error("nobody catches it"); }).join();
-    if (kind == "stack")
-        FillStack(0);
 }
 
 TEST(CrashRecords, EachCrashEndsTheProcessAndLeavesARecordThatTheNextStartTellsOf) {
@@ -46,7 +40,7 @@ TEST(CrashRecords, EachCrashEndsTheProcessAndLeavesARecordThatTheNextStartTellsO
     const auto records = [&] { return folder.entryList({QStringLiteral("*-Crash.*")}, QDir::Files); };
     const QString isNew = QStringLiteral("*.new");
 
-    for (const char* kind : {"address", "abort", "thread", "stack"}) {
+    for (const char* kind : {"address", "abort", "thread"}) {
         SCOPED_TRACE(kind);
         QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -69,7 +63,7 @@ TEST(CrashRecords, EachCrashEndsTheProcessAndLeavesARecordThatTheNextStartTellsO
         ASSERT_TRUE(record.open(QIODevice::ReadOnly));
         const QByteArray content = record.readAll();
         EXPECT_TRUE(content.startsWith("MDMP") || content.contains("controllers_tests(+")) << content.data();
-        EXPECT_LT(content.size(), 1 << 20) << "stacks, and nothing else";
+        EXPECT_FALSE(content.contains("123456")) << "where it was, and not what it knew";
     }
 
     const LogCapture log;

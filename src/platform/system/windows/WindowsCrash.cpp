@@ -2,15 +2,15 @@
 #include "platform/system/SystemCrash.h"
 #include "platform/system/SystemSession.h"
 #include "platform/system/windows/AccessList.h"
-#include "platform/system/windows/Handles.h"
+#include "platform/system/windows/Minidump.h"
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <atomic>
 #include <csignal>
 #include <cstdlib>
 #include <cwchar>
-#include <dbghelp.h>
 #include <shellapi.h>
 #include <thread>
 
@@ -24,13 +24,15 @@ constexpr DWORD AbortCode = 0x40000015; // the system's word for a program that 
 constexpr wchar_t RecorderOption[] = L"--crash";
 // Five seconds in all: the recorder ends itself and the process it describes, then there is still time for a
 // crash reporter that was there before.
-constexpr DWORD RecorderMs = 3800;
-constexpr DWORD RecordedMs = 4500;
-constexpr DWORD ReporterMs = 300;
+constexpr DWORD RecorderMs = 3000;
+constexpr DWORD RecordedMs = 4000;
+constexpr DWORD ReporterMs = 700;
 
 /// What Record makes ready; it stays until the process ends.
 struct Prepared {
     HANDLE process = nullptr; // of this one, with every right
+    HANDLE mainThread = nullptr;
+    HANDLE ready = CreateEventW(nullptr, TRUE, FALSE, nullptr);
     HANDLE crashed = CreateEventW(nullptr, TRUE, FALSE, nullptr);
     HANDLE recorded = CreateEventW(nullptr, TRUE, FALSE, nullptr);
     std::wstring program;
@@ -41,7 +43,11 @@ struct Prepared {
 Prepared* prepared = nullptr;
 
 void StartRecorder() {
-    WaitForSingleObject(prepared->crashed, INFINITE);
+    SetEvent(prepared->ready);
+    const HANDLE events[] = {prepared->crashed, prepared->mainThread};
+    if (WaitForMultipleObjects(2, events, FALSE, INFINITE) != WAIT_OBJECT_0)
+        TerminateProcess(GetCurrentProcess(),
+                         AbortCode); // the main thread had no stack left to crash properly
     // Not before: every program that is started meanwhile would get it.
     SetHandleInformation(prepared->process, HANDLE_FLAG_INHERIT, HANDLE_FLAG_INHERIT);
     STARTUPINFOW startup{};
@@ -74,30 +80,14 @@ void OnAbort(int) {
     RaiseException(AbortCode, EXCEPTION_NONCONTINUABLE, 0, nullptr);
 }
 
-void WriteDump(HANDLE process, const void* factsThere, const wchar_t* path) {
+void WriteDump(HANDLE process, const void* factsThere, const QString& path) {
     MINIDUMP_EXCEPTION_INFORMATION facts{};
     if (!ReadProcessMemory(process, factsThere, &facts, sizeof facts, nullptr))
         return;
-    const HANDLE file = CreateFileW(path, GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_NEW,
-                                    FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE)
-        return;
-    SystemSession::Native().KeepPrivate(QString::fromWCharArray(path));
-    // Not linked against, because the front end would load it at every start.
-    const HMODULE library = LoadLibraryExW(L"dbghelp.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-    const auto function = [library](const char* name) {
-        return reinterpret_cast<void*>(GetProcAddress(library, name));
-    };
-    // A record has no symbols; where the library wants them all the same, it takes seconds.
-    if (const auto setOptions = reinterpret_cast<decltype(&SymSetOptions)>(function("SymSetOptions")))
-        setOptions(SYMOPT_DEFERRED_LOADS);
-    // The stacks without what is no address: digits that somebody has typed may lie there.
-    const auto type = static_cast<MINIDUMP_TYPE>(MiniDumpNormal | MiniDumpFilterMemory);
-    const auto write = reinterpret_cast<decltype(&MiniDumpWriteDump)>(function("MiniDumpWriteDump"));
-    const bool written = write && write(process, GetProcessId(process), file, type, &facts, nullptr, nullptr);
-    CloseHandle(file);
-    if (!written)
-        DeleteFileW(path);
+    const QByteArray dump = MakeMinidump(process, facts);
+    QFile file(path);
+    if (file.open(QIODevice::NewOnly | QIODevice::WriteOnly) && SystemSession::Native().KeepPrivate(path))
+        file.write(dump);
 }
 
 class WindowsCrash final : public SystemCrash {
@@ -115,7 +105,10 @@ public:
                                 .arg(reinterpret_cast<quintptr>(&prepared->facts))
                                 .arg(QDir::toNativeSeparators(file))
                                 .toStdWString();
+        DuplicateHandle(GetCurrentProcess(), GetCurrentThread(), GetCurrentProcess(), &prepared->mainThread,
+                        SYNCHRONIZE, FALSE, 0);
         std::thread(StartRecorder).detach();
+        WaitForSingleObject(prepared->ready, INFINITE); // a thread starts only while nobody loads libraries
         ULONG guaranteed = 64 * 1024; // for a filter that is called because the stack ran out
         SetThreadStackGuarantee(&guaranteed);
         prepared->before = SetUnhandledExceptionFilter(OnCrash);
@@ -136,7 +129,8 @@ public:
             TerminateProcess(process, AbortCode); // its threads may be stopped
             TerminateProcess(GetCurrentProcess(), EXIT_FAILURE);
         }).detach();
-        WriteDump(process, reinterpret_cast<const void*>(static_cast<quintptr>(number(3))), words[4]);
+        WriteDump(process, reinterpret_cast<const void*>(static_cast<quintptr>(number(3))),
+                  QString::fromWCharArray(words[4]));
         return true;
     }
 
