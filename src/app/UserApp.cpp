@@ -141,7 +141,7 @@ int UserApp::Run(int argc, char** argv) {
     QuitDeadline quitDeadline;
     QStringList arguments;
     for (int i = 1; i < argc; ++i)
-        arguments.append(QString::fromLocal8Bit(argv[i]));
+        arguments.append(SystemSession::Native().FromAnsi(argv[i]));
     int ownNameOnly = 1; // Qt takes options that would change how the program looks and what it loads
     QtSingleApplication application(QStringLiteral("velmora_ryx_windows_shell"), ownNameOnly, argv);
     if (application.isRunning()) {
