@@ -46,7 +46,7 @@ protected:
 TEST_P(AllScenesAccessibility, EveryControlHasNameRoleSizeAndTabStop) {
     QWidget& subject = Play();
     const QVector<QWidget*> controls = InteractiveWidgets(subject);
-    EXPECT_FALSE(controls.isEmpty());
+    EXPECT_EQ(controls.isEmpty(), GetParam().name == QLatin1String("messages-none")); // a sentence alone
     for (QWidget* control : controls) {
         QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(control);
         ASSERT_TRUE(accessible) << Describe(*control);
@@ -106,7 +106,7 @@ TEST_P(AllScenesAccessibility, TabFollowsTheReadingOrder) {
                 return other == candidate || ComesAfter(subject, *candidate, *other);
             });
         });
-        ASSERT_NE(first, stops.end());
+        ASSERT_EQ(first == stops.end(), stops.isEmpty());
         std::rotate(stops.begin(), first, stops.end());
         for (int i = 1; i < stops.size(); ++i)
             EXPECT_TRUE(ComesAfter(subject, *stops[i - 1], *stops[i]))

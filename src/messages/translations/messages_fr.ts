@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>message_file_cancel</source>
-        <translation>Annuler le téléchargement</translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>message_file_disk_full</source>
