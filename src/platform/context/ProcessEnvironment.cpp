@@ -12,7 +12,7 @@
 namespace {
 
 // It names one of the input methods that are there; without it, nobody types Chinese on a Linux desktop.
-constexpr QLatin1String InputMethod("QT_IM_MODULE");
+constexpr char InputMethod[] = "QT_IM_MODULE";
 
 /// The folder of plug-ins that a package brings along; where it uses the system's Qt there is none.
 QString OwnPlugins() {
@@ -27,7 +27,8 @@ void ProcessEnvironment::RemoveSteering() {
     for (const QString& name : QProcessEnvironment::systemEnvironment().keys())
         for (const char* prefix :
              {"QT_", "GOOGLE_", "GLOG_"}) // Windows takes upper and lower case for the same
-            if (name.startsWith(QLatin1String(prefix), Qt::CaseInsensitive) && name != InputMethod)
+            if (name.startsWith(QLatin1String(prefix), Qt::CaseInsensitive) &&
+                name != QLatin1String(InputMethod))
                 qunsetenv(name.toLocal8Bit().constData());
 }
 
