@@ -190,7 +190,6 @@ void MakeLogs(const QVector<int>& lengths = {100, 3000, 40}) {
         if (QFile file(folder.filePath(QStringLiteral("1-User.20260302-10150%1.4711").arg(lines % 7)));
             file.open(QIODevice::WriteOnly))
             file.write(line.repeated(lines));
-    QFile(folder.filePath(QStringLiteral("1-Crash.20260302-101502.4711.txt"))).open(QIODevice::WriteOnly);
 }
 
 } // namespace
@@ -296,6 +295,9 @@ QVector<Scene> FeedbackScenes() {
         On("crashed",
            [](FeedbackStage& page) {
                MakeLogs();
+               QFile(QDir(QString::fromStdString(AppConfigData::Instance()->logFolder))
+                         .filePath(QStringLiteral("1-Crash.20260302-101502.4711.txt")))
+                   .open(QIODevice::WriteOnly);
                page.OpenAgain();
                page.MakeHigh();
            }),
