@@ -56,12 +56,14 @@ SessionFrontEnds::SessionFrontEnds(const SystemService& system, const QString& p
       m_isUrgent(std::move(isUrgent)) {}
 
 void SessionFrontEnds::Update() {
-    const std::vector<quint32> sessions = m_system.UserSessions();
+    const std::optional<std::vector<quint32>> sessions = m_system.UserSessions();
+    if (!sessions)
+        return;
     for (auto supervisor = m_supervisors.begin(); supervisor != m_supervisors.end();)
-        supervisor = std::count(sessions.begin(), sessions.end(), supervisor->first) == 0
+        supervisor = std::count(sessions->begin(), sessions->end(), supervisor->first) == 0
                          ? m_supervisors.erase(supervisor)
                          : std::next(supervisor);
-    for (const quint32 session : sessions) {
+    for (const quint32 session : *sessions) {
         std::unique_ptr<Supervisor>& supervisor = m_supervisors[session];
         if (supervisor)
             continue;

@@ -194,8 +194,8 @@ int Run(QCoreApplication& application) {
         frontEnds.emplace(system, program,
                           arguments.isEmpty() ? QStringList(QStringLiteral("-hide")) : arguments, log,
                           isUrgent);
+        system.TellRunning(); // first: from now on the system tells of a log-on
         frontEnds->Update();
-        system.TellRunning();
     } else if (options.isSet(launch)) {
         QuitAtSignals(signalPoll);
         supervisor.emplace(

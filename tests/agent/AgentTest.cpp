@@ -279,7 +279,7 @@ TEST_F(Agent, KeepsAFrontEndInEachSessionAsLongAsItsUserIsThere) {
                                          QString&) const override {
             return nullptr;
         }
-        std::vector<quint32> UserSessions() const override { return sessions; }
+        std::optional<std::vector<quint32>> UserSessions() const override { return sessions; }
         std::unique_ptr<Program> StartInSession(quint32 session, const QString&, const QStringList&,
                                                 const std::function<void(quint32)>& ended,
                                                 QString& problem) const override {

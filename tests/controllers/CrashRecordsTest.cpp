@@ -52,7 +52,7 @@ TEST(CrashRecords, EachCrashEndsTheProcessAndLeavesARecordThatTheNextStartTellsO
                        QStringLiteral("--gtest_filter=CrashRecords.DISABLED_Crash")});
         ASSERT_TRUE(process.waitForStarted());
         const QString number = QString::number(process.processId());
-        ASSERT_TRUE(process.waitForFinished(5000)) << "it must be gone";
+        ASSERT_TRUE(process.waitForFinished(10000)) << "it must be gone";
         // A sanitizer has its say, too, and ends the process in its own way.
         EXPECT_TRUE(process.exitStatus() == QProcess::CrashExit || process.exitCode() != 0);
 

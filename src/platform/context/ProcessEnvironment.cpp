@@ -18,7 +18,9 @@ constexpr char InputMethod[] = "QT_IM_MODULE";
 QString OwnPlugins() {
     const QString program = SystemProcesses::Native().GetProcessFilePath(
         static_cast<quint32>(QCoreApplication::applicationPid()));
-    return QFileInfo(QDir::fromNativeSeparators(program)).path() + QStringLiteral("/plugins");
+    return program.isEmpty()
+               ? QString()
+               : QFileInfo(QDir::fromNativeSeparators(program)).path() + QStringLiteral("/plugins");
 }
 
 } // namespace

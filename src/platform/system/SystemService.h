@@ -4,6 +4,7 @@
 #include <QStringList>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 /// What the operating system offers a service of its own. Where it has no such thing, or lets others do it,
@@ -44,8 +45,9 @@ public:
     /// The service has ended. Does nothing when it never began.
     virtual void EndService(int /*exitCode*/) const {}
 
-    /// The sessions in which a user has logged on and this service is to start programs.
-    virtual std::vector<quint32> UserSessions() const { return {}; }
+    /// The sessions in which a user has logged on and this service is to start programs; nothing when the
+    /// system does not tell.
+    virtual std::optional<std::vector<quint32>> UserSessions() const { return std::vector<quint32>(); }
 
     /// Starts a program on the user's desktop in the session, with the user's rights and an environment in
     /// which nothing but places comes from the user; other programs of the user cannot open it. `ended` is

@@ -41,11 +41,11 @@ void WriteTrace(int signal, const siginfo_t& info) {
 }
 
 void OnCrash(int signal, siginfo_t* info, void*) {
-    ::alarm(EndSeconds);
     pid_t nobody = 0;
-    if (crashedThread.compare_exchange_strong(nobody, ::gettid()))
+    if (crashedThread.compare_exchange_strong(nobody, ::gettid())) {
+        ::alarm(EndSeconds);
         WriteTrace(signal, *info);
-    else if (nobody != ::gettid())
+    } else if (nobody != ::gettid())
         for (;;) // the first one ends the process
             ::pause();
     // What stood there before gets the signal when this returns; as a rule that ends the process.

@@ -149,7 +149,7 @@ private:
         if (!handle || SuspendThread(handle.get()) == static_cast<DWORD>(-1))
             return;
         CONTEXT context{};
-        context.ContextFlags = CONTEXT_ALL;
+        context.ContextFlags = CONTEXT_CONTROL | CONTEXT_INTEGER; // the others may hold what was typed
         if (GetThreadContext(handle.get(), &context)) {
             MINIDUMP_THREAD thread{};
             thread.ThreadId = id;
@@ -188,6 +188,9 @@ private:
             !Read(m_process, reinterpret_cast<ULONG64>(pointers.ExceptionRecord), record) ||
             !Read(m_process, reinterpret_cast<ULONG64>(pointers.ContextRecord), context))
             return;
+        context.ContextFlags = CONTEXT_CONTROL | CONTEXT_INTEGER;
+        context.FltSave = {};
+        std::fill(std::begin(context.VectorRegister), std::end(context.VectorRegister), M128A{});
         MINIDUMP_EXCEPTION_STREAM stream{};
         stream.ThreadId = m_crash.ThreadId;
         stream.ExceptionRecord.ExceptionCode = record.ExceptionCode;

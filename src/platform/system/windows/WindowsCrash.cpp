@@ -43,6 +43,7 @@ struct Prepared {
 Prepared* prepared = nullptr;
 
 void StartRecorder() {
+    ProtectThisThread();
     SetEvent(prepared->ready);
     const HANDLE events[] = {prepared->crashed, prepared->mainThread};
     if (WaitForMultipleObjects(2, events, FALSE, INFINITE) != WAIT_OBJECT_0)

@@ -110,12 +110,12 @@ public:
         service.dispatcher.join();
     }
 
-    std::vector<quint32> UserSessions() const override {
+    std::optional<std::vector<quint32>> UserSessions() const override {
         std::vector<quint32> sessions;
         WTS_SESSION_INFOW* found = nullptr;
         DWORD count = 0;
         if (!WTSEnumerateSessionsW(WTS_CURRENT_SERVER_HANDLE, 0, 1, &found, &count))
-            return sessions;
+            return std::nullopt;
         const std::unique_ptr<void, decltype(&WTSFreeMemory)> owner(found, &WTSFreeMemory);
         for (DWORD i = 0; i < count; ++i)
             if (found[i].SessionId != 0 && TokenOfSession(found[i].SessionId)) // 0: the services' own

@@ -113,6 +113,9 @@ bool ProductFolder::Replace(const fs::path& with) {
         Restore();
         isReplaced = false;
     }
-    fs::remove_all(old, ignored);
+    if (isReplaced)
+        fs::remove_all(old, ignored);
+    else
+        fs::remove(old, ignored); // what could not be put back stays
     return isReplaced;
 }
