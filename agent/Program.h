@@ -10,7 +10,7 @@ class Program : public QObject {
 public:
     /// While it does not run.
     virtual void Start() = 0;
-    /// Ends it, with the time of a second to do so by itself where that can be asked for. Returns how it
+    /// Ends it, with some seconds to do so by itself where that can be asked for. Returns how it
     /// ended, or an empty text when it did not run; no signal follows.
     virtual std::string End() = 0;
 

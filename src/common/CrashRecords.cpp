@@ -6,7 +6,10 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QLocale>
+#include <algorithm>
 #include <glog/logging.h>
 
 namespace {
@@ -14,8 +17,16 @@ namespace {
 constexpr int Kept = 5;
 constexpr char New[] = ".new"; // behind the name until a start has told of it
 
+/// This user's: in a folder that all users share, those of the others cannot be opened.
 QFileInfoList NewestFirst(const QDir& folder) {
-    return folder.entryInfoList({QStringLiteral("*-Crash.*")}, QDir::Files | QDir::NoSymLinks, QDir::Time);
+    QFileInfoList records =
+        folder.entryInfoList({QStringLiteral("*-Crash.*")}, QDir::Files | QDir::NoSymLinks, QDir::Time);
+    records.erase(std::remove_if(records.begin(), records.end(),
+                                 [](const QFileInfo& record) {
+                                     return !QFile(record.filePath()).open(QIODevice::ReadOnly);
+                                 }),
+                  records.end());
+    return records;
 }
 
 } // namespace
