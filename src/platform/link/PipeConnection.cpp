@@ -50,12 +50,17 @@ void PipeConnection::Close() {
 }
 
 bool PipeConnection::Accepts(const PipePeer& server) {
-    if (m_accountId.isEmpty() && !m_server.account.isEmpty())
-        m_accountId = m_system.AccountId(m_server.account);
     QStringList trusted = m_system.SystemAccounts();
-    if (!m_accountId.isEmpty())
-        trusted.append(m_accountId);
-    const QString refusal = PipeTrust::Refusal(server, trusted);
+    QString refusal = PipeTrust::Refusal(server, trusted);
+    // Looked up only when it counts: a server of the organisation that is away must not keep the link
+    // waiting.
+    if (!refusal.isEmpty() && !m_server.account.isEmpty()) {
+        if (m_accountId.isEmpty())
+            m_accountId = m_system.AccountId(m_server.account);
+        if (!m_accountId.isEmpty())
+            trusted.append(m_accountId);
+        refusal = PipeTrust::Refusal(server, trusted);
+    }
     if (std::exchange(m_refused, refusal) != refusal && !refusal.isEmpty())
         LOG(WARNING) << "PipeConnection::Accepts refused " << LogText(m_server.name) << ", which process "
                      << server.process << " serves: " << LogText(refusal)
