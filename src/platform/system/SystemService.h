@@ -38,7 +38,8 @@ public:
                                              QString& problem) const = 0;
 
     /// Tells the system, which has started this process as a service, that the service starts. Returns what
-    /// went wrong, or an empty text.
+    /// went wrong, or an empty text. Where a signal ends a service, it quits the application instead of
+    /// `stop`.
     virtual QString BeginService(const Notices& /*notices*/) const { return {}; }
     /// The service has started.
     virtual void TellRunning() const {}

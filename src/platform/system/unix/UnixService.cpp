@@ -1,18 +1,13 @@
 // A signal ends a service here, and the user's desktop starts the front ends.
 #include "platform/system/SystemService.h"
 
+#include "platform/system/SystemSession.h"
 #include "platform/system/unix/PipePath.h"
 
-#include <QCoreApplication>
 #include <QLocalServer>
 #include <QLocalSocket>
-#include <QSocketNotifier>
-#include <array>
-#include <cerrno>
-#include <csignal>
 #include <cstddef>
 #include <cstring>
-#include <fcntl.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
@@ -33,8 +28,6 @@ protected:
 private:
     std::function<void(qintptr)> m_connected;
 };
-
-std::array<int, 2> stopPipe; // what a signal's handler may do: write a byte into it
 
 bool IsServed(const QString& path) {
     QLocalSocket probe;
@@ -59,19 +52,8 @@ public:
         return nullptr;
     }
 
-    QString BeginService(const Notices& notices) const override {
-        if (::pipe2(stopPipe.data(), O_CLOEXEC | O_NONBLOCK) != 0)
-            return qt_error_string(errno);
-        auto* stop = new QSocketNotifier(stopPipe[0], QSocketNotifier::Read, qApp);
-        QObject::connect(stop, &QSocketNotifier::activated, stop, [stop, told = notices.stop] {
-            stop->setEnabled(false);
-            told();
-        });
-        for (const int signal : {SIGINT, SIGTERM})
-            std::signal(signal, [](int) {
-                if (::write(stopPipe[1], "", 1) < 0) // a signal before this one has filled it
-                    return;
-            });
+    QString BeginService(const Notices&) const override {
+        SystemSession::Native().QuitOnSignals();
         return {};
     }
 
