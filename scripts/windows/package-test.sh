@@ -47,8 +47,9 @@ expect_refusal() {
 
 # hold_a_file COMMAND...: while it runs, another program has one of the product's libraries open.
 hold_a_file() {
-    wine "$build/bin/hold_file.exe" "$program_folder\\Qt5Svg.dll" > /dev/null 2>&1 &
+    wine "$build/bin/hold_file.exe" "$program_folder\\Qt5Svg.dll" > "$work/held" 2> /dev/null &
     local holder=$! code=0
+    wait_for "the file is held" test -s "$work/held"
     "$@" || code=$?
     kill "$holder"
     return "$code"
@@ -82,16 +83,39 @@ start_product() {
     VELMORA_RYX_CONFIG=C:\\other.json WINEQT_QPA_PLATFORM=none GLOG_minloglevel=3 start_agent wine "$work/agent/ryx-agent.exe" --launch "$program_folder\\velmora-ryx.exe" -- -hide
 }
 
+# configure MODE: as users (777) or administrators alone (755) may write the folder; Wine makes its access list of that.
+configure() {
+    chmod "$1" "$shared"
+    printf '{ "agentAccount": "%s" }\n' "$(id -un)" > "$shared/ryx.json"
+}
+
+# What a user has put there before is not taken over, and what a user may put there later is not followed.
+check_trust() {
+    [ ! -e "$shared/ryx.json" ] || fail "A configuration that users may have written was kept."
+    [ -d "$shared/log" ] || fail "There is no folder for the logs."
+    local before line="ignores agentAccount in .*: its folder may be changed by S-1-1-0"
+    before=$(logged "$line")
+    configure 777
+    wine "$installed/velmora-ryx.exe" -hide > /dev/null 2>&1 &
+    local distrusting=$!
+    wait_for "the configuration is ignored" has_logged "$before" "$line"
+    kill -KILL "$distrusting"
+    wait "$distrusting" 2> /dev/null || true
+    configure 755
+}
+
 # test_package KIND MARK REFUSED IN_USE: MARK is its entry in the registry, the others are its exit codes.
 test_package() {
     local kind=$1 key="HKEY_LOCAL_MACHINE\\Software\\$vendor\\$name"
     say "$kind: installing an older version, and locking"
     list_places > "$work/before"
+    mkdir -p "$shared"
+    configure 777
     install "$kind" "$older.$kind" || fail "It cannot be installed: $?."
+    check_trust
     check_signatures
     has_key "$key" || fail "The registry does not know the version."
     grep --quiet "Start Menu/.*/$name.lnk\$" <(list_places) || fail "The start menu has no entry."
-    printf '{ "agentAccount": "%s" }\n' "$(id -un)" > "$WINEPREFIX/drive_c/ProgramData/$name/ryx.json"
     start_product
     lock_screen
 
@@ -129,7 +153,8 @@ test_packages() {
     work=$wine_dir
     program_folder="C:\\Program Files\\$name"
     installed="$WINEPREFIX/drive_c/Program Files/$name"
-    logs=("$WINEPREFIX/drive_c/ProgramData/$name/log" "$WINEPREFIX/drive_c/users/$(id -un)/AppData/Local/$name/log")
+    shared=$WINEPREFIX/drive_c/ProgramData/$name
+    logs=("$shared/log" "$WINEPREFIX/drive_c/users/$(id -un)/AppData/Local/$name/log")
     current=$packages/velmora-ryx-$version-windows-x64
     older=$work/older-package
     make_older

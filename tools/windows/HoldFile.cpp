@@ -1,4 +1,5 @@
-// hold_file FILE: keeps a file open for reading until it is ended, as a virus scanner or a backup may.
+// hold_file FILE: keeps a file open for reading until it is ended, as a virus scanner or a backup may; it
+// says so.
 #include <windows.h>
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
@@ -6,6 +7,8 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
                                     OPEN_EXISTING, 0, nullptr);
     if (file == INVALID_HANDLE_VALUE)
         return 1;
+    DWORD written = 0;
+    WriteFile(GetStdHandle(STD_OUTPUT_HANDLE), "held\n", 5, &written, nullptr);
     Sleep(INFINITE);
     return 0;
 }
