@@ -153,31 +153,45 @@ private:
         if (GetThreadContext(handle.get(), &context)) {
             MINIDUMP_THREAD thread{};
             thread.ThreadId = id;
-            const Words stack = ReadStack(context.Rsp);
-            thread.Stack = {context.Rsp, Append(stack.data(), stack.size() * sizeof(ULONG64))};
+            const Range stack = StackFrom(context.Rsp);
+            const Words words = ReadStack(stack);
+            thread.Stack = {stack.begin, Append(words.data(), words.size() * sizeof(ULONG64))};
+            CleanRegisters(context, stack);
             thread.ThreadContext = Append(&context, sizeof context);
             list.push_back(thread);
         }
         ResumeThread(handle.get());
     }
 
-    /// From the pointer to the end of the stack, without what is no address of a module or of this stack.
-    Words ReadStack(ULONG64 pointer) const {
+    /// From the pointer to the end of the stack.
+    Range StackFrom(ULONG64 pointer) const {
         MEMORY_BASIC_INFORMATION region{};
         if (!VirtualQueryEx(m_process, reinterpret_cast<const void*>(pointer), &region, sizeof region))
-            return {};
-        const Range stack{pointer, reinterpret_cast<ULONG64>(region.BaseAddress) + region.RegionSize};
+            return {pointer, pointer};
+        return {pointer, reinterpret_cast<ULONG64>(region.BaseAddress) + region.RegionSize};
+    }
+
+    Words ReadStack(const Range& stack) const {
         Words words(std::min<std::size_t>(stack.end - stack.begin, MostOfStack) / sizeof(ULONG64));
-        if (!ReadProcessMemory(m_process, reinterpret_cast<const void*>(pointer), words.data(),
+        if (!ReadProcessMemory(m_process, reinterpret_cast<const void*>(stack.begin), words.data(),
                                words.size() * sizeof(ULONG64), nullptr))
             return {};
+        Clean(words.data(), words.data() + words.size(), stack);
+        return words;
+    }
+
+    /// Takes out what is no address of a module or of this stack.
+    void Clean(ULONG64* begin, ULONG64* end, const Range& stack) const {
         const auto isData = [&](ULONG64 word) {
             return !stack.Holds(word) &&
                    std::none_of(m_known.begin(), m_known.end(),
                                 [word](const Range& module) { return module.Holds(word); });
         };
-        std::replace_if(words.begin(), words.end(), isData, 0);
-        return words;
+        std::replace_if(begin, end, isData, 0);
+    }
+
+    void CleanRegisters(CONTEXT& context, const Range& stack) const {
+        Clean(&context.Rax, &context.Rip + 1, stack); // they lie one behind the other
     }
 
     void AddException() {
@@ -191,6 +205,7 @@ private:
         context.ContextFlags = CONTEXT_CONTROL | CONTEXT_INTEGER;
         context.FltSave = {};
         std::fill(std::begin(context.VectorRegister), std::end(context.VectorRegister), M128A{});
+        CleanRegisters(context, StackFrom(context.Rsp));
         MINIDUMP_EXCEPTION_STREAM stream{};
         stream.ThreadId = m_crash.ThreadId;
         stream.ExceptionRecord.ExceptionCode = record.ExceptionCode;
