@@ -1,7 +1,7 @@
 // Who may change a file, as its access list tells, and the folders that an installer makes.
 #include "platform/system/windows/AccessList.h"
 #include "platform/system/windows/AccessRights.h"
-#include "platform/system/windows/SharedFolders.h"
+#include "platform/system/windows/setup/SharedFolders.h"
 
 #include <QDir>
 #include <QFile>

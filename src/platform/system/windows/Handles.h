@@ -1,18 +1,13 @@
 #pragma once
 
+#include "platform/system/windows/OwnedHandle.h"
+
 #include <QRect>
-#include <memory>
 #include <qwindowdefs.h>
 
 #include <windows.h>
 
 #include <dwmapi.h>
-
-struct CloseObject {
-    void operator()(HANDLE handle) const { CloseHandle(handle); }
-};
-/// A handle that is closed with this.
-using ObjectHandle = std::unique_ptr<void, CloseObject>;
 
 inline HWND Handle(WId window) {
     return reinterpret_cast<HWND>(window);

@@ -1,4 +1,5 @@
 #include "platform/system/windows/AccessRights.h"
+#include "platform/system/windows/OwnedHandle.h"
 
 #include <aclapi.h>
 #include <sddl.h>
@@ -28,7 +29,7 @@ bool IsAdministratorRunningThis(PSID account) {
     HANDLE opened = nullptr;
     if (!OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, &opened))
         return false;
-    const FileHandle token(opened);
+    const ObjectHandle token(opened);
     return GetTokenInformation(token.get(), TokenUser, user, sizeof user, &size) &&
            EqualSid(account, reinterpret_cast<TOKEN_USER*>(user)->User.Sid);
 }

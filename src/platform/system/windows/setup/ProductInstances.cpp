@@ -1,22 +1,14 @@
 #include "platform/system/windows/setup/ProductInstances.h"
 
 #include "platform/ProductConstants.h"
+#include "platform/system/windows/OwnedHandle.h"
 
-#include <memory>
 #include <string>
-
-#include <windows.h>
-
 #include <tlhelp32.h>
 
 namespace {
 
 namespace fs = std::filesystem;
-
-struct CloseObject {
-    void operator()(HANDLE handle) const { CloseHandle(handle); }
-};
-using ObjectHandle = std::unique_ptr<void, CloseObject>;
 
 /// The full path of the process's program; empty when the system does not tell it.
 fs::path ProgramOf(DWORD process) {

@@ -1,7 +1,7 @@
 // ryx-setup: what an installer does to a product that runs. It travels inside the installers and is not
 // installed.
-#include "platform/system/windows/SharedFolders.h"
 #include "platform/system/windows/setup/ProductFolder.h"
+#include "platform/system/windows/setup/SharedFolders.h"
 
 #include <exception>
 #include <iostream>

@@ -1,6 +1,7 @@
-#include "platform/system/windows/SharedFolders.h"
+#include "platform/system/windows/setup/SharedFolders.h"
 
 #include "platform/system/windows/AccessRights.h"
+#include "platform/system/windows/OwnedHandle.h"
 
 #include <sddl.h>
 
@@ -19,7 +20,7 @@ void TakeRightToRestore() {
     HANDLE opened = nullptr;
     if (!OpenProcessToken(GetCurrentProcess(), TOKEN_ADJUST_PRIVILEGES, &opened))
         return;
-    const FileHandle token(opened);
+    const ObjectHandle token(opened);
     TOKEN_PRIVILEGES privileges{1, {{{}, SE_PRIVILEGE_ENABLED}}};
     if (LookupPrivilegeValueW(nullptr, SE_RESTORE_NAME, &privileges.Privileges[0].Luid))
         AdjustTokenPrivileges(token.get(), FALSE, &privileges, 0, nullptr, nullptr);
