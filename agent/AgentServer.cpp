@@ -56,6 +56,11 @@ void AgentServer::Accept(qintptr descriptor) {
         delete socket;
         return;
     }
+    if (m_clients.size() == MostClients) {
+        m_log.Line("one client too many was refused");
+        delete socket;
+        return;
+    }
     const int number = ++m_lastClient;
     m_clients[number].socket = socket;
     connect(socket, &QLocalSocket::readyRead, this, [this, number] { Read(number); });

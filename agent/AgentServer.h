@@ -13,7 +13,7 @@
 
 class QLocalSocket;
 
-/// The service's end of the pipe: accepts any number of front ends, cuts their bytes into messages and
+/// The service's end of the pipe: accepts front ends, cuts their bytes into messages and
 /// writes messages to them. Clients are numbered from 1 in the order in which they connect. Tells
 /// everything that happens in the event log.
 class AgentServer : public QObject {
@@ -22,6 +22,9 @@ class AgentServer : public QObject {
 public:
     /// Bytes that may wait for a client that does not read before it is dropped.
     static constexpr qint64 UnreadLimit = 64 * 1024 * 1024;
+    /// Clients that are served at a time. A program that connects again and again must not use up what the
+    /// system lets this process open: it would listen no longer.
+    static constexpr std::size_t MostClients = 200;
 
     explicit AgentServer(EventLog& log);
     ~AgentServer() override;
