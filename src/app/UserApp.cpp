@@ -45,7 +45,7 @@ constexpr int ForwardTimeoutMs = 5000;
 
 /// Takes the session's marker for this process; false when another process holds it.
 bool TakeSessionMarker(QSharedMemory& marker) {
-    const QString key = SystemSession::Native().SharedMemoryKey(QString::fromLatin1(Product::ShellMarker));
+    const QString key = SystemSession::Native().OwnName(QString::fromLatin1(Product::ShellMarker));
     SystemSession::Native().ReleaseOrphanedSharedMemory(key);
     marker.setNativeKey(key);
     if (marker.attach(QSharedMemory::ReadWrite))

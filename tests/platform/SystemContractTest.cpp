@@ -58,7 +58,7 @@ TEST(SystemContract, APipeTellsWhoServesItBeforeAByteGoesEitherWay) {
     EXPECT_EQ(system.AccountId(QStringLiteral("no-such-account")), QString());
 }
 
-TEST(SystemContract, SharedMemoryKeyIsUsableAndOrphansGo) {
+TEST(SystemContract, OwnNameKeysSharedMemoryAndOrphansGo) {
     const SystemSession& system = SystemSession::Native();
     std::unique_ptr<QSharedMemory> first;
     QString key;
@@ -66,7 +66,7 @@ TEST(SystemContract, SharedMemoryKeyIsUsableAndOrphansGo) {
     // one's is released at the second attempt, when the file is there, and a running one's needs another
     // file. An object whose creation has failed takes no other key.
     for (int attempt = 0; attempt < 10 && !(first && first->isAttached()); ++attempt) {
-        key = system.SharedMemoryKey(QStringLiteral("ryx-contract-%1").arg(attempt / 2));
+        key = system.OwnName(QStringLiteral("ryx-contract-%1").arg(attempt / 2));
         system.ReleaseOrphanedSharedMemory(key);
         first = std::make_unique<QSharedMemory>();
         first->setNativeKey(key);

@@ -78,7 +78,7 @@ RunningProduct::~RunningProduct() {
     }
     // Its shared memory outlives it on Linux; the folder that names it goes now.
     const SystemSession& system = SystemSession::Native();
-    const QFileInfo key(system.SharedMemoryKey(QString::fromLatin1(Product::ShellMarker)));
+    const QFileInfo key(system.OwnName(QString::fromLatin1(Product::ShellMarker)));
     system.ReleaseOrphanedSharedMemory(m_folder.filePath(key.fileName()));
 }
 

@@ -23,10 +23,11 @@ constexpr int MaxMessageBytes = 1024 * 1024;
 QtSingleApplication::QtSingleApplication(const QString& id, int& argc, char** argv)
     : QApplication(argc, argv) {
     // Account and session in the name: instances of other users and sessions do not meet.
-    m_serverName = QStringLiteral("%1-%2-%3")
-                       .arg(id)
-                       .arg(qHash(SystemPipe::Native().CurrentAccount()), 0, 16)
-                       .arg(SystemSession::Native().SessionId());
+    const SystemSession& session = SystemSession::Native();
+    m_serverName = session.OwnName(QStringLiteral("%1-%2-%3")
+                                       .arg(id)
+                                       .arg(qHash(SystemPipe::Native().CurrentAccount()), 0, 16)
+                                       .arg(session.SessionId()));
     const QString lockPath = QDir::temp().filePath(m_serverName + QStringLiteral(".lock"));
     m_lock = std::make_unique<QLockFile>(lockPath);
     m_lock->setStaleLockTime(0); // held as long as its process lives, however long

@@ -47,8 +47,9 @@ public:
     /// system knows no such mark.
     virtual bool MarkFromInternet(const QString& file) const = 0;
 
-    /// The native key of a shared-memory segment with the product's `name`.
-    virtual QString SharedMemoryKey(const QString& name) const = 0;
+    /// The native name, of a shared-memory segment or a pipe, of what this user has one of; where names are
+    /// files', in a folder that no other user writes, if there is one.
+    virtual QString OwnName(const QString& name) const = 0;
 
     /// Frees a segment that a crashed process left behind, where the system does not do so by itself.
     virtual void ReleaseOrphanedSharedMemory(const QString& nativeKey) const = 0;

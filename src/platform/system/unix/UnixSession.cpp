@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QSharedMemory>
 #include <QSocketNotifier>
 #include <QStandardPaths>
@@ -50,9 +51,13 @@ public:
 
     bool MarkFromInternet(const QString&) const override { return true; }
 
-    /// Shared memory is keyed by a file here; the user's number keeps users apart.
-    QString SharedMemoryKey(const QString& name) const override {
-        return QDir::temp().filePath(QStringLiteral("%1-%2").arg(name).arg(::getuid()));
+    /// The temporary folder counts when it was chosen: otherwise all users share it, and could take the
+    /// names first. The user's number keeps users apart in any case.
+    QString OwnName(const QString& name) const override {
+        const QString own = qEnvironmentVariable("XDG_RUNTIME_DIR");
+        const bool isOwn = !qEnvironmentVariableIsSet("TMPDIR") && QFileInfo(own).ownerId() == ::getuid();
+        return QDir(isOwn ? own : QDir::tempPath())
+            .filePath(QStringLiteral("%1-%2").arg(name).arg(::getuid()));
     }
 
     /// A segment outlives a process that was killed; the last one to detach takes it away.

@@ -120,7 +120,7 @@ public:
         return marked;
     }
 
-    QString SharedMemoryKey(const QString& name) const override { return name; }
+    QString OwnName(const QString& name) const override { return name; }
 
     /// The system frees a segment with the last handle to it, however its process ended.
     void ReleaseOrphanedSharedMemory(const QString&) const override {}
