@@ -6,10 +6,10 @@ namespace {
 
 constexpr quint32 FirstCrashCode = 0x80000000; // with which the system ends a program
 
-class SessionProgram : public Program {
+class LaunchedInSession : public Program {
 public:
-    SessionProgram(const SystemService& system, quint32 session, const QString& program,
-                   const QStringList& arguments)
+    LaunchedInSession(const SystemService& system, quint32 session, const QString& program,
+                      const QStringList& arguments)
         : m_system(system), m_session(session), m_program(program), m_arguments(arguments) {}
 
     void Start() override {
@@ -68,7 +68,7 @@ void SessionFrontEnds::Update() {
         if (supervisor)
             continue;
         supervisor = std::make_unique<Supervisor>(
-            std::make_unique<SessionProgram>(m_system, session, m_program, m_arguments),
+            std::make_unique<LaunchedInSession>(m_system, session, m_program, m_arguments),
             "front end of session " + std::to_string(session), m_log, m_isUrgent);
         supervisor->Start();
     }
