@@ -16,9 +16,9 @@ constexpr UINT EndedByService = 1;
 
 /// All that the environment of a program takes from its user: where the user's things are. Any other variable
 /// of theirs could have it load a foreign library.
-constexpr const char* PlacesOfUser[] = {
-    "ALLUSERSPROFILE", "APPDATA", "HOMEDRIVE", "HOMEPATH",   "HOMESHARE", "LOCALAPPDATA", "LOGONSERVER",
-    "PUBLIC",          "TEMP",    "TMP",       "USERDOMAIN", "USERNAME",  "USERPROFILE"};
+constexpr const char* PlacesOfUser[] = {"APPDATA",      "HOMEDRIVE",   "HOMEPATH",   "HOMESHARE",
+                                        "LOCALAPPDATA", "LOGONSERVER", "TEMP",       "TMP",
+                                        "USERDOMAIN",   "USERNAME",    "USERPROFILE"};
 
 using Environment = QMap<QString, QString>; // by the name in capitals
 
@@ -100,12 +100,17 @@ std::unique_ptr<SessionProgram> SessionProgram::Start(quint32 session, const QSt
     SECURITY_ATTRIBUTES process{sizeof process, processAccess.get(), FALSE};
     SECURITY_ATTRIBUTES thread{sizeof thread, threadAccess.get(), FALSE};
     PROCESS_INFORMATION started{};
-    if (!CreateProcessAsUserW(token.get(), file.c_str(), commandLine.data(), &process, &thread, FALSE,
-                              CREATE_UNICODE_ENVIRONMENT | CREATE_DEFAULT_ERROR_MODE, environment.data(),
-                              folder.c_str(), &startup, &started)) {
+    // As the user: otherwise the process, its first thread and its token would belong to this service's
+    // account, and the program could not open them itself.
+    const bool isStarted = ImpersonateLoggedOnUser(token.get()) &&
+                           CreateProcessAsUserW(token.get(), file.c_str(), commandLine.data(), &process,
+                                                &thread, FALSE, CREATE_UNICODE_ENVIRONMENT,
+                                                environment.data(), folder.c_str(), &startup, &started);
+    if (!isStarted)
         problem = qt_error_string(static_cast<int>(GetLastError()));
+    RevertToSelf();
+    if (!isStarted)
         return nullptr;
-    }
     CloseHandle(started.hThread);
     return std::make_unique<SessionProgram>(started, ended);
 }

@@ -67,6 +67,17 @@ void WINAPI ServiceMain(DWORD, wchar_t**) {
     service.begun.set_value(service.handle ? NO_ERROR : GetLastError());
 }
 
+/// Whether somebody has logged on in the session; yes where the system does not tell, because a front end
+/// that runs there must not be ended for that.
+bool HasUser(const WTS_SESSION_INFOW& session) {
+    if (session.State != WTSActive && session.State != WTSDisconnected)
+        return false;
+    if (TokenOfSession(session.SessionId))
+        return true;
+    const DWORD error = GetLastError();
+    return error != ERROR_NO_TOKEN && error != ERROR_FILE_NOT_FOUND;
+}
+
 class WindowsService final : public SystemService {
 public:
     std::unique_ptr<Listener> Listen(const QString& pipeName, const std::function<void(qintptr)>& connected,
@@ -82,6 +93,9 @@ public:
     }
 
     QString BeginService(const Notices& notices) const override {
+        // As the programs that it starts: one that lacks a library ends, and does not wait for somebody to
+        // close the system's message.
+        SetErrorMode(SEM_FAILCRITICALERRORS);
         RunningService& service = RunningService::Instance();
         service.notices = notices;
         service.dispatcher = std::thread([&service] {
@@ -118,7 +132,7 @@ public:
             return std::nullopt;
         const std::unique_ptr<void, decltype(&WTSFreeMemory)> owner(found, &WTSFreeMemory);
         for (DWORD i = 0; i < count; ++i)
-            if (found[i].SessionId != 0 && TokenOfSession(found[i].SessionId)) // 0: the services' own
+            if (found[i].SessionId != 0 && HasUser(found[i])) // 0: the services' own
                 sessions.push_back(found[i].SessionId);
         return sessions;
     }
