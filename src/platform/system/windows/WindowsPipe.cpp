@@ -61,7 +61,13 @@ public:
     QString AccountId(const QString& account) const override {
         if (account.startsWith(QLatin1String("S-1-"), Qt::CaseInsensitive))
             return account.toUpper();
-        const QString name = account.startsWith(QLatin1String(".\\")) ? account.mid(2) : account;
+        // A plain name is an account of this computer, and not one of the domain when this has none.
+        QString name = account.startsWith(QLatin1String(".\\")) ? account.mid(2) : account;
+        wchar_t computer[MAX_COMPUTERNAME_LENGTH + 1];
+        DWORD computerSize = std::size(computer);
+        if (!name.contains(QLatin1Char('\\')) && !name.contains(QLatin1Char('@')) &&
+            GetComputerNameW(computer, &computerSize))
+            name.prepend(QString::fromWCharArray(computer) + QLatin1Char('\\'));
         std::array<std::max_align_t, SECURITY_MAX_SID_SIZE / sizeof(std::max_align_t) + 1> sid;
         wchar_t domain[256];
         DWORD sidSize = sizeof sid;
