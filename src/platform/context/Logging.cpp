@@ -75,8 +75,10 @@ void InitLogger(const std::string& name, const std::string& dir, const unsigned&
     static std::string programName; // glog keeps the pointer
     programName = name;
     google::InitGoogleLogging(programName.c_str());
-    FLAGS_logtostderr = false; // as the next one, the user's environment may have set it
+    FLAGS_logtostderr = false; // as the next three, the user's environment may have set it
     FLAGS_minloglevel = google::GLOG_INFO;
+    FLAGS_log_prefix = true;
+    FLAGS_timestamp_in_logfile_name = true;
     FLAGS_max_log_size = static_cast<google::uint32>(maxFileMegabytes);
     FLAGS_logbufsecs = 0;
     FLAGS_logfile_mode = 0600;
