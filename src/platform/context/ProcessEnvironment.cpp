@@ -38,6 +38,7 @@ void ProcessEnvironment::Close() {
     if (IsDeveloperBuild)
         return;
     RemoveSteering();
+    SystemSession::Native().ResetVariables();
     if (const QString plugins = OwnPlugins(); QFileInfo(plugins).isDir())
         QCoreApplication::setLibraryPaths({plugins});
     SystemSession::Native().RestrictLibraries();

@@ -32,6 +32,10 @@ public:
     /// Before the application object is made: leaves out what Qt would load and this program never uses.
     virtual void PrepareApplication() const = 0;
 
+    /// Sets the variables by which the system finds its own folders to what they are, whatever a user has set
+    /// them to.
+    virtual void ResetVariables() const = 0;
+
     /// From now on libraries come from the program's own folder and the system's alone, and none from another
     /// machine, where the system can see to that.
     virtual void RestrictLibraries() const = 0;

@@ -38,6 +38,8 @@ public:
             qputenv("QT_XCB_GL_INTEGRATION", "none");
     }
 
+    void ResetVariables() const override {}
+
     /// What the loader goes by was read before the program has begun.
     void RestrictLibraries() const override {}
 

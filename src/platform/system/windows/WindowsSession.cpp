@@ -25,18 +25,17 @@ constexpr wchar_t SystemAdministratorsOwner[] = L"D:P(A;;FA;;;SY)(A;;FA;;;BA)(A;
 constexpr wchar_t SystemAdministratorsSet[] = L"D:P(A;;0x1F0003;;;SY)(A;;0x1F0003;;;BA)(A;;RC;;;OW)";
 
 /// The product's folder in one of the system's, such as "C:\ProgramData\Velmora RYX", with the separators
-/// that Qt uses. `variable` names the system's folder, too.
-QString ProductFolder(const KNOWNFOLDERID& id, const char* variable) {
+/// that Qt uses.
+QString ProductFolder(const KNOWNFOLDERID& id) {
     PWSTR folder = nullptr;
-    const HRESULT result = SHGetKnownFolderPath(id, KF_FLAG_DEFAULT, nullptr, &folder);
+    SHGetKnownFolderPath(id, KF_FLAG_DONT_VERIFY, nullptr, &folder);
     const std::unique_ptr<wchar_t, decltype(&CoTaskMemFree)> owner(folder, &CoTaskMemFree);
-    const QString base = SUCCEEDED(result) ? QString::fromWCharArray(folder) : qEnvironmentVariable(variable);
-    return QString(base).replace(QLatin1Char('\\'), QLatin1Char('/')) + QLatin1Char('/') +
-           QLatin1String(Product::Name);
+    return QString::fromWCharArray(folder ? folder : L"").replace(QLatin1Char('\\'), QLatin1Char('/')) +
+           QLatin1Char('/') + QLatin1String(Product::Name);
 }
 
 QString SharedFolder() {
-    return ProductFolder(FOLDERID_ProgramData, "ProgramData");
+    return ProductFolder(FOLDERID_ProgramData);
 }
 
 /// What the system tells of its clock; the documented part of the structure ends before the bias.
@@ -71,6 +70,18 @@ public:
     }
 
     void PrepareApplication() const override {}
+
+    /// The system makes the names of its folders, that of ProgramData as well, from the process's variables.
+    void ResetVariables() const override {
+        wchar_t folder[MAX_PATH];
+        const UINT length = GetSystemWindowsDirectoryW(folder, MAX_PATH);
+        if (length < 3 || length >= MAX_PATH)
+            return;
+        for (const wchar_t* name : {L"SystemRoot", L"windir"})
+            SetEnvironmentVariableW(name, folder);
+        folder[2] = L'\0'; // behind the drive
+        SetEnvironmentVariableW(L"SystemDrive", folder);
+    }
 
     /// Those that the program is linked with are there already: Windows looks for them in the program's
     /// folder first. The system's are not to be preferred, for other programs leave theirs there under the
@@ -129,7 +140,7 @@ public:
 
     QString SharedLogFolder() const override { return SharedFolder() + QStringLiteral("/log"); }
 
-    QString UserDataFolder() const override { return ProductFolder(FOLDERID_LocalAppData, "LOCALAPPDATA"); }
+    QString UserDataFolder() const override { return ProductFolder(FOLDERID_LocalAppData); }
 
     bool IsEnding(bool) const override { return GetSystemMetrics(SM_SHUTTINGDOWN) != 0; }
 
