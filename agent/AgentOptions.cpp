@@ -62,7 +62,6 @@ AgentOptions AgentOptions::Of(const QStringList& commandLine) {
         options.help = parser.helpText();
     const bool areArgumentsLost = !options.arguments.isEmpty() && !options.program;
     if (options.problem.isEmpty() && (areArgumentsLost || (options.takesConsole && options.isService)))
-        options.problem =
-            QStringLiteral("arguments are for --launch alone, and a service has no console");
+        options.problem = QStringLiteral("arguments are for --launch alone, and a service has no console");
     return options;
 }
