@@ -75,9 +75,13 @@ void InitLogger(const std::string& name, const std::string& dir, const unsigned&
     static std::string programName; // glog keeps the pointer
     programName = name;
     google::InitGoogleLogging(programName.c_str());
-    FLAGS_logtostderr = false; // as the next three, the user's environment may have set it
+    // glog has read the user's environment before anything of this program ran.
+    FLAGS_logtostderr = false;
+    FLAGS_logtostdout = false;
     FLAGS_minloglevel = google::GLOG_INFO;
     FLAGS_log_prefix = true;
+    FLAGS_log_year_in_prefix = true;
+    FLAGS_log_utc_time = false;
     FLAGS_timestamp_in_logfile_name = true;
     FLAGS_max_log_size = static_cast<google::uint32>(maxFileMegabytes);
     FLAGS_logbufsecs = 0;
