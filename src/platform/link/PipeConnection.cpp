@@ -69,7 +69,6 @@ bool PipeConnection::Accepts(const PipePeer& server) {
 }
 
 void PipeConnection::OnConnected() {
-    m_backoff.Reset();
     m_decoder.Reset();
     m_waiting = false;
     m_up = true;
@@ -126,6 +125,8 @@ bool PipeConnection::ReadSome() {
     while ((result = m_decoder.Next(events.back().frame)) == FrameDecoder::Result::Frame)
         events.emplace_back();
     events.pop_back();
+    if (!events.empty()) // a service that only accepts and ends connections is not asked all the time
+        m_backoff.Reset();
     Push(std::move(events));
     if (result != FrameDecoder::Result::TooLong)
         return true;
