@@ -35,6 +35,8 @@ QString EnrolmentStore::Write(const std::optional<Enrolment>& enrolment) {
     QFile old(path);
     QJsonObject keys;
     if (old.exists()) { // what stands there and cannot be read must not be lost
+        if (!QFileInfo(old).isFile())
+            return path + QStringLiteral(": it is no file");
         if (!old.open(QIODevice::ReadOnly))
             return path + QStringLiteral(": ") + old.errorString();
         QJsonParseError error{};

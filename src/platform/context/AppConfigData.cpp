@@ -6,10 +6,13 @@
 #include "platform/system/SystemSession.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <algorithm>
 #include <memory>
 
 namespace {
+
+constexpr qint64 MostBytes = 1024 * 1024;
 
 template <class Value>
 bool Read(const Json::Value& value, Value& field) {
@@ -68,6 +71,9 @@ std::vector<std::string> AppConfigData::Load(const std::string& path, const std:
         return std::vector<std::string>{"uses the defaults: " + path + ": " + why};
     };
     QFile file(QString::fromStdString(path));
+    // Reading something else, such as a pipe that nobody writes to, could take for ever.
+    if (const QFileInfo info(file); info.exists() && (!info.isFile() || info.size() > MostBytes))
+        return defaults("it is no file of at most " + std::to_string(MostBytes) + " bytes");
     if (!file.open(QIODevice::ReadOnly))
         return defaults(file.errorString().toStdString());
     const std::string text = file.readAll().toStdString();
