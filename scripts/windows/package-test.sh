@@ -140,7 +140,7 @@ test_package() {
     stop_agent
     local left
     left=$(comm -13 "$work/before" <(list_places) |
-        grep --invert-match -e "^ProgramData/$name\(/log\(/.*\)\?\|/ryx.json\)\?\$" -e "^users/[^/]*/AppData/" || true)
+        grep --invert-match -e "^ProgramData/$name\(/log\(/.*\)\?\|/ryx.json\(.old-.*\)\?\)\?\$" -e "^users/[^/]*/AppData/" || true)
     [ -z "$left" ] || fail "Files are left behind: $left"
 }
 

@@ -38,6 +38,7 @@ TEST(WindowsRights, AFolderThatIsThereIsTakenOverWithoutWhatOthersMayHaveConfigu
     EXPECT_TRUE(make() && trusted() && folder.exists(QStringLiteral("ryx.json")));
     write("log/1-User.log");
     const auto everybody = MakeAccessList(L"D:P(A;OICI;FA;;;WD)");
+    EXPECT_TRUE(folder.remove(QStringLiteral("ryx.json")) && folder.mkpath(QStringLiteral("ryx.json/x")));
     SetFileSecurityW(folder.path().toStdWString().c_str(), DACL_SECURITY_INFORMATION, everybody.get());
     EXPECT_FALSE(trusted());
     EXPECT_TRUE(make() && trusted() && folder.exists(QStringLiteral("log/1-User.log")));

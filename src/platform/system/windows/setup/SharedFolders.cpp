@@ -4,6 +4,7 @@
 #include "platform/system/windows/OwnedHandle.h"
 
 #include <sddl.h>
+#include <string>
 
 namespace {
 
@@ -26,41 +27,30 @@ void TakeRightToRestore() {
         AdjustTokenPrivileges(token.get(), FALSE, &privileges, 0, nullptr, nullptr);
 }
 
-/// Opens what stands at the path, a folder or a link as well.
-FileHandle Open(const fs::path& path, DWORD access) {
-    return FileHandle(
-        CreateFileW(path.c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                    OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
+/// Gives what stands at the path another name; true when there is nothing.
+bool PutAside(const fs::path& path) {
+    const fs::path aside = fs::path(path) += L".old-" + std::to_wstring(GetTickCount64());
+    return MoveFileExW(path.c_str(), aside.c_str(), 0) || GetLastError() == ERROR_FILE_NOT_FOUND ||
+           GetLastError() == ERROR_PATH_NOT_FOUND;
 }
 
-/// Removes a file, a link or an empty folder; true when there is none.
-bool Remove(const fs::path& path) {
-    const FileHandle file = Open(path, DELETE | FILE_WRITE_ATTRIBUTES);
-    if (file.get() == INVALID_HANDLE_VALUE)
-        return GetLastError() == ERROR_FILE_NOT_FOUND || GetLastError() == ERROR_PATH_NOT_FOUND;
-    FILE_BASIC_INFO writable{};
-    writable.FileAttributes = FILE_ATTRIBUTE_NORMAL;
-    FILE_DISPOSITION_INFO end{TRUE};
-    return SetFileInformationByHandle(file.get(), FileBasicInfo, &writable, sizeof writable) &&
-           SetFileInformationByHandle(file.get(), FileDispositionInfo, &end, sizeof end);
-}
-
-/// Makes the folder, or gives the one that is there to the administrators, with this list. What is in it
-/// keeps its own: it may be another name of any file of the system.
+/// Makes the folder. Only one that is the administrators' is taken over, with this list: whoever made another
+/// one may hold handles that keep the rights they were opened with. What is in it keeps its own list: it may
+/// be another name of any file of the system.
 bool Take(const fs::path& folder, const wchar_t* owner) {
     PSECURITY_DESCRIPTOR made = nullptr;
     if (!ConvertStringSecurityDescriptorToSecurityDescriptorW(owner, SDDL_REVISION_1, &made, nullptr))
         return false;
     const std::unique_ptr<void, decltype(&LocalFree)> descriptor(made, &LocalFree);
-    const DWORD there = GetFileAttributesW(folder.c_str());
-    const bool isFolder = there != INVALID_FILE_ATTRIBUTES && there & FILE_ATTRIBUTE_DIRECTORY &&
-                          !(there & FILE_ATTRIBUTE_REPARSE_POINT);
-    if (!isFolder && !Remove(folder))
-        return false;
-    SECURITY_ATTRIBUTES attributes{sizeof attributes, descriptor.get(), FALSE};
-    if (!CreateDirectoryW(folder.c_str(), &attributes) && GetLastError() != ERROR_ALREADY_EXISTS)
-        return false;
-    const FileHandle opened = Open(folder, WRITE_OWNER | WRITE_DAC);
+    const FileRights rights = FileRights::Of(folder);
+    std::error_code error; // no folder either
+    if (!rights.isOwnedByAdministrators || rights.isLink || !fs::is_directory(folder, error)) {
+        SECURITY_ATTRIBUTES attributes{sizeof attributes, descriptor.get(), FALSE};
+        return PutAside(folder) && CreateDirectoryW(folder.c_str(), &attributes);
+    }
+    const FileHandle opened(CreateFileW(
+        folder.c_str(), WRITE_OWNER | WRITE_DAC, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+        nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
     return opened.get() != INVALID_HANDLE_VALUE &&
            SetKernelObjectSecurity(opened.get(),
                                    OWNER_SECURITY_INFORMATION | DACL_SECURITY_INFORMATION |
@@ -76,6 +66,6 @@ bool MakeSharedFolders(const fs::path& folder) {
     const fs::path configuration = folder / L"ryx.json";
     const bool isTrusted = FileRights::Of(folder).WhyNotTrusted().empty() &&
                            FileRights::Of(configuration).WhyNotTrusted().empty();
-    return Take(folder, ReadByUsers) && (isTrusted || Remove(configuration)) &&
+    return Take(folder, ReadByUsers) && (isTrusted || PutAside(configuration)) &&
            Take(folder / L"log", AddedToByUsers);
 }
