@@ -127,8 +127,8 @@ test_package() {
     say "$kind: refusing an older version, and files in use"
     forget_what_agent_said
     expect_refusal "$2" install "$kind" "$older.$kind"
-    ! agent_said "front end" || fail "A refused version has ended the product."
-    comes_back expect_refusal "$3" hold_a_file install "$kind" "$current.$kind"
+    expect_refusal "$3" hold_a_file install "$kind" "$current.$kind"
+    ! agent_said "front end" || fail "A refused installation has ended the product."
     comes_back install "$kind" "$older.$kind" force
     [ -e "$installed/licences/older.txt" ] || fail "The older version could not be forced."
 

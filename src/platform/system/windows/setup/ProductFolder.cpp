@@ -1,5 +1,6 @@
 #include "platform/system/windows/setup/ProductFolder.h"
 
+#include "platform/system/windows/OwnedHandle.h"
 #include "platform/system/windows/setup/ProductInstances.h"
 
 #include <algorithm>
@@ -7,8 +8,6 @@
 #include <iostream>
 #include <utility>
 #include <vector>
-
-#include <windows.h>
 
 namespace {
 
@@ -19,11 +18,23 @@ constexpr std::chrono::seconds Grace(5);
 constexpr std::chrono::seconds Limit(20);
 constexpr DWORD LookMs = 100;
 
-/// Whether no program runs the file, has it loaded or holds it open.
-bool IsFree(const fs::path& file) {
-    const HANDLE handle = CreateFileW(file.c_str(), GENERIC_READ | GENERIC_WRITE | DELETE, 0, nullptr,
-                                      OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-    return handle != INVALID_HANDLE_VALUE && CloseHandle(handle);
+/// Access that nobody is given alone while a program holds the file open; of one that is only run or loaded
+/// no handle is left.
+constexpr DWORD UnlessHeld = GENERIC_READ;
+/// Access that nobody is given while a program runs the file or has it loaded either.
+constexpr DWORD UnlessUsed = GENERIC_READ | GENERIC_WRITE | DELETE;
+
+/// Tries until it succeeds, for as long as the limit. The attempt is told how long it has been tried.
+template <typename Attempt>
+bool IsDoneInTime(Attempt attempt) {
+    using Clock = std::chrono::steady_clock;
+    const Clock::time_point start = Clock::now();
+    while (!attempt(Clock::now() - start)) {
+        if (Clock::now() - start > Limit)
+            return false;
+        Sleep(LookMs);
+    }
+    return true;
 }
 
 /// What the folder holds, with `last` at the end.
@@ -46,19 +57,21 @@ ProductFolder::ProductFolder(fs::path folder)
 bool ProductFolder::Free() {
     if (!fs::exists(m_folder))
         return true;
-    using Clock = std::chrono::steady_clock;
-    for (const Clock::time_point start = Clock::now();; Sleep(LookMs)) {
-        const bool isAside = PutAside();
-        const std::vector<unsigned long> instances = InstancesIn(m_folder);
-        if (isAside && instances.empty() && AreFilesFree())
-            return true;
-        const Clock::duration waited = Clock::now() - start;
-        if (waited > Limit)
-            break;
-        std::for_each(instances.begin(), instances.end(), waited > Grace ? &Terminate : &AskToEnd);
-    }
+    // Who holds a file may keep the product from being replaced, but must not get a lock away by it.
+    if (IsDoneInTime([this](auto) { return AreFilesFree(UnlessHeld); }) &&
+        IsDoneInTime([this](auto waited) { return EndInstances(waited > Grace ? &Terminate : &AskToEnd); }))
+        return true;
     std::cout << "in use: " << m_busy.u8string() << '\n';
     Restore();
+    return false;
+}
+
+bool ProductFolder::EndInstances(void (*end)(unsigned long)) {
+    const bool isAside = PutAside();
+    const std::vector<unsigned long> instances = InstancesIn(m_folder);
+    if (isAside && instances.empty() && AreFilesFree(UnlessUsed))
+        return true;
+    std::for_each(instances.begin(), instances.end(), end);
     return false;
 }
 
@@ -75,11 +88,15 @@ void ProductFolder::Restore() {
         fs::rename(m_aside, m_program, error);
 }
 
-bool ProductFolder::AreFilesFree() {
+bool ProductFolder::AreFilesFree(unsigned long access) {
     try {
         for (const fs::directory_entry& entry : fs::recursive_directory_iterator(m_folder)) {
             m_busy = entry.path();
-            if (entry.is_regular_file() && m_busy.filename() != Uninstaller && !IsFree(m_busy))
+            if (!entry.is_regular_file() || m_busy.filename() == Uninstaller)
+                continue;
+            const FileHandle file(CreateFileW(m_busy.c_str(), access, 0, nullptr, OPEN_EXISTING,
+                                              FILE_ATTRIBUTE_NORMAL, nullptr));
+            if (file.get() == INVALID_HANDLE_VALUE)
                 return false;
         }
         return true;

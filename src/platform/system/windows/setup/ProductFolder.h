@@ -8,8 +8,9 @@ class ProductFolder {
 public:
     explicit ProductFolder(std::filesystem::path folder);
 
-    /// Puts the front end's program aside, so that nobody starts it anew, ends all instances, and waits until
-    /// no program uses a file of the folder. False when that takes too long; then the program is put back.
+    /// Waits until no other program holds a file of the folder open. Then puts the front end's program aside,
+    /// so that nobody starts it anew, ends all instances, and waits until no program uses a file. False when
+    /// one of the two takes too long; then the program is in its place.
     bool Free();
 
     /// Puts the program back that Free has put aside, unless there is a new one in its place.
@@ -20,8 +21,11 @@ public:
     bool Replace(const std::filesystem::path& with);
 
 private:
+    /// Ends what runs there, each by `end`; true when nothing does any more. To be tried again.
+    bool EndInstances(void (*end)(unsigned long));
     bool PutAside() const;
-    bool AreFilesFree();
+    /// Whether this access, and at the same time no other one, is given to each file.
+    bool AreFilesFree(unsigned long access);
 
     std::filesystem::path m_folder;
     std::filesystem::path m_program;
