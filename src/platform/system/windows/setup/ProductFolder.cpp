@@ -52,11 +52,13 @@ std::vector<fs::path> EntriesOf(const fs::path& folder, const fs::path& last) {
 ProductFolder::ProductFolder(fs::path folder)
     : m_folder(std::move(folder)),
       m_program(m_folder / L"velmora-ryx.exe"),
-      m_aside(m_folder / L"velmora-ryx.exe.ended") {}
+      m_aside(m_folder / L"velmora-ryx.exe.ended"),
+      m_old(fs::path(m_folder) += L".old") {}
 
 bool ProductFolder::Free() {
     if (!fs::exists(m_folder))
         return true;
+    Recover();
     // Who holds a file may keep the product from being replaced, but must not get a lock away by it.
     if (IsDoneInTime([this](auto) { return AreFilesFree(UnlessHeld); }) &&
         IsDoneInTime([this](auto waited) { return EndInstances(waited > Grace ? &Terminate : &AskToEnd); }))
@@ -64,6 +66,17 @@ bool ProductFolder::Free() {
     std::cout << "in use: " << m_busy.u8string() << '\n';
     Restore();
     return false;
+}
+
+void ProductFolder::Recover() const {
+    if (!fs::exists(m_program) && fs::exists(m_old)) {
+        for (const fs::path& entry : EntriesOf(m_old, m_aside.filename())) {
+            const fs::path back = m_folder / entry.filename();
+            fs::remove_all(back); // of the new version, which was never whole
+            fs::rename(entry, back);
+        }
+    }
+    fs::remove_all(m_old);
 }
 
 bool ProductFolder::EndInstances(void (*end)(unsigned long)) {
@@ -106,7 +119,6 @@ bool ProductFolder::AreFilesFree(unsigned long access) {
 }
 
 bool ProductFolder::Replace(const fs::path& with) {
-    const fs::path old = fs::path(m_folder) += L".old";
     std::vector<std::pair<fs::path, fs::path>> moves;
     const auto move = [&](const fs::path& from, const fs::path& to) {
         fs::create_directory(to);
@@ -116,23 +128,20 @@ bool ProductFolder::Replace(const fs::path& with) {
         }
     };
     std::error_code ignored; // what is left of the old ones hinders nobody, and goes the next time
-    bool isReplaced = true;
     try {
-        fs::remove_all(old);
         if (fs::exists(m_folder))
-            move(m_folder, old);
+            move(m_folder, m_old);
         move(with, m_folder);
         fs::remove(with, ignored);
     } catch (const fs::filesystem_error& error) {
         std::cout << error.what() << '\n';
         std::for_each(moves.rbegin(), moves.rend(),
                       [&ignored](const auto& done) { fs::rename(done.second, done.first, ignored); });
-        Restore();
-        isReplaced = false;
+        fs::remove(m_old, ignored);
+        if (!fs::exists(m_old, ignored)) // all is back; otherwise the next run begins with the rest
+            Restore();
+        return false;
     }
-    if (isReplaced)
-        fs::remove_all(old, ignored);
-    else
-        fs::remove(old, ignored); // what could not be put back stays
-    return isReplaced;
+    fs::remove_all(m_old, ignored);
+    return true;
 }

@@ -8,9 +8,10 @@ class ProductFolder {
 public:
     explicit ProductFolder(std::filesystem::path folder);
 
-    /// Waits until no other program holds a file of the folder open. Then puts the front end's program aside,
-    /// so that nobody starts it anew, ends all instances, and waits until no program uses a file. False when
-    /// one of the two takes too long; then the program is in its place.
+    /// Puts back what a run that was killed has left in the old place. Waits until no other program holds a
+    /// file of the folder open. Then puts the front end's program aside, so that nobody starts it anew, ends
+    /// all instances, and waits until no program uses a file. False when one of the two takes too long; then
+    /// the program is in its place.
     bool Free();
 
     /// Puts the program back that Free has put aside, unless there is a new one in its place.
@@ -21,6 +22,8 @@ public:
     bool Replace(const std::filesystem::path& with);
 
 private:
+    /// While the program is in its place, the product is whole: Replace moves it away first and here last.
+    void Recover() const;
     /// Ends what runs there, each by `end`; true when nothing does any more. To be tried again.
     bool EndInstances(void (*end)(unsigned long));
     bool PutAside() const;
@@ -30,5 +33,6 @@ private:
     std::filesystem::path m_folder;
     std::filesystem::path m_program;
     std::filesystem::path m_aside;
+    std::filesystem::path m_old;
     std::filesystem::path m_busy;
 };
