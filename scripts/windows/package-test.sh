@@ -89,14 +89,12 @@ configure() {
     printf '{ "agentAccount": "%s" }\n' "$(id -un)" > "$shared/ryx.json"
 }
 
-# What a user has put there before is not taken over, and what a user may put there later is not followed.
-check_trust() {
-    [ ! -e "$shared/ryx.json" ] || fail "A configuration that users may have written was kept."
-    [ -d "$shared/log" ] || fail "There is no folder for the logs."
+# starts PROGRAM: the front end starts, and does not follow what a user may have configured.
+starts() {
     local before line="ignores agentAccount in .*: its folder may be changed by S-1-1-0"
     before=$(logged "$line")
     configure 777
-    wine "$installed/velmora-ryx.exe" -hide > /dev/null 2>&1 &
+    wine "$1" -hide > /dev/null 2>&1 &
     local distrusting=$!
     wait_for "the configuration is ignored" has_logged "$before" "$line"
     kill -KILL "$distrusting"
@@ -104,7 +102,8 @@ check_trust() {
     configure 755
 }
 
-# test_package KIND MARK REFUSED IN_USE: MARK is its entry in the registry, the others are its exit codes.
+# test_package KIND OLDER IN_USE OTHER OTHERS: the exit codes with which it refuses an older version and a file in use,
+# and the other kind of package with that one's exit code when it refuses to install over this one.
 test_package() {
     local kind=$1 key="HKEY_LOCAL_MACHINE\\Software\\$vendor\\$name"
     say "$kind: installing an older version, and locking"
@@ -112,7 +111,9 @@ test_package() {
     mkdir -p "$shared"
     configure 777
     install "$kind" "$older.$kind" || fail "It cannot be installed: $?."
-    check_trust
+    [ ! -e "$shared/ryx.json" ] || fail "A configuration that users may have written was kept."
+    [ -d "$shared/log" ] || fail "There is no folder for the logs."
+    starts "$installed/velmora-ryx.exe"
     check_signatures
     has_key "$key" || fail "The registry does not know the version."
     grep --quiet "Start Menu/.*/$name.lnk\$" <(list_places) || fail "The start menu has no entry."
@@ -124,9 +125,10 @@ test_package() {
     agent_said "front end ended with exit code 0" || fail "The front end was not asked to end."
     diff <(sums_of "$stage") <(sums_of "$installed") || fail "It is not what the ZIP holds."
 
-    say "$kind: refusing an older version, and files in use"
+    say "$kind: refusing an older version, the other kind of package, and files in use"
     forget_what_agent_said
     expect_refusal "$2" install "$kind" "$older.$kind"
+    expect_refusal "$5" install "$4" "$current.$4"
     expect_refusal "$3" hold_a_file install "$kind" "$current.$kind"
     ! agent_said "front end" || fail "A refused installation has ended the product."
     comes_back install "$kind" "$older.$kind" force
@@ -159,12 +161,14 @@ test_packages() {
     older=$work/older-package
     make_older
     check_files "$stage" "$packages/${stage##*/}.zip"
+    mkdir -p "$shared"
+    starts "$work/zip/${stage##*/}/velmora-ryx.exe"
     mkdir "$work/agent"
     cp "$build/bin/ryx-agent.exe" "$work/agent"
     ln -s "$RYX_WINDOWS_SDK"/bin/*.dll "$work/agent"
     wine "$build/bin/keep_desktop.exe" > /dev/null 2>&1 &
     disown
-    test_package exe 21 20
     # Of Windows Installer's codes the lowest eight bits are left. Wine tells an action that failed with one of its own.
-    test_package msi $((1603 % 256)) $((1627 % 256))
+    test_package exe 21 20 msi $((1603 % 256))
+    test_package msi $((1603 % 256)) $((1627 % 256)) exe 22
 }
