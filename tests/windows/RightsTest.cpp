@@ -26,7 +26,7 @@ TEST(WindowsRights, TellWhoElseMayChangeAFile) {
 
 TEST(WindowsRights, AFolderThatIsThereIsTakenOverWithoutWhatOthersMayHaveConfigured) {
     const QTemporaryDir temp;
-    const QDir folder(temp.filePath(QStringLiteral("Velmora RYX")));
+    QDir folder(temp.filePath(QStringLiteral("Velmora RYX")));
     const auto make = [&] { return MakeSharedFolders(folder.path().toStdWString()); };
     const auto write = [&](const char* name) {
         EXPECT_TRUE(QFile(folder.filePath(QLatin1String(name))).open(QIODevice::WriteOnly));
