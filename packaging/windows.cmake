@@ -1,6 +1,10 @@
 # What makes the built programs a Windows product: version resource, icon, manifest, what is installed.
 
 option(RYX_UI_ACCESS "Let the lock stand above the shell's windows; needs a signature and Program Files" OFF)
+if(RYX_UI_ACCESS AND RYX_CONFIG_OVERRIDE)
+    message(FATAL_ERROR "RYX_UI_ACCESS gives the program rights above those of the user's other programs, and "
+        "RYX_CONFIG_OVERRIDE lets them steer it: use the preset windows-package.")
+endif()
 
 string(REPLACE "." "," RYX_RC_VERSION "${PROJECT_VERSION}")
 string(REPLACE " " "." RYX_ASSEMBLY_NAME "${RYX_PRODUCT_NAME}")
