@@ -8,8 +8,7 @@ list_parts() {
     "$ROOT/packaging/list-parts" "$1" "$2" "$name" "$vendor" "$version" MIT "$3"
 }
 
-# newer_than VERSION, older_than VERSION: the one that differs in the last number.
-newer_than() { echo "${1%.*}.$((${1##*.} + 1))"; }
+# older_than VERSION: the one before it in the last number.
 older_than() { echo "${1%.*}.$((${1##*.} - 1))"; }
 
 # wait_for WHAT COMMAND...: until the command succeeds, for at most a minute.
