@@ -129,7 +129,8 @@ test_package() {
     forget_what_agent_said
     expect_refusal "$2" install "$kind" "$older.$kind"
     expect_refusal "$5" install "$4" "$current.$4"
-    expect_refusal "$3" hold_a_file install "$kind" "$current.$kind"
+    expect_refusal "$3" hold_a_file install "$kind" "$older.$kind" force
+    [ "$kind" = exe ] || expect_refusal 0 install msi "$current.msi" # which is installed already
     ! agent_said "front end" || fail "A refused installation has ended the product."
     comes_back install "$kind" "$older.$kind" force
     [ -e "$installed/licences/older.txt" ] || fail "The older version could not be forced."
