@@ -3,6 +3,7 @@
 #include "KeyText.h"
 
 #include <QLocalSocket>
+#include <utility>
 
 namespace {
 
@@ -57,7 +58,8 @@ void AgentServer::Accept(qintptr descriptor) {
         return;
     }
     if (m_clients.size() == MostClients) {
-        m_log.Line("one client too many was refused");
+        if (!std::exchange(m_isFull, true)) // whoever tries again all the time does not fill the log
+            m_log.Line("no more clients are served than " + std::to_string(MostClients));
         delete socket;
         return;
     }
@@ -69,6 +71,7 @@ void AgentServer::Accept(qintptr descriptor) {
         socket->deleteLater();
         if (m_clients.erase(number) == 0)
             return;
+        m_isFull = false;
         Tell(number, "disconnected");
         emit ClientGone(number);
     });

@@ -66,5 +66,6 @@ private:
     std::unique_ptr<SystemService::Listener> m_listener;
     std::map<int, Client> m_clients;
     int m_lastClient = 0;
+    bool m_isFull = false; // and somebody was refused
     bool m_showBodies = false;
 };

@@ -12,6 +12,9 @@
 
 namespace {
 
+/// As the front ends of all users must, whatever permissions this process gives its files by default.
+constexpr QFile::Permissions EveryoneReads = QFile::ReadGroup | QFile::ReadOther;
+
 QJsonArray List(const std::vector<std::string>& texts) {
     QJsonArray list;
     for (const std::string& text : texts)
@@ -55,9 +58,13 @@ QString EnrolmentStore::Write(const std::optional<Enrolment>& enrolment) {
         keys[QLatin1String("deviceTags")] = List(enrolment->tags);
         keys[QLatin1String("permissionList")] = List(enrolment->permissions);
     }
-    QDir().mkpath(QFileInfo(path).path());
+    const QString folder = QFileInfo(path).path();
+    if (!QFileInfo::exists(folder) && QDir().mkpath(folder))
+        QFile::setPermissions(folder,
+                              QFile::permissions(folder) | EveryoneReads | QFile::ExeGroup | QFile::ExeOther);
     QSaveFile file(path);
-    const bool written =
-        file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(keys).toJson()) >= 0 && file.commit();
+    const bool written = file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(keys).toJson()) >= 0 &&
+                         file.commit() &&
+                         QFile::setPermissions(path, QFile::permissions(path) | EveryoneReads);
     return written ? QString() : path + QStringLiteral(": ") + file.errorString();
 }
