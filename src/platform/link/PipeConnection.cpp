@@ -61,10 +61,13 @@ bool PipeConnection::Accepts(const PipePeer& server) {
             trusted.append(m_accountId);
         refusal = PipeTrust::Refusal(server, trusted);
     }
-    if (std::exchange(m_refused, refusal) != refusal && !refusal.isEmpty())
+    if (std::exchange(m_refused, refusal) != refusal && !refusal.isEmpty()) {
+        LOG_IF(WARNING, !m_server.account.isEmpty() && m_accountId.isEmpty())
+            << "PipeConnection::Accepts knows no account " << LogText(m_server.account);
         LOG(WARNING) << "PipeConnection::Accepts refused " << LogText(m_server.name) << ", which process "
                      << server.process << " serves: " << LogText(refusal)
                      << "; trusted: " << LogText(trusted.join(QStringLiteral(", ")));
+    }
     return refusal.isEmpty();
 }
 
@@ -79,7 +82,7 @@ void PipeConnection::OnConnected() {
 void PipeConnection::OnDropped() {
     if (m_up) {
         // What lies in the socket at its end is little enough to be taken also where reading has paused.
-        while (m_socket.bytesAvailable() > 0 && ReadSome()) {
+        while (m_socket.isOpen() && m_socket.bytesAvailable() > 0 && ReadSome()) {
         }
         m_up = false;
         if (m_decoder.PendingSize() > 0)
