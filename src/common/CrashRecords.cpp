@@ -1,12 +1,12 @@
 #include "common/CrashRecords.h"
 
 #include "platform/security/LogText.h"
+#include "platform/system/FileRights.h"
 #include "platform/system/SystemCrash.h"
 #include "platform/system/SystemSession.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QLocale>
 #include <algorithm>
@@ -17,15 +17,14 @@ namespace {
 constexpr int Kept = 5;
 constexpr char New[] = ".new"; // behind the name until a start has told of it
 
-/// This user's: in a folder that all users share, those of the others cannot be opened.
+/// Of this user, also in a folder that all users share.
 QFileInfoList NewestFirst(const QDir& folder) {
     QFileInfoList records =
         folder.entryInfoList({QStringLiteral("*-Crash.*")}, QDir::Files | QDir::NoSymLinks, QDir::Time);
-    records.erase(std::remove_if(records.begin(), records.end(),
-                                 [](const QFileInfo& record) {
-                                     return !QFile(record.filePath()).open(QIODevice::ReadOnly);
-                                 }),
-                  records.end());
+    const auto isOthers = [](const QFileInfo& record) {
+        return !FileRights::Of(std::filesystem::u8path(record.filePath().toStdString())).isOwn;
+    };
+    records.erase(std::remove_if(records.begin(), records.end(), isOthers), records.end());
     return records;
 }
 

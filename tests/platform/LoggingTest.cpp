@@ -23,7 +23,7 @@ void Touch(const QTemporaryDir& folder, const QString& name) {
 TEST(Logging, KeepsTheNewestFilesAndEndsTwiceInPeace) {
     const QTemporaryDir folder;
     for (int day = 10; day < 22; ++day)
-        Touch(folder, QStringLiteral("1-User.202001%1-120000.7").arg(day));
+        Touch(folder, QStringLiteral("%1-User.202001%2-120000.7").arg((day + 1) % 2).arg(day));
     Touch(folder, QStringLiteral("1-Other.20200101-120000.7"));
 
     FLAGS_logtostderr = true; // as a user's environment can set it
@@ -37,8 +37,8 @@ TEST(Logging, KeepsTheNewestFilesAndEndsTwiceInPeace) {
 
     const QStringList files = Files(folder);
     ASSERT_EQ(files.size(), 11) << files.join(QLatin1Char(' ')).toStdString();
-    EXPECT_EQ(files.first(), QStringLiteral("1-Other.20200101-120000.7"));
-    EXPECT_EQ(files[1], QStringLiteral("1-User.20200113-120000.7"));
+    EXPECT_EQ(files.first(), QStringLiteral("0-User.20200113-120000.7")) << "of an earlier session";
+    EXPECT_TRUE(files.contains(QStringLiteral("1-Other.20200101-120000.7")));
     QFile newest(folder.filePath(files.last()));
     ASSERT_TRUE(newest.open(QIODevice::ReadOnly));
     const QByteArray text = newest.readAll();

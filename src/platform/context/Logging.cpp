@@ -1,12 +1,14 @@
 #include "platform/context/Logging.h"
 
 #include "platform/security/LogText.h"
+#include "platform/system/FileRights.h"
 #include "platform/system/SystemSession.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QScopedValueRollback>
+#include <algorithm>
 #include <glog/logging.h>
 #include <memory>
 
@@ -19,8 +21,12 @@ thread_local bool isWriting = false;
 /// the administrators only, and the oldest ones go.
 class OwnLogFiles : public google::base::Logger {
 public:
+    /// Files of every session count: `name` begins with the session's number.
     OwnLogFiles(google::base::Logger* files, const QString& dir, const QString& name, int keep)
-        : m_files(files), m_dir(dir), m_pattern(name + QStringLiteral(".*")), m_keep(keep) {}
+        : m_files(files),
+          m_dir(dir),
+          m_pattern(QLatin1Char('*') + name.mid(name.indexOf(QLatin1Char('-'))) + QStringLiteral(".*")),
+          m_keep(keep) {}
 
     google::base::Logger* Files() const { return m_files; }
 
@@ -36,9 +42,12 @@ public:
 
 private:
     void OnNewFile() const {
-        // The time in the names makes the order of names the order of age.
-        const QStringList names =
-            m_dir.entryList({m_pattern}, QDir::Files | QDir::NoSymLinks, QDir::Name | QDir::Reversed);
+        QStringList names;
+        for (const QString& name : m_dir.entryList({m_pattern}, QDir::Files | QDir::NoSymLinks))
+            if (IsOwn(name)) // in a folder that all users share, others could have ten newer ones
+                names.append(name);
+        std::sort(names.begin(), names.end(),
+                  [](const QString& one, const QString& other) { return TimeIn(one) > TimeIn(other); });
         const QString mine = QLatin1Char('.') + QString::number(QCoreApplication::applicationPid());
         for (const QString& name : names)
             if (name.endsWith(mine))
@@ -46,6 +55,12 @@ private:
         for (int i = m_keep; i < names.size(); ++i)
             QFile::remove(m_dir.filePath(names[i]));
     }
+
+    bool IsOwn(const QString& name) const {
+        return FileRights::Of(std::filesystem::u8path(m_dir.filePath(name).toStdString())).isOwn;
+    }
+    /// Behind the session and the name; the process stands behind it.
+    static QString TimeIn(const QString& name) { return name.section(QLatin1Char('.'), 1); }
 
     google::base::Logger* m_files;
     QDir m_dir;

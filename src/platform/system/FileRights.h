@@ -10,6 +10,7 @@ struct FileRights {
     bool isOwnedByAdministrators = false; ///< or by the system
     std::string owner;                    ///< as the system counts accounts, for the log
     std::string writer; ///< somebody else who may change, replace or remove it; empty: there is nobody
+    bool isOwn = false; ///< belongs to whom the files belong that this process makes
 
     /// The rights of what stands at `path`, without following a link there. Any thread.
     static FileRights Of(const std::filesystem::path& path);

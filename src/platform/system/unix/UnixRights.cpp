@@ -1,6 +1,7 @@
 #include "platform/system/FileRights.h"
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 FileRights FileRights::Of(const std::filesystem::path& path) {
     struct stat facts {};
@@ -10,6 +11,7 @@ FileRights FileRights::Of(const std::filesystem::path& path) {
     rights.areKnown = true;
     rights.isLink = S_ISLNK(facts.st_mode);
     rights.isOwnedByAdministrators = facts.st_uid == 0;
+    rights.isOwn = facts.st_uid == ::geteuid();
     rights.owner = "user " + std::to_string(facts.st_uid);
     // With an access list, the group's part says what the list gives at most, to whomever.
     if (facts.st_mode & S_IWOTH)

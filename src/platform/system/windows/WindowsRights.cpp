@@ -16,22 +16,26 @@ std::string TextOf(PSID account) {
     return isText ? text : "an unknown account";
 }
 
-/// Whether this process runs as the account and has an administrator's rights, as everybody's has where user
-/// account control is off: nothing keeps that account's programs from what is for administrators only.
-bool IsAdministratorRunningThis(PSID account) {
-    alignas(SID) unsigned char group[SECURITY_MAX_SID_SIZE];
-    alignas(TOKEN_USER) unsigned char user[sizeof(TOKEN_USER) + SECURITY_MAX_SID_SIZE];
-    DWORD size = sizeof group;
-    BOOL isMember = FALSE;
-    if (!CreateWellKnownSid(WinBuiltinAdministratorsSid, nullptr, group, &size) ||
-        !CheckTokenMembership(nullptr, group, &isMember) || !isMember)
-        return false;
+/// Whether the token of this process has this account as `kind`, such as its user.
+bool IsOfThisProcess(PSID account, TOKEN_INFORMATION_CLASS kind) {
+    alignas(TOKEN_USER) unsigned char fact[sizeof(TOKEN_USER) + SECURITY_MAX_SID_SIZE];
+    DWORD size = 0;
     HANDLE opened = nullptr;
     if (!OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, &opened))
         return false;
     const ObjectHandle token(opened);
-    return GetTokenInformation(token.get(), TokenUser, user, sizeof user, &size) &&
-           EqualSid(account, reinterpret_cast<TOKEN_USER*>(user)->User.Sid);
+    return GetTokenInformation(token.get(), kind, fact, sizeof fact, &size) &&
+           EqualSid(account, *reinterpret_cast<PSID*>(fact)); // with which the structures of all kinds begin
+}
+
+/// Whether this process runs as the account and has an administrator's rights, as everybody's has where user
+/// account control is off: nothing keeps that account's programs from what is for administrators only.
+bool IsAdministratorRunningThis(PSID account) {
+    alignas(SID) unsigned char group[SECURITY_MAX_SID_SIZE];
+    DWORD size = sizeof group;
+    BOOL isMember = FALSE;
+    return CreateWellKnownSid(WinBuiltinAdministratorsSid, nullptr, group, &size) &&
+           CheckTokenMembership(nullptr, group, &isMember) && isMember && IsOfThisProcess(account, TokenUser);
 }
 
 bool IsAdministrative(PSID account) {
@@ -75,6 +79,7 @@ FileRights RightsIn(PSECURITY_DESCRIPTOR descriptor) {
     if (!rights.areKnown)
         return rights;
     rights.isOwnedByAdministrators = IsAdministrative(owner);
+    rights.isOwn = IsOfThisProcess(owner, TokenOwner) || IsOfThisProcess(owner, TokenUser);
     rights.owner = TextOf(owner);
     rights.writer = WriterIn(hasList ? list : nullptr);
     return rights;
