@@ -19,6 +19,10 @@ QString DataFolder() {
     return chosen.empty() ? SystemSession::Native().UserDataFolder() : QString::fromStdString(chosen);
 }
 
+QString OwnLogFolder() {
+    return DataFolder() + QStringLiteral("/log");
+}
+
 /// The folder that all users share, if an administrator has made it, which nobody else can in a folder that
 /// is trusted; otherwise one of the user's own.
 QString LogFolder() {
@@ -28,7 +32,7 @@ QString LogFolder() {
     const bool isUsed =
         shared.isDir() &&
         FileRights::Of(std::filesystem::u8path(shared.path().toStdString())).WhyNotTrusted().empty();
-    return isUsed ? shared.filePath() : DataFolder() + QStringLiteral("/log");
+    return isUsed ? shared.filePath() : OwnLogFolder();
 }
 
 QString TempFolder() {
@@ -53,8 +57,11 @@ void RemoveOldFiles(const QString& folder) {
 } // namespace
 
 std::wstring RyxPath::GetRyxLogDir() {
-    const QString folder = LogFolder();
-    QDir().mkpath(folder);
+    QString folder = LogFolder();
+    if (!QDir().mkpath(folder)) { // a name that cannot be, or a place that the user may not write
+        folder = OwnLogFolder();
+        QDir().mkpath(folder);
+    }
     return QDir::toNativeSeparators(folder).toStdWString();
 }
 
