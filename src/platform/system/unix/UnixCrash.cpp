@@ -36,6 +36,8 @@ void WriteTrace(int signal, const siginfo_t& info) {
     if (::write(file, line, static_cast<std::size_t>(length)) == length) {
         void* frames[100];
         ::backtrace_symbols_fd(frames, ::backtrace(frames, static_cast<int>(std::size(frames))), file);
+    } else {
+        ::unlink(recordFile); // the disk is full
     }
     ::close(file);
 }

@@ -87,8 +87,10 @@ void WriteDump(HANDLE process, const void* factsThere, const QString& path) {
         return;
     const QByteArray dump = MakeMinidump(process, facts);
     QFile file(path);
-    if (file.open(QIODevice::NewOnly | QIODevice::WriteOnly) && SystemSession::Native().KeepPrivate(path))
-        file.write(dump);
+    if (!file.open(QIODevice::NewOnly | QIODevice::WriteOnly))
+        return;
+    if (!SystemSession::Native().KeepPrivate(path) || file.write(dump) != dump.size() || !file.flush())
+        file.remove(); // half a record, as on a full disk, tells nothing
 }
 
 class WindowsCrash final : public SystemCrash {
