@@ -73,8 +73,8 @@ public:
         const int socket = ::socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0);
         if (socket < 0)
             return;
-        ::sendto(socket, Ready, sizeof Ready - 1, MSG_NOSIGNAL, reinterpret_cast<const sockaddr*>(&address),
-                 size);
+        ::sendto(socket, Ready, sizeof Ready - 1, MSG_NOSIGNAL | MSG_DONTWAIT,
+                 reinterpret_cast<const sockaddr*>(&address), size);
         ::close(socket);
     }
 };
