@@ -79,5 +79,6 @@ TEST(FrontEnds, RunInEachSessionAsLongAsItsUserIsThere) {
                                "front end of session 2 crashed or was killed, code 3221225477\n"
                                "front end of session 2 is started again in 1 s\n");
     }
-    EXPECT_NE(lines.str().find("front end of session 4 was ended\n"), std::string::npos) << "with the service";
+    EXPECT_NE(lines.str().find("front end of session 4 was ended\n"), std::string::npos)
+        << "with the service";
 }

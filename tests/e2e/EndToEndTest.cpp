@@ -253,9 +253,9 @@ TEST_F(EndToEndTest, ADamagedLockFileDoesNotKeepTheFrontEndFromStarting) {
         EXPECT_EQ(product.StartAgain({"-hide"}), 0) << "an instance that answers counts";
         product.FrontEnd().Kill();
     }
-    // A temporary folder that cannot be written: nothing can be locked there, and nobody answers.
+    // The user's own folder that cannot be written: nothing can be locked there, and nobody answers.
     ASSERT_TRUE(product.AgentSays("disconnected"));
-    product.SetVariable("TMPDIR=/proc");
+    product.SetVariable("XDG_RUNTIME_DIR=/proc/self");
     product.StartFrontEnd();
     EXPECT_TRUE(screen->WaitForWindow(MainPage::Title));
     EXPECT_TRUE(product.WaitForLog("cannot write its lock file"));

@@ -32,7 +32,8 @@ int main(int argc, char** argv) {
     QStandardPaths::setTestModeEnabled(true);
     const QTemporaryDir folder;
     qputenv("VELMORA_RYX_CONFIG", folder.filePath(QStringLiteral("ryx.json")).toLocal8Bit());
-    qputenv("TMPDIR", folder.path().toLocal8Bit());
+    for (const char* name : {"TMPDIR", "XDG_RUNTIME_DIR"})
+        qputenv(name, folder.path().toLocal8Bit());
 
     const auto application = MakeApplication(argc, argv);
     testing::InitGoogleTest(&argc, argv);

@@ -93,6 +93,7 @@ RunningProduct::Words RunningProduct::Environment() const {
     const int hoursToNoon = 12 - static_cast<int>(now / 3600 % 24);
     Words words{"DISPLAY=" + m_desktop.Display(),
                 "TMPDIR=" + Folder(),
+                "XDG_RUNTIME_DIR=" + Folder(),
                 "VELMORA_RYX_CONFIG=" + PathForPrograms(Folder() + "/ryx.json"),
                 "TZ=RYX" + std::to_string(-hoursToNoon),
                 "WAYLAND_DISPLAY",

@@ -52,7 +52,7 @@ public:
     virtual bool MarkFromInternet(const QString& file) const = 0;
 
     /// The native name, of a shared-memory segment or a pipe, of what this user has one of; where names are
-    /// files', in a folder that no other user writes, if there is one.
+    /// files', in a folder that no other user writes.
     virtual QString OwnName(const QString& name) const = 0;
 
     /// Frees a segment that a crashed process left behind, where the system does not do so by itself.

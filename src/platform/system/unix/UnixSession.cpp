@@ -53,13 +53,13 @@ public:
 
     bool MarkFromInternet(const QString&) const override { return true; }
 
-    /// The temporary folder counts when it was chosen: otherwise all users share it, and could take the
-    /// names first. The user's number keeps users apart in any case.
     QString OwnName(const QString& name) const override {
-        const QString own = qEnvironmentVariable("XDG_RUNTIME_DIR");
-        const bool isOwn = !qEnvironmentVariableIsSet("TMPDIR") && QFileInfo(own).ownerId() == ::getuid();
-        return QDir(isOwn ? own : QDir::tempPath())
-            .filePath(QStringLiteral("%1-%2").arg(name).arg(::getuid()));
+        QString folder = qEnvironmentVariable("XDG_RUNTIME_DIR");
+        if (QFileInfo(folder).ownerId() != ::getuid()) {
+            folder = UserDataFolder();
+            QDir().mkpath(folder);
+        }
+        return QDir(folder).filePath(name);
     }
 
     /// A segment outlives a process that was killed; the last one to detach takes it away.

@@ -37,6 +37,13 @@ bool IsDoneInTime(Attempt attempt) {
     return true;
 }
 
+/// A file that somebody has marked as read-only could be neither opened for writing nor removed.
+void MakeWritable(const fs::path& folder) {
+    std::error_code ignored;
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder, ignored))
+        fs::permissions(entry, fs::perms::owner_write, fs::perm_options::add, ignored);
+}
+
 /// What the folder holds, with `last` at the end.
 std::vector<fs::path> EntriesOf(const fs::path& folder, const fs::path& last) {
     std::vector<fs::path> entries;
@@ -58,6 +65,8 @@ ProductFolder::ProductFolder(fs::path folder)
 bool ProductFolder::Free() {
     if (!fs::exists(m_folder))
         return true;
+    MakeWritable(m_folder);
+    MakeWritable(m_old);
     Recover();
     // Who holds a file may keep the product from being replaced, but must not get a lock away by it.
     if (IsDoneInTime([this](auto) { return AreFilesFree(UnlessHeld); }) &&
