@@ -9,6 +9,7 @@
 !define NEWER_INSTALLED 21
 !define OTHER_PACKAGE 22
 !define NOT_WRITTEN 23 ; and what ryx-setup says: 20, in use; 23
+!define NOT_ALONE 24
 
 !define PRODUCT_KEY "Software\${VENDOR}\${NAME}"
 !define EVENT_KEY "SYSTEM\CurrentControlSet\Services\EventLog\Application\${NAME}"
@@ -19,6 +20,7 @@ Name "${NAME}"
 OutFile "${OUT}"
 RequestExecutionLevel admin
 ManifestDPIAware true
+BrandingText "${VENDOR}"
 SetCompressor ${COMPRESSION}
 VIProductVersion "${VERSION}"
 VIAddVersionKey "ProductName" "${NAME}"
@@ -41,10 +43,30 @@ VIAddVersionKey "LegalCopyright" "Copyright (c) ${VENDOR}"
 !insertmacro MUI_UNPAGE_INSTFILES
 !include installer-texts.nsh
 
+Var turn
+
+!macro GiveTurn
+    ${If} $turn != ""
+        FileClose $turn
+        Delete "$INSTDIR.lock"
+    ${EndIf}
+!macroend
+
 !macro Fail text code
+    !insertmacro GiveTurn
     MessageBox MB_OK|MB_ICONSTOP "${text}" /SD IDOK
     SetErrorLevel ${code}
     Quit
+!macroend
+
+; One at a time: two would take each other's new files for waste. The turn ends with this process at the latest.
+!macro TakeTurn
+    ClearErrors
+    FileOpen $turn "$INSTDIR.lock" w
+    ${If} ${Errors}
+        StrCpy $turn ""
+        !insertmacro Fail $(NotAlone) ${NOT_ALONE}
+    ${EndIf}
 !macroend
 
 ; Lets ryx-setup do its work on the installed product; its exit code is in $0 then.
@@ -54,6 +76,7 @@ VIAddVersionKey "LegalCopyright" "Copyright (c) ${VENDOR}"
     File "/oname=ryx-setup.exe" "${SETUP}"
     nsExec::ExecToLog '"$PLUGINSDIR\ryx-setup.exe" ${arguments}'
     Pop $0
+    SetOutPath "$TEMP" ; the folder of plug-ins could not be removed at the end
     ${If} $0 == "error" ; it could not even be started
         StrCpy $0 ${NOT_WRITTEN}
     ${EndIf}
@@ -85,6 +108,7 @@ FunctionEnd
 
 ; Everything is written beside the installed product first, which goes on running meanwhile.
 Section
+    !insertmacro TakeTurn
     RMDir /r "$INSTDIR.new"
     ClearErrors
     SetOverwrite try
@@ -123,13 +147,23 @@ Section
     WriteRegDWORD HKLM "${UNINSTALL_KEY}" "NoRepair" 1
     ${GetSize} "$INSTDIR" "/S=0K" $0 $1 $2
     WriteRegDWORD HKLM "${UNINSTALL_KEY}" "EstimatedSize" $0
+    !insertmacro GiveTurn
 SectionEnd
+
+; When a file could not be unpacked, as on a full disk.
+Function .onInstFailed
+    SetOutPath "$TEMP"
+    RMDir /r "$INSTDIR.new"
+    !insertmacro GiveTurn
+    SetErrorLevel ${NOT_WRITTEN}
+FunctionEnd
 
 Function un.onInit
     !insertmacro KnowPlaces
 FunctionEnd
 
 Section un.Install
+    !insertmacro TakeTurn
     !insertmacro RunSetup 'end "$INSTDIR"'
     ${If} $0 != 0
         !insertmacro Fail $(InUse) $0
@@ -142,4 +176,5 @@ Section un.Install
     DeleteRegKey HKLM "${EVENT_KEY}"
     DeleteRegKey HKLM "${PRODUCT_KEY}"
     DeleteRegKey /ifempty HKLM "Software\${VENDOR}"
+    !insertmacro GiveTurn
 SectionEnd
