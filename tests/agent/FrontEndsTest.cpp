@@ -59,7 +59,7 @@ TEST(FrontEnds, RunInEachSessionAsLongAsItsUserIsThere) {
             problem = QStringLiteral("logged off");
             return session == 3 ? nullptr : std::make_unique<Running>();
         }
-        std::vector<quint32> sessions{1, 2};
+        std::optional<std::vector<quint32>> sessions{{1, 2}};
         mutable std::map<quint32, std::function<void(quint32)>> end;
     } system;
     std::ostringstream lines;
@@ -67,7 +67,9 @@ TEST(FrontEnds, RunInEachSessionAsLongAsItsUserIsThere) {
     {
         SessionFrontEnds frontEnds(system, QStringLiteral("front-end"), {}, log, [] { return false; });
         frontEnds.Update();
-        system.sessions = {2, 3, 4};
+        system.sessions = {{2, 3, 4}};
+        frontEnds.Update();
+        system.sessions.reset(); // not told: nobody's front end is ended for that
         frontEnds.Update();
         system.end[2](0xc0000005);
         EXPECT_EQ(lines.str(), "front end of session 1 started as process 7\n"

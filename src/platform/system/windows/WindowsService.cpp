@@ -70,7 +70,7 @@ void WINAPI ServiceMain(DWORD, wchar_t**) {
 /// Whether somebody has logged on in the session; yes where the system does not tell, because a front end
 /// that runs there must not be ended for that.
 bool HasUser(const WTS_SESSION_INFOW& session) {
-    if (session.State != WTSActive && session.State != WTSDisconnected)
+    if (session.State == WTSListen) // for connections from elsewhere, which get sessions of their own
         return false;
     if (TokenOfSession(session.SessionId))
         return true;
@@ -93,8 +93,8 @@ public:
     }
 
     QString BeginService(const Notices& notices) const override {
-        // As the programs that it starts: one that lacks a library ends, and does not wait for somebody to
-        // close the system's message.
+        // The programs that it starts inherit this: one that lacks a library ends, and does not wait for
+        // somebody to close the system's message.
         SetErrorMode(SEM_FAILCRITICALERRORS);
         RunningService& service = RunningService::Instance();
         service.notices = notices;
