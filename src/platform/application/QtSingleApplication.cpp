@@ -28,6 +28,7 @@ QtSingleApplication::QtSingleApplication(const QString& id, int& argc, char** ar
                                        .arg(id)
                                        .arg(qHash(SystemPipe::Native().CurrentAccount()), 0, 16)
                                        .arg(session.SessionId()));
+    // Where the name is a path, beside that.
     const QString lockPath = QDir::temp().filePath(m_serverName + QStringLiteral(".lock"));
     m_lock = std::make_unique<QLockFile>(lockPath);
     m_lock->setStaleLockTime(0); // held as long as its process lives, however long
@@ -36,7 +37,7 @@ QtSingleApplication::QtSingleApplication(const QString& id, int& argc, char** ar
         m_startProblem = QStringLiteral("finds something else where its lock file stands: ") + lockPath;
         m_isRunning = Answers();
     } else {
-        m_isRunning = !m_lock->tryLock() && IsAnotherRunning();
+        m_isRunning = !m_lock->tryLock() && IsAnotherRunning(file.path());
     }
     if (!m_isRunning)
         Listen();
@@ -44,7 +45,7 @@ QtSingleApplication::QtSingleApplication(const QString& id, int& argc, char** ar
 
 QtSingleApplication::~QtSingleApplication() = default;
 
-bool QtSingleApplication::IsAnotherRunning() {
+bool QtSingleApplication::IsAnotherRunning(const QString& folder) {
     const QLockFile::LockError error = m_lock->error();
     qint64 owner = 0;
     QString host;
@@ -64,7 +65,7 @@ bool QtSingleApplication::IsAnotherRunning() {
     else
         m_startProblem = error == QLockFile::PermissionError ? QStringLiteral("may not write its lock file")
                                                              : QStringLiteral("cannot write its lock file");
-    m_startProblem += QStringLiteral(" in ") + QDir::tempPath();
+    m_startProblem += QStringLiteral(" in ") + folder;
     return false;
 }
 

@@ -40,7 +40,8 @@ signals:
     void messageReceived(const QString& message);
 
 private:
-    bool IsAnotherRunning();
+    /// When the lock file, in `folder`, could not be taken.
+    bool IsAnotherRunning(const QString& folder);
     bool Answers() const;
     /// Connects to the running instance, if it is this account's own, and lets it come to the foreground.
     bool Connect(QLocalSocket& socket) const;
