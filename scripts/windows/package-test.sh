@@ -24,8 +24,8 @@ install() {
 remove() {
     case $1 in
         exe)
-            printf '"%s\\Uninstall.exe" /S _?=%s\r\n' "$program_folder" "$program_folder" > "$work/remove.bat"
-            run_limited 120 wine cmd /c "$(windows_path "$work/remove.bat")" > /dev/null || return
+            printf '@"%s\\Uninstall.exe" /S _?=%s\r\n' "$program_folder" "$program_folder" > "$work/remove.bat"
+            run_limited 120 wine cmd /c "$(windows_path "$work/remove.bat")" || return
             rm "$installed/Uninstall.exe"
             rmdir "$installed"
             ;;
