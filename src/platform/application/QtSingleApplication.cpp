@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLocalSocket>
+#include <QThread>
 #include <QWidget>
 #include <glog/logging.h>
 
@@ -17,6 +18,7 @@ namespace {
 
 constexpr char Acknowledgement = '\x06';
 constexpr int MaxMessageBytes = 1024 * 1024;
+constexpr unsigned long ConnectPauseMs = 50;
 
 } // namespace
 
@@ -101,8 +103,11 @@ bool QtSingleApplication::sendMessage(const QString& message, int timeoutMs) {
     const auto left = [&deadline] { return static_cast<int>(deadline.remainingTime()); };
 
     QLocalSocket socket;
-    if (!Connect(socket))
-        return false;
+    while (!Connect(socket)) { // it is just starting, or busy with others
+        if (deadline.hasExpired())
+            return false;
+        QThread::msleep(ConnectPauseMs);
+    }
     // One block, seen off: a named pipe has one write under way at a time, and waiting to read starts none.
     QByteArray block;
     QDataStream stream(&block, QIODevice::WriteOnly);
